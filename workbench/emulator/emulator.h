@@ -1,0 +1,175 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/objects.h"
+#include "host/setting_ids.h"
+
+// The emulator stand-in, seen from the program that plays with it. The services themselves are the functions of
+// src/host; this page is how a program or a test sets up what they answer and sees what was asked of them. One state
+// per process, user-interface thread only.
+namespace emulator {
+
+// --- What the user sees and does ---------------------------------------------------------------------------------
+
+struct MessageBox {
+    std::uint32_t id = 0;  // 0 for a ready text
+    std::uint32_t owner = 0;
+    std::uint32_t flags = 0;
+    std::uint32_t helpId = 0;
+    bool scrolling = false;
+    std::vector<std::string> inserts;  // numbers in decimal
+    std::string text;                  // the finished sentence
+};
+
+// Every call-back arrives in the middle of a service call; exports of the library may be called from pump() and from
+// showMessage().
+class UserInterface {
+public:
+    virtual ~UserInterface() = default;
+    virtual std::int32_t showMessage(const MessageBox&) { return 1; }  // the button pressed
+    virtual bool connectionDialog() { return true; }                   // false: cancelled
+    virtual void pump() {}  // PumpMessages or progress command 16: the user acts here
+    virtual void progressCreated(std::uint32_t /*direction*/, std::uint32_t /*mode*/) {}
+    virtual void progressCommand(std::uint32_t /*command*/) {}
+    virtual void progressNames(const std::string& /*pcName*/, const std::string& /*hostName*/) {}
+    virtual void progressTotal(std::uint32_t /*total*/, std::uint32_t /*unit*/) {}
+    virtual void progressHidden(bool /*hidden*/) {}
+    virtual void progressDestroyed() {}
+    virtual void displayCreated(const std::string& /*title*/) {}
+    virtual void displayBegin(std::int32_t /*rowsPerPage*/) {}
+    virtual void displayColumn(std::uint32_t /*index*/, const std::string& /*title*/, std::uint32_t /*width*/,
+                               std::uint32_t /*alignment*/) {}
+    virtual void displayRow() {}
+    virtual void displayCell(std::uint32_t /*row*/, std::uint32_t /*column*/, const std::string& /*text*/) {}
+    virtual void displayStatus(const std::string& /*text*/) {}
+    virtual void displayEnd() {}
+    virtual void displayDestroyed() {}
+    // Result of the shell: 32 and above is success.
+    virtual std::int32_t shellExecute(const std::string& /*file*/, const std::string& /*parameters*/) { return 33; }
+};
+
+// Null restores one that answers 1 to everything.
+void setUserInterface(UserInterface* userInterface);
+
+// The user asks for the next page or closes the window of the display that is open: calls the notification that
+// TextDisplayCreate was given. Nothing when there is none.
+void requestNextPage();
+void closeDisplay();
+
+// --- The PC ------------------------------------------------------------------------------------------------------
+
+struct PcSetup {
+    std::uint32_t ansiCodePage = 1252;
+    std::uint32_t oemCodePage = 850;
+    std::uint16_t languageId = 0x0409;
+    char decimalSeparator = '.';
+    char listSeparator = ',';
+};
+
+// Fills the posix layer's PC from the code page data (on Windows: checks that the PC is so, and returns false when it
+// is not). False when a code page is not in the data.
+bool setUpPc(const PcSetup& setup);
+
+// Where the code page data stands; otherwise $Z7X_CODE_PAGES, then beside the emulator library.
+void setCodePageDataFile(const std::string& path);
+
+// The folder in which provider libraries are looked for, by LoadModule and by the path services' "file exists".
+void setProviderFolder(const std::string& folder);
+
+// --- Sessions and their settings ---------------------------------------------------------------------------------
+
+// Forgets every session, setting, journal line, fault and allocation count, and puts the user interface, the PC and the
+// provider folder back to their defaults.
+void reset();
+
+// A session with all settings 0 and empty but HostCodePage 37; the handles of its parts differ from one another.
+host::SessionHandle newSession();
+
+// By the user: watchers are called, with the old value, as in the emulator. By a service call they are called too.
+void set(host::SessionHandle session, std::uint32_t id, std::int32_t value);
+void set(host::SessionHandle session, std::uint32_t id, const std::string& value);
+std::int32_t number(host::SessionHandle session, std::uint32_t id);
+std::string text(host::SessionHandle session, std::uint32_t id);
+
+// What entry 91 of the session services table answers. Absent: the entry is null.
+struct Clauses {
+    std::string select, where, orderBy, groupBy, having, join;
+    bool absent = false;
+};
+void setClauses(host::SessionHandle session, const Clauses& clauses);
+
+// Messages that IsMessageEnabled rejects (id 0: messages in general).
+void disableMessage(std::uint32_t id);
+
+// Application command 67 (a settings file): called with the text; false makes CheckCommandFailed report a failure.
+void setSettingsFileReader(std::function<bool(host::SessionHandle, const std::string&)> reader);
+
+// Runs the clean-up call-back registered in `slot`, as the emulator does when a session ends.
+void runCleanup(host::SessionHandle session, std::uint32_t slot);
+
+// A path of the operating system's for a PC file name (either separator, optional drive letter, any case).
+std::string nativePath(std::string_view pcName);
+
+// --- The named store ---------------------------------------------------------------------------------------------
+
+struct StoreItem {
+    std::string value;         // the last value written
+    std::uint32_t writes = 0;  // how many there were
+};
+// By four-character code ("XUGI"). Empty when never written.
+StoreItem storeItem(std::string_view code);
+// Called with every value written, after the item took it.
+void onStoreWrite(std::function<void(std::string_view code, std::string_view value)> listener);
+
+// --- The journal -------------------------------------------------------------------------------------------------
+
+// Every service call in order while the journal is on (it is off at first), one line each:
+//     GetSetting(7, 215 TransportType) = 9
+//     FileObject.write("A,B\r\n", 5) = 1
+//     LockStoreList(1, X4RP) = 1
+// Texts and bytes stand in double quotes, with \r \n \t \\ \" and \xHH; handles and numbers in decimal; store parts by
+// their code; a setting's number is followed by its name; addresses that are no texts as "*". Bytes beyond 64 are cut,
+// with "..." behind the quote. Calls without a result have no " = ". Allocations are not journalled.
+void journalOn(bool on);
+const std::vector<std::string>& journal();
+void clearJournal();
+// A line of the program's own, in its place among the others.
+void note(const std::string& line);
+
+// --- Faults and accounts -----------------------------------------------------------------------------------------
+
+struct Faults {
+    std::uint64_t failAllocation = 0;  // the Nth AllocateObject or ReallocateObject from now on, 0 = none
+    bool failAllAfter = false;         // ... and every one behind it
+    bool refuseStore = false;          // OpenStore gives 0
+    bool refuseStoreLock = false;
+    std::int64_t failWriteAfterBytes = -1;  // file writes fail once so many bytes are written, -1 = never
+    bool refuseProgressDialog = false;
+    bool refuseTextDisplay = false;  // TextDisplayCreate gives 0
+    bool refuseTextDisplayBegin = false;
+    bool refuseFileObject = false;
+    bool failConversion = false;  // ConvertHostText gives 1
+    bool refuseGlobalMemory = false;
+};
+void setFaults(const Faults& faults);
+
+struct Allocations {
+    std::uint64_t calls = 0;       // AllocateObject and ReallocateObject so far
+    std::uint64_t liveBlocks = 0;  // not yet freed
+    std::uint64_t liveBytes = 0;
+    std::uint64_t peakBytes = 0;
+};
+Allocations allocations();
+
+struct OpenObjects {
+    std::uint32_t files = 0, progressDialogs = 0, textDisplays = 0, modules = 0, watches = 0, lockedLists = 0;
+};
+OpenObjects openObjects();
+
+}  // namespace emulator
