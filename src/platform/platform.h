@@ -32,6 +32,9 @@ void GlobalFree(void* handle);
 // Milliseconds since some fixed moment; wraps around after 2^32.
 std::uint32_t GetTickCount();
 
+// Lets other programs run for about so many milliseconds.
+void Sleep(std::uint32_t milliseconds);
+
 // --- Windows and shell -------------------------------------------------------------------------------------------
 
 bool IsWindow(std::uint32_t window);

@@ -1,0 +1,19 @@
+#include <iterator>
+
+#include "client/library.h"
+#include "module.h"
+
+// The library is attached to the process when it is loaded; its module is the record of its string resources.
+namespace {
+
+constexpr PosixModule::Row rows[] = {
+#define RESOURCE(id, text) {id, text},
+#include "resources/strings.def"
+#undef RESOURCE
+};
+
+PosixModule ownModule = {rows, std::size(rows)};
+
+[[gnu::constructor]] void attach() { client::attachLibrary(&ownModule); }
+
+}  // namespace
