@@ -18,7 +18,7 @@ namespace emulator {
 // --- What the user sees and does ---------------------------------------------------------------------------------
 
 struct MessageBox {
-    std::uint32_t id = 0;  // 0 for a ready text
+    std::uint32_t id = 0;  // 0 for a ready text and for the boxes of file objects
     std::uint32_t owner = 0;
     std::uint32_t flags = 0;
     std::uint32_t helpId = 0;
@@ -28,7 +28,13 @@ struct MessageBox {
 };
 
 // Every call-back arrives in the middle of a service call; exports of the library may be called from pump() and from
-// showMessage().
+// showMessage(). Progress command 16 arrives as progressCommand(16) and then pump().
+//
+// A file object that is to write an existing file without being told what to do with it asks with a question box:
+// flags 0x23 (Yes, No, Cancel), where 6, 1 and 10 replace the file and 7 adds to it; or, for a file that cannot be
+// added to, flags 0x21 (OK, Cancel), where 1, 6 and 10 replace it. Every other answer leaves the file alone. Its errors
+// come in a box with flags 0x30 that names the file and the operating system's reason, unless messages in general are
+// disabled.
 class UserInterface {
 public:
     virtual ~UserInterface() = default;
@@ -79,7 +85,9 @@ bool setUpPc(const PcSetup& setup);
 // Where the code page data stands; otherwise $Z7X_CODE_PAGES, then beside the emulator library.
 void setCodePageDataFile(const std::string& path);
 
-// The folder in which provider libraries are looked for, by LoadModule and by the path services' "file exists".
+// The folder in which provider libraries are looked for, by LoadModule and by the path services' "file exists", without
+// regard to case; behind it both look for a PC file of the name. Otherwise the folder "providers" beside the emulator
+// library. LoadModule gives 2 for a file that is not there and 193 for one that is no library.
 void setProviderFolder(const std::string& folder);
 
 // --- Sessions and their settings ---------------------------------------------------------------------------------
@@ -88,10 +96,12 @@ void setProviderFolder(const std::string& folder);
 // provider folder back to their defaults.
 void reset();
 
-// A session with all settings 0 and empty but HostCodePage 37; the handles of its parts differ from one another.
+// A session with all settings 0 and empty but HostCodePage 37. The last digit of a handle says which part of the
+// session it is: 1 session, 2 application, 3 window, 4 converter, 5 text services, 7 settings.
 host::SessionHandle newSession();
 
-// By the user: watchers are called, with the old value, as in the emulator. By a service call they are called too.
+// By the user: watchers are called, with the old value, as in the emulator. By a service call they are called too, and
+// also when the value stays the same. Text settings have no watchers.
 void set(host::SessionHandle session, std::uint32_t id, std::int32_t value);
 void set(host::SessionHandle session, std::uint32_t id, const std::string& value);
 std::int32_t number(host::SessionHandle session, std::uint32_t id);
@@ -104,16 +114,18 @@ struct Clauses {
 };
 void setClauses(host::SessionHandle session, const Clauses& clauses);
 
-// Messages that IsMessageEnabled rejects (id 0: messages in general).
+// Messages that IsMessageEnabled rejects. Id 0: messages in general, and so every one.
 void disableMessage(std::uint32_t id);
 
 // Application command 67 (a settings file): called with the text; false makes CheckCommandFailed report a failure.
+// Without a reader the command fails.
 void setSettingsFileReader(std::function<bool(host::SessionHandle, const std::string&)> reader);
 
 // Runs the clean-up call-back registered in `slot`, as the emulator does when a session ends.
 void runCleanup(host::SessionHandle session, std::uint32_t slot);
 
-// A path of the operating system's for a PC file name (either separator, optional drive letter, any case).
+// A path of the operating system's for a PC file name in the PC's ANSI code page (either separator, optional drive
+// letter, any case, relative to the directory that the path services were given).
 std::string nativePath(std::string_view pcName);
 
 // --- The named store ---------------------------------------------------------------------------------------------
@@ -122,7 +134,7 @@ struct StoreItem {
     std::string value;         // the last value written
     std::uint32_t writes = 0;  // how many there were
 };
-// By four-character code ("XUGI"). Empty when never written.
+// By four-character code ("XUGI"). Empty when never written. A value is taken only while its list is locked.
 StoreItem storeItem(std::string_view code);
 // Called with every value written, after the item took it.
 void onStoreWrite(std::function<void(std::string_view code, std::string_view value)> listener);
@@ -134,8 +146,19 @@ void onStoreWrite(std::function<void(std::string_view code, std::string_view val
 //     FileObject.write("A,B\r\n", 5) = 1
 //     LockStoreList(1, X4RP) = 1
 // Texts and bytes stand in double quotes, with \r \n \t \\ \" and \xHH; handles and numbers in decimal; store parts by
-// their code; a setting's number is followed by its name; addresses that are no texts as "*". Bytes beyond 64 are cut,
-// with "..." behind the quote. Calls without a result have no " = ". Allocations are not journalled.
+// their code; a setting's number is followed by its name; addresses that are no texts as "*", null as 0. Bytes beyond
+// 64 are cut, with "..." behind the quote. Calls without a result have no " = ". Allocations are not journalled.
+//
+// Arguments stand in their order, the object of an object operation left out. A buffer or handle that the call fills
+// shows what it was filled with:
+//     GetStringSetting(7, 40 HostSystemName, "AS400A", 301) = 1
+//     FileObject.read("A,B\r\n", 4095) = 5
+//     PathServices.baseName("C:\\DATA\\CUST.TXT", "CUST")
+//     OpenStoreItem(1, X4RP, XDTI, 0, XDTI)
+// Converted text shows as it was before; records stand as their fields, so RunAppCommand(2, 67, 24, 3, 32, "A.SET").
+// A line is written when its call begins: what happens inside a call follows it, and its result is added at its end.
+// Operations are FileObject, PathServices, CodePageServices and SessionServices, a period and the name they have in
+// objects.h; the scrolling box is zhstMessageBox_scroll.
 void journalOn(bool on);
 const std::vector<std::string>& journal();
 void clearJournal();
@@ -149,7 +172,9 @@ struct Faults {
     bool failAllAfter = false;         // ... and every one behind it
     bool refuseStore = false;          // OpenStore gives 0
     bool refuseStoreLock = false;
-    std::int64_t failWriteAfterBytes = -1;  // file writes fail once so many bytes are written, -1 = never
+    // File writes fail, with the reason of a full disk, once so many bytes were written to all files from now on; the
+    // write that would go beyond writes nothing. -1 = never.
+    std::int64_t failWriteAfterBytes = -1;
     bool refuseProgressDialog = false;
     bool refuseTextDisplay = false;  // TextDisplayCreate gives 0
     bool refuseTextDisplayBegin = false;

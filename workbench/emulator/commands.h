@@ -1,0 +1,7 @@
+#pragma once
+
+namespace emulator {
+
+void resetCommands();
+
+}  // namespace emulator

@@ -1,0 +1,89 @@
+#include "emulator/conversion.h"
+
+#include <algorithm>
+#include <cstring>
+#include <map>
+#include <tuple>
+
+#include "emulator/code_pages.h"
+#include "emulator/faults.h"
+#include "emulator/journal.h"
+#include "host/conversion.h"
+#include "host/setting_ids.h"
+
+namespace emulator {
+namespace {
+
+void makeTables(ConversionTables& tables, std::int32_t hostPage) {
+    const codepages::CodePage* host = hostCodePage(hostPage);
+    const codepages::CodePage* pc = ansiPage();
+    tables.made = true;
+    tables.hostPage = hostPage;
+    tables.pcNumber = pcSetupNumber();
+    tables.usable = host && host->isHost() && pc;
+    if (!tables.usable) return;
+    tables.hostToPc = codepages::hostToPc(*host, *pc);
+    tables.pcToHost = codepages::pcToHost(*pc, *host);
+}
+
+std::uint32_t convert(Session* session, std::uint32_t direction, std::uint32_t length, void* buffer) {
+    const ConversionTables* tables = session && !faults().failConversion ? conversionTables(*session) : nullptr;
+    if (!tables) return 1;
+    const auto& table = direction == host::HostToPc ? tables->hostToPc : tables->pcToHost;
+    auto* bytes = static_cast<std::uint8_t*>(buffer);
+    for (std::uint32_t i = 0; i < length; ++i) bytes[i] = table[bytes[i]];
+    return 0;
+}
+
+// Made once per pair of pages: a table of pairs takes a walk over a whole page.
+const std::vector<std::uint8_t>& keptCodeTable(std::uint32_t kind, const codepages::CodePage& host,
+                                               const codepages::CodePage& pc) {
+    static std::map<std::tuple<std::uint32_t, std::uint32_t, std::uint32_t, std::uint64_t>, std::vector<std::uint8_t>>
+        made;
+    const auto [entry, isNew] = made.try_emplace({kind, host.number(), pc.number(), codeDataNumber()});
+    if (isNew) entry->second = codepages::codeTable(kind, host, pc);
+    return entry->second;
+}
+
+std::uint32_t ZHST_CALL isDoubleByte(void*, std::int32_t number) {
+    const codepages::CodePage* page = hostCodePage(number);
+    return journalled::Call("CodePageServices.isDoubleByte", number).result(page && page->isDoubleByte() ? 1u : 0u);
+}
+
+}  // namespace
+
+const ConversionTables* conversionTables(Session& session) {
+    ConversionTables& tables = session.conversion;
+    const std::int32_t hostPage = session.numbers[host::setting::HostCodePage];
+    if (!tables.made || tables.hostPage != hostPage || tables.pcNumber != pcSetupNumber()) [[unlikely]]
+        makeTables(tables, hostPage);
+    return tables.usable ? &tables : nullptr;
+}
+
+void* const* codePageServicesTable() {
+    static void* const operations[] = {
+        nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, reinterpret_cast<void*>(&isDoubleByte)};
+    return operations;
+}
+
+}  // namespace emulator
+
+using namespace emulator;
+using journalled::Call;
+
+std::uint32_t ZHST_CALL zhstConvertHostText(host::ConverterHandle converter, std::uint32_t direction,
+                                            std::uint32_t length, void* buffer) {
+    const Call call("ConvertHostText", converter, direction, length, journalled::Bytes{buffer, length});
+    return call.result(convert(findSession(converter, SessionPart::Converter), direction, length, buffer));
+}
+
+void ZHST_CALL zhstLoadCodeTable(host::SessionHandle session, void* table, std::uint32_t kind, std::int32_t hostPage,
+                                 std::uint32_t size) {
+    Call("LoadCodeTable", session, journalled::Address{table}, kind, hostPage, size);
+    const codepages::CodePage* host = hostCodePage(hostPage);
+    const codepages::CodePage* pc = ansiPage();
+    if (!table || !host || !pc) return;
+    const auto& contents = keptCodeTable(kind, *host, *pc);
+    if (contents.empty()) return;
+    std::memcpy(table, contents.data(), std::min<std::size_t>(size, contents.size()));
+}

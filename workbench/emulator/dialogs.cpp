@@ -1,0 +1,104 @@
+#include "emulator/dialogs.h"
+
+#include <map>
+#include <string>
+
+#include "emulator/faults.h"
+#include "emulator/journal.h"
+#include "emulator/sessions.h"
+#include "emulator/user_interface.h"
+#include "host/dialogs.h"
+
+namespace emulator {
+namespace {
+
+struct ProgressDialog {
+    std::string pcName, hostName;
+};
+
+std::map<host::ProgressDialogHandle, ProgressDialog> dialogs;
+host::ProgressDialogHandle lastHandle = 0;
+
+ProgressDialog* find(host::ProgressDialogHandle handle) {
+    const auto found = dialogs.find(handle);
+    return found == dialogs.end() ? nullptr : &found->second;
+}
+
+host::ProgressDialogHandle create(std::uint32_t direction, std::uint32_t mode) {
+    if (faults().refuseProgressDialog) return 0;
+    dialogs.emplace(++lastHandle, ProgressDialog{});
+    userInterface().progressCreated(direction, mode);
+    return lastHandle;
+}
+
+void setHidden(const char* name, host::ProgressDialogHandle dialog, bool hidden) {
+    const journalled::Call call(name, dialog);
+    if (find(dialog)) userInterface().progressHidden(hidden);
+}
+
+}  // namespace
+
+std::uint32_t openProgressDialogs() { return static_cast<std::uint32_t>(dialogs.size()); }
+
+void resetDialogs() {
+    dialogs.clear();
+    lastHandle = 0;
+}
+
+}  // namespace emulator
+
+using namespace emulator;
+using journalled::Call;
+
+host::ProgressDialogHandle ZHST_CALL zhstProgressDialogCreate(host::SessionHandle session, std::uint32_t direction,
+                                                              std::uint32_t mode, std::uint32_t reserved) {
+    const Call call("ProgressDialogCreate", session, direction, mode, reserved);
+    return call.result(create(direction, mode));
+}
+
+void ZHST_CALL zhstProgressDialogCommand(host::ProgressDialogHandle dialog, std::uint32_t command) {
+    const Call call("ProgressDialogCommand", dialog, command);
+    if (!find(dialog)) return;
+    userInterface().progressCommand(command);
+    if (command == static_cast<std::uint32_t>(host::ProgressCommand::ProcessMessages)) userInterface().pump();
+}
+
+void ZHST_CALL zhstProgressDialogDestroy(host::ProgressDialogHandle dialog) {
+    const Call call("ProgressDialogDestroy", dialog);
+    if (dialogs.erase(dialog) > 0) userInterface().progressDestroyed();
+}
+
+void ZHST_CALL zhstProgressDialogSetPcName(host::ProgressDialogHandle handle, const char* text) {
+    const Call call("ProgressDialogSetPcName", handle, text);
+    ProgressDialog* dialog = find(handle);
+    if (!dialog) return;
+    dialog->pcName = text ? text : "";
+    userInterface().progressNames(dialog->pcName, dialog->hostName);
+}
+
+void ZHST_CALL zhstProgressDialogSetHostName(host::ProgressDialogHandle handle, const char* text) {
+    const Call call("ProgressDialogSetHostName", handle, text);
+    ProgressDialog* dialog = find(handle);
+    if (!dialog) return;
+    dialog->hostName = text ? text : "";
+    userInterface().progressNames(dialog->pcName, dialog->hostName);
+}
+
+void ZHST_CALL zhstProgressDialogSetTotal(host::ProgressDialogHandle dialog, std::uint32_t total, std::uint32_t unit) {
+    const Call call("ProgressDialogSetTotal", dialog, total, unit);
+    if (find(dialog)) userInterface().progressTotal(total, unit);
+}
+
+void ZHST_CALL zhstProgressDialogHide(host::ProgressDialogHandle dialog) {
+    setHidden("ProgressDialogHide", dialog, true);
+}
+
+void ZHST_CALL zhstProgressDialogShow(host::ProgressDialogHandle dialog) {
+    setHidden("ProgressDialogShow", dialog, false);
+}
+
+std::uint32_t ZHST_CALL zhstConnectionDialog(host::SessionHandle session, host::ModuleHandle module,
+                                             host::WindowHandle owner) {
+    const Call call("ConnectionDialog", session, journalled::Address{module}, owner);
+    return call.result(userInterface().connectionDialog() ? 1u : 0u);
+}

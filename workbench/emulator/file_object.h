@@ -1,0 +1,10 @@
+#pragma once
+
+#include <cstdint>
+
+namespace emulator {
+
+std::uint32_t liveFileObjects();
+void resetFileObjects();
+
+}  // namespace emulator

@@ -1,0 +1,131 @@
+#include "emulator/journal.h"
+
+#include <algorithm>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include "emulator/emulator.h"
+
+namespace emulator {
+namespace {
+
+std::vector<std::string> lines;
+// A call that was under way when the journal was cleared must not write its result into a younger line.
+std::uint64_t journalNumber = 0;
+
+const char* settingName(std::uint32_t id) {
+    static const auto* const names = [] {
+        auto* made = new std::unordered_map<std::uint32_t, const char*>;
+        for (const auto& row : host::setting::rows) made->emplace(row.number, row.name);
+        return made;
+    }();
+    const auto found = names->find(id);
+    return found == names->end() ? nullptr : found->second;
+}
+
+void appendByte(std::string& line, unsigned char byte) {
+    static constexpr char Digits[] = "0123456789ABCDEF";
+    switch (byte) {
+        case '\r':
+            line += "\\r";
+            return;
+        case '\n':
+            line += "\\n";
+            return;
+        case '\t':
+            line += "\\t";
+            return;
+        case '\\':
+            line += "\\\\";
+            return;
+        case '"':
+            line += "\\\"";
+            return;
+        default:
+            break;
+    }
+    if (byte >= 0x20 && byte < 0x7F) {
+        line += static_cast<char>(byte);
+        return;
+    }
+    line += "\\x";
+    line += Digits[byte >> 4];
+    line += Digits[byte & 0x0F];
+}
+
+}  // namespace
+
+namespace journalled {
+
+bool active = false;
+
+void append(std::string& line, std::string_view text) {
+    constexpr std::size_t Longest = 64;
+    line += '"';
+    for (const char byte : text.substr(0, Longest)) appendByte(line, static_cast<unsigned char>(byte));
+    line += '"';
+    if (text.size() > Longest) line += "...";
+}
+
+void append(std::string& line, const char* text) {
+    if (text)
+        append(line, std::string_view(text));
+    else
+        line += '0';
+}
+
+void append(std::string& line, Setting setting) {
+    line += std::to_string(setting.id);
+    if (const char* name = settingName(setting.id)) line.append(" ").append(name);
+}
+
+void append(std::string& line, Code code) {
+    if (code.code == 0) {
+        line += '0';
+        return;
+    }
+    for (int shift = 24; shift >= 0; shift -= 8) line += static_cast<char>(code.code >> shift);
+}
+
+void append(std::string& line, Bytes bytes) {
+    if (bytes.bytes)
+        append(line, std::string_view(static_cast<const char*>(bytes.bytes), bytes.length));
+    else
+        line += '0';
+}
+
+void append(std::string& line, Address address) { line += address.address ? '*' : '0'; }
+
+void Call::place(std::string line) {
+    written_ = true;
+    place_ = lines.size();
+    journalNumber_ = journalNumber;
+    lines.push_back(std::move(line));
+}
+
+void Call::complete(const std::string& result) const {
+    if (journalNumber_ == journalNumber) lines[place_] += " = " + result;
+}
+
+void reset() {
+    active = false;
+    clearJournal();
+}
+
+}  // namespace journalled
+
+void journalOn(bool on) { journalled::active = on; }
+
+const std::vector<std::string>& journal() { return lines; }
+
+void clearJournal() {
+    lines.clear();
+    ++journalNumber;
+}
+
+void note(const std::string& line) {
+    if (journalled::active) lines.push_back(line);
+}
+
+}  // namespace emulator

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <concepts>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+// Writes the journal. A service makes one Call at the place where its line belongs: at its beginning when other
+// services can be called from inside it, behind its work when the line shows what the call filled. While the journal is
+// off that costs one test.
+namespace emulator::journalled {
+
+struct Setting {
+    std::uint32_t id;
+};
+// Four characters of a store part; 0 is no part.
+struct Code {
+    std::uint32_t code;
+};
+struct Bytes {
+    const void* bytes;
+    std::size_t length;
+};
+struct Address {
+    const void* address;
+};
+
+extern bool active;
+
+void append(std::string& line, std::integral auto number) { line += std::to_string(number); }
+void append(std::string& line, const char* text);
+void append(std::string& line, std::string_view text);
+void append(std::string& line, Setting setting);
+void append(std::string& line, Code code);
+void append(std::string& line, Bytes bytes);
+void append(std::string& line, Address address);
+
+class Call {
+public:
+    template <class... Arguments>
+    explicit Call(const char* name, const Arguments&... arguments) {
+        if (active) [[unlikely]]
+            begin(name, arguments...);
+    }
+
+    template <class Result>
+    Result result(Result value) const {
+        if (written_) [[unlikely]]
+            finish(value);
+        return value;
+    }
+
+private:
+    template <class... Arguments>
+    void begin(const char* name, const Arguments&... arguments) {
+        std::string line = std::string(name) + '(';
+        [[maybe_unused]] const char* separator = "";
+        ((line += separator, append(line, arguments), separator = ", "), ...);
+        place(line + ')');
+    }
+    template <class Result>
+    void finish(Result value) const {
+        std::string text;
+        append(text, value);
+        complete(text);
+    }
+    void place(std::string line);
+    void complete(const std::string& result) const;
+
+    bool written_ = false;
+    std::size_t place_ = 0;
+    std::uint64_t journalNumber_ = 0;
+};
+
+// Off and empty.
+void reset();
+
+}  // namespace emulator::journalled

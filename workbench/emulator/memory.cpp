@@ -1,0 +1,106 @@
+#include "emulator/memory.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+#include "emulator/emulator.h"
+#include "emulator/faults.h"
+#include "host/runtime.h"
+
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/asan_interface.h>
+#else
+#define ASAN_POISON_MEMORY_REGION(address, size) ((void)(address), (void)(size))
+#define ASAN_UNPOISON_MEMORY_REGION(address, size) ((void)(address), (void)(size))
+#endif
+
+namespace emulator {
+namespace {
+
+// Stands in front of every block, so that the accounts are exact without a look-up. Under the address sanitizer it is
+// poisoned: a write in front of a block is found.
+struct alignas(16) BlockHeader {
+    std::uint32_t size;
+    std::uint32_t mark;
+    std::uint64_t account;  // which reset() the block was made under
+};
+
+constexpr std::uint32_t Live = 0x4B4C4256;
+constexpr std::uint32_t Freed = 0xDEADB10C;
+
+Allocations account;
+std::uint64_t accountNumber = 0;
+
+BlockHeader* openHeader(void* block) {
+    BlockHeader* header = static_cast<BlockHeader*>(block) - 1;
+    ASAN_UNPOISON_MEMORY_REGION(header, sizeof(BlockHeader));
+    if (header->mark == Live) return header;
+    std::fputs("emulator: a block was freed or resized that AllocateObject did not give, or twice\n", stderr);
+    std::abort();
+}
+
+void* enter(BlockHeader* header, std::uint32_t size) {
+    *header = BlockHeader{size, Live, accountNumber};
+    ++account.liveBlocks;
+    account.liveBytes += size;
+    account.peakBytes = std::max(account.peakBytes, account.liveBytes);
+    ASAN_POISON_MEMORY_REGION(header, sizeof(BlockHeader));
+    return header + 1;
+}
+
+void strike(const BlockHeader& header) {
+    if (header.account != accountNumber) return;
+    --account.liveBlocks;
+    account.liveBytes -= header.size;
+}
+
+}  // namespace
+
+Allocations allocations() { return account; }
+
+void memory::reset() {
+    account = {};
+    ++accountNumber;
+}
+
+}  // namespace emulator
+
+using namespace emulator;
+
+void* ZHST_CALL zhstAllocateObject(std::uint32_t size, std::uint32_t zeroFill) {
+    ++account.calls;
+    if (!allocationAllowed()) return nullptr;
+    const std::size_t whole = sizeof(BlockHeader) + size;
+    // The C library answers small blocks faster than zeroed ones; of large ones it knows which are zero already.
+    constexpr std::size_t Large = 64 * 1024;
+    void* raw = zeroFill && whole >= Large ? std::calloc(whole, 1) : std::malloc(whole);
+    if (!raw) return nullptr;
+    void* block = enter(static_cast<BlockHeader*>(raw), size);
+    return zeroFill && whole < Large ? std::memset(block, 0, size) : block;
+}
+
+void ZHST_CALL zhstFreeObject(void* block) {
+    if (!block) return;
+    BlockHeader* header = openHeader(block);
+    strike(*header);
+    header->mark = Freed;
+    std::free(header);
+}
+
+void* ZHST_CALL zhstReallocateObject(void* block, std::uint32_t newSize) {
+    if (!block) return zhstAllocateObject(newSize, 0);
+    ++account.calls;
+    if (!allocationAllowed()) return nullptr;
+    BlockHeader* header = openHeader(block);
+    const BlockHeader before = *header;
+    void* moved = std::realloc(header, sizeof(BlockHeader) + static_cast<std::size_t>(newSize));
+    if (!moved) {
+        ASAN_POISON_MEMORY_REGION(header, sizeof(BlockHeader));
+        return nullptr;
+    }
+    strike(before);
+    return enter(static_cast<BlockHeader*>(moved), newSize);
+}

@@ -1,0 +1,183 @@
+#include "emulator/messages.h"
+
+#include <cstring>
+#include <set>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "emulator/catalogue.h"
+#include "emulator/inserts.h"
+#include "emulator/journal.h"
+#include "emulator/sessions.h"
+#include "emulator/text_records.h"
+#include "emulator/user_interface.h"
+#include "host/session.h"
+
+namespace emulator {
+namespace {
+
+using journalled::Call;
+
+std::set<std::uint32_t> disabled;
+
+// One insert, and which of the two it is.
+struct Insert {
+    bool isNumber;
+    std::uint32_t number;
+    const char* text;
+
+    std::string shown() const { return isNumber ? std::to_string(number) : std::string(text ? text : ""); }
+};
+
+void append(std::string& line, const Insert& insert) {
+    if (insert.isNumber)
+        journalled::append(line, insert.number);
+    else
+        journalled::append(line, insert.text);
+}
+
+Insert textInsert(const char* text) { return {false, 0, text}; }
+Insert numberInsert(std::uint32_t number) { return {true, number, nullptr}; }
+
+// The catalogue says what the place holds; a place it does not know is a number.
+Insert insertAt(const catalogue::Message& message, std::size_t place, host::MessageInsert value) {
+    if (place < message.inserts.size() && message.inserts[place] == 't')
+        return textInsert(reinterpret_cast<const char*>(value));
+    return numberInsert(static_cast<std::uint32_t>(value));
+}
+
+std::string withoutTrailingBlanks(std::string text) {
+    while (!text.empty() && text.back() == ' ') text.pop_back();
+    return text;
+}
+
+// What all message boxes are given in front of their inserts.
+struct BoxHead {
+    host::WindowHandle owner;
+    std::uint32_t id, flags, helpId;
+};
+
+std::int32_t show(const BoxHead& head, std::span<const Insert> inserts) {
+    MessageBox box;
+    box.id = head.id;
+    box.owner = head.owner;
+    box.flags = head.flags;
+    box.helpId = head.helpId;
+    for (const Insert& insert : inserts) box.inserts.push_back(insert.shown());
+    box.text = withoutTrailingBlanks(fillInserts(catalogue::findMessage(head.id).text, box.inserts));
+    return userInterface().showMessage(box);
+}
+
+std::int32_t showReady(const BoxHead& head, bool scrolling, const char* text) {
+    MessageBox box;
+    box.id = head.id;
+    box.owner = head.owner;
+    box.flags = head.flags;
+    box.helpId = head.helpId;
+    box.scrolling = scrolling;
+    box.text = text ? text : "";
+    return userInterface().showMessage(box);
+}
+
+}  // namespace
+
+void disableMessage(std::uint32_t id) { disabled.insert(id); }
+
+bool messageEnabled(std::uint32_t id) { return !disabled.contains(0) && !disabled.contains(id); }
+
+MessageBox readyTextBox(host::SessionHandle handle) {
+    MessageBox box;
+    if (const Session* session = findSession(handle, SessionPart::Session))
+        box.owner = session->handle(SessionPart::Window);
+    return box;
+}
+
+void resetMessages() { disabled.clear(); }
+
+}  // namespace emulator
+
+using namespace emulator;
+
+std::uint32_t ZHST_CALL zhstIsMessageEnabled(host::SettingsHandle settings, std::uint32_t id) {
+    return Call("IsMessageEnabled", settings, id).result(messageEnabled(id) ? 1u : 0u);
+}
+
+void ZHST_CALL zhstLoadMessageText(host::SessionHandle session, std::uint32_t table, std::uint32_t index, char* buffer,
+                                   std::uint32_t size) {
+    if (size > 0) {
+        const std::string_view text = catalogue::findText(table, index).text.substr(0, size - 1);
+        std::memcpy(buffer, text.data(), text.size());
+        buffer[text.size()] = 0;
+    }
+    Call("LoadMessageText", session, table, index, static_cast<const char*>(size > 0 ? buffer : nullptr), size);
+}
+
+std::uint32_t ZHST_CALL zhstMessageId(std::uint32_t table, std::uint32_t index) {
+    return Call("MessageId", table, index).result(catalogue::messageId(table, index));
+}
+
+std::int32_t ZHST_CALL zhstShowMessage(host::SessionHandle session, host::WindowHandle owner, std::uint32_t id,
+                                       std::uint32_t flags, std::uint32_t one, std::uint32_t helpId) {
+    const Call call("ShowMessage", session, owner, id, flags, one, helpId);
+    return call.result(show({owner, id, flags, helpId}, {}));
+}
+
+std::int32_t ZHST_CALL zhstShowMessage1(host::SessionHandle session, host::WindowHandle owner, std::uint32_t id,
+                                        std::uint32_t flags, std::uint32_t one, std::uint32_t helpId,
+                                        const char* insert1) {
+    const Insert inserts[] = {textInsert(insert1)};
+    const Call call("ShowMessage1", session, owner, id, flags, one, helpId, inserts[0]);
+    return call.result(show({owner, id, flags, helpId}, inserts));
+}
+
+std::int32_t ZHST_CALL zhstShowMessage2(host::SessionHandle session, host::WindowHandle owner, std::uint32_t id,
+                                        std::uint32_t flags, std::uint32_t one, std::uint32_t helpId,
+                                        host::MessageInsert insert1, host::MessageInsert insert2) {
+    const catalogue::Message message = catalogue::findMessage(id);
+    const Insert inserts[] = {insertAt(message, 0, insert1), insertAt(message, 1, insert2)};
+    const Call call("ShowMessage2", session, owner, id, flags, one, helpId, inserts[0], inserts[1]);
+    return call.result(show({owner, id, flags, helpId}, inserts));
+}
+
+std::int32_t ZHST_CALL zhstShowMessage3(host::SessionHandle session, host::WindowHandle owner, std::uint32_t id,
+                                        std::uint32_t flags, std::uint32_t one, std::uint32_t helpId,
+                                        host::MessageInsert insert1, host::MessageInsert insert2,
+                                        host::MessageInsert insert3) {
+    const catalogue::Message message = catalogue::findMessage(id);
+    const Insert inserts[] = {insertAt(message, 0, insert1), insertAt(message, 1, insert2),
+                              insertAt(message, 2, insert3)};
+    const Call call("ShowMessage3", session, owner, id, flags, one, helpId, inserts[0], inserts[1], inserts[2]);
+    return call.result(show({owner, id, flags, helpId}, inserts));
+}
+
+std::int32_t ZHST_CALL zhstShowMessageCode(host::SessionHandle session, host::WindowHandle owner, std::uint32_t id,
+                                           std::uint32_t flags, std::uint32_t one, std::uint32_t helpId,
+                                           std::uint32_t insert1, const char* insert2, const char* insert3) {
+    const Insert inserts[] = {numberInsert(insert1), textInsert(insert2), textInsert(insert3)};
+    const Call call("ShowMessageCode", session, owner, id, flags, one, helpId, inserts[0], inserts[1], inserts[2]);
+    return call.result(show({owner, id, flags, helpId}, inserts));
+}
+
+std::int32_t ZHST_CALL zhstShowMessageText(host::SessionHandle session, host::WindowHandle owner, std::uint32_t flags,
+                                           std::uint32_t one, std::uint32_t helpId, const char* text) {
+    const Call call("ShowMessageText", session, owner, flags, one, helpId, text);
+    return call.result(showReady({owner, 0, flags, helpId}, false, text));
+}
+
+std::int32_t ZHST_CALL zhstMessageBox_scroll(host::SessionHandle session, host::WindowHandle owner, std::uint32_t id,
+                                             std::uint32_t flags, std::uint32_t one, std::uint32_t helpId,
+                                             const char* text) {
+    const Call call("zhstMessageBox_scroll", session, owner, id, flags, one, helpId, text);
+    return call.result(showReady({owner, id, flags, helpId}, true, text));
+}
+
+void ZHST_CALL zhstFormatStringSet(host::TextRecord* text, const host::TextRecord* const* inserts,
+                                   std::uint32_t count) {
+    if (!text) return;
+    std::vector<std::string> values;
+    for (std::uint32_t i = 0; inserts && i < count; ++i)
+        values.emplace_back(inserts[i] ? textOf(*inserts[i]) : std::string_view());
+    Call("formatStringSet", textOf(*text), journalled::Address{inserts}, count);
+    storeText(*text, fillInserts(textOf(*text), values));
+}

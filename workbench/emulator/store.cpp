@@ -1,0 +1,177 @@
+#include "emulator/store.h"
+
+#include <functional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "emulator/emulator.h"
+#include "emulator/faults.h"
+#include "emulator/journal.h"
+#include "host/runtime.h"
+
+// The named store. There is one, with handle 1; a part's handle is its place in `parts`, from 1. Opening the same part
+// twice, as two clients do, gives two handles on the same item.
+
+namespace emulator {
+namespace {
+
+constexpr host::StoreHandle TheStore = 1;
+
+enum class PartKind { Closed, Node, List, Item };
+
+struct Part {
+    PartKind kind = PartKind::Closed;
+    std::uint32_t code = 0;
+    host::StorePartHandle parent = 0;
+    bool locked = false;        // lists
+    StoreItem* item = nullptr;  // items
+};
+
+std::vector<Part> parts;
+std::unordered_map<std::uint32_t, StoreItem> items;
+std::function<void(std::string_view, std::string_view)> listener;
+std::uint32_t lockCount = 0;
+
+Part* find(host::StoreHandle store, host::StorePartHandle handle, PartKind kind) {
+    if (store != TheStore || handle == 0 || handle > parts.size()) return nullptr;
+    Part& part = parts[handle - 1];
+    return part.kind == kind ? &part : nullptr;
+}
+
+journalled::Code codeOf(host::StorePartHandle handle) {
+    return {handle == 0 || handle > parts.size() ? 0 : parts[handle - 1].code};
+}
+
+std::uint32_t number(std::string_view code) {
+    std::uint32_t value = 0;
+    for (const char character : code.substr(0, 4)) value = value << 8 | static_cast<unsigned char>(character);
+    return value;
+}
+
+std::string characters(std::uint32_t code) {
+    std::string text;
+    for (int shift = 24; shift >= 0; shift -= 8) text += static_cast<char>(code >> shift);
+    return text;
+}
+
+host::StorePartHandle open(host::StoreHandle store, host::StorePartHandle parent, std::uint32_t code, PartKind kind) {
+    const bool placed = kind == PartKind::Node   ? store == TheStore && parent == 0
+                        : kind == PartKind::List ? find(store, parent, PartKind::Node) != nullptr
+                                                 : find(store, parent, PartKind::List) != nullptr;
+    if (!placed || code == 0) return 0;
+    StoreItem* item = kind == PartKind::Item ? &items[code] : nullptr;
+    parts.push_back({kind, code, parent, false, item});
+    return static_cast<host::StorePartHandle>(parts.size());
+}
+
+void openJournalled(const char* name, host::StoreHandle store, host::StorePartHandle parent, std::uint32_t code,
+                    std::uint32_t reserved, host::StorePartHandle* part, PartKind kind) {
+    const host::StorePartHandle opened = open(store, parent, code, kind);
+    if (part) *part = opened;
+    journalled::Call(name, store, codeOf(parent), journalled::Code{code}, reserved, codeOf(opened));
+}
+
+// The code stays readable for a journal line that comes too late.
+void close(host::StoreHandle store, host::StorePartHandle handle, PartKind kind) {
+    Part* part = find(store, handle, kind);
+    if (!part) return;
+    if (part->locked) --lockCount;
+    part->locked = false;
+    part->kind = PartKind::Closed;
+}
+
+std::uint32_t lock(host::StoreHandle store, host::StorePartHandle handle) {
+    Part* list = find(store, handle, PartKind::List);
+    if (!list || list->locked || faults().refuseStoreLock) return 0;
+    list->locked = true;
+    ++lockCount;
+    return 1;
+}
+
+// A value is taken only while the item's list is locked.
+void setItem(host::StoreHandle store, host::StorePartHandle handle, const void* bytes, std::uint32_t length) {
+    Part* part = find(store, handle, PartKind::Item);
+    if (!part || !parts[part->parent - 1].locked) return;
+    part->item->value.assign(static_cast<const char*>(bytes), length);
+    ++part->item->writes;
+    if (listener) listener(characters(part->code), part->item->value);
+}
+
+}  // namespace
+
+StoreItem storeItem(std::string_view code) {
+    const auto found = items.find(number(code));
+    return found == items.end() ? StoreItem{} : found->second;
+}
+
+void onStoreWrite(std::function<void(std::string_view, std::string_view)> newListener) {
+    listener = std::move(newListener);
+}
+
+std::uint32_t lockedLists() { return lockCount; }
+
+void resetStore() {
+    parts.clear();
+    items.clear();
+    listener = nullptr;
+    lockCount = 0;
+}
+
+}  // namespace emulator
+
+using namespace emulator;
+using journalled::Call;
+
+host::StoreHandle ZHST_CALL zhstOpenStore(const char* name) {
+    const bool known = name && std::string_view(name) == "ZHST" && !faults().refuseStore;
+    return Call("OpenStore", name).result(known ? TheStore : 0);
+}
+
+void ZHST_CALL zhstOpenStoreNode(host::StoreHandle store, host::StorePartHandle parent, std::uint32_t code,
+                                 std::uint32_t reserved, host::StorePartHandle* part) {
+    openJournalled("OpenStoreNode", store, parent, code, reserved, part, PartKind::Node);
+}
+
+void ZHST_CALL zhstOpenStoreList(host::StoreHandle store, host::StorePartHandle parent, std::uint32_t code,
+                                 std::uint32_t reserved, host::StorePartHandle* part) {
+    openJournalled("OpenStoreList", store, parent, code, reserved, part, PartKind::List);
+}
+
+void ZHST_CALL zhstOpenStoreItem(host::StoreHandle store, host::StorePartHandle parent, std::uint32_t code,
+                                 std::uint32_t reserved, host::StorePartHandle* part) {
+    openJournalled("OpenStoreItem", store, parent, code, reserved, part, PartKind::Item);
+}
+
+void ZHST_CALL zhstCloseStoreNode(host::StoreHandle store, host::StorePartHandle parent, host::StorePartHandle part) {
+    Call("CloseStoreNode", store, codeOf(parent), codeOf(part));
+    close(store, part, PartKind::Node);
+}
+
+void ZHST_CALL zhstCloseStoreList(host::StoreHandle store, host::StorePartHandle parent, host::StorePartHandle part) {
+    Call("CloseStoreList", store, codeOf(parent), codeOf(part));
+    close(store, part, PartKind::List);
+}
+
+void ZHST_CALL zhstCloseStoreItem(host::StoreHandle store, host::StorePartHandle parent, host::StorePartHandle part) {
+    Call("CloseStoreItem", store, codeOf(parent), codeOf(part));
+    close(store, part, PartKind::Item);
+}
+
+std::uint32_t ZHST_CALL zhstLockStoreList(host::StoreHandle store, host::StorePartHandle list) {
+    return Call("LockStoreList", store, codeOf(list)).result(lock(store, list));
+}
+
+void ZHST_CALL zhstUnlockStoreList(host::StoreHandle store, host::StorePartHandle handle) {
+    Call("UnlockStoreList", store, codeOf(handle));
+    Part* list = find(store, handle, PartKind::List);
+    if (!list || !list->locked) return;
+    list->locked = false;
+    --lockCount;
+}
+
+void ZHST_CALL zhstSetStoreItem(host::StoreHandle store, host::StorePartHandle item, const void* bytes,
+                                std::uint32_t length) {
+    Call("SetStoreItem", store, codeOf(item), journalled::Bytes{bytes, length}, length);
+    setItem(store, item, bytes, length);
+}

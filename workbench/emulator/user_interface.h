@@ -1,0 +1,10 @@
+#pragma once
+
+#include "emulator/emulator.h"
+
+// The user that is set, never none.
+namespace emulator {
+
+UserInterface& userInterface();
+
+}  // namespace emulator
