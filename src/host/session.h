@@ -106,6 +106,7 @@ inline constexpr auto& ShowMessage2 = zhstShowMessage2;
 inline constexpr auto& ShowMessage3 = zhstShowMessage3;
 inline constexpr auto& ShowMessageCode = zhstShowMessageCode;
 inline constexpr auto& ShowMessageText = zhstShowMessageText;
+inline constexpr auto& zhstMessageBox_scroll = ::zhstMessageBox_scroll;
 inline constexpr auto& formatStringSet = zhstFormatStringSet;
 inline constexpr auto& LoadCodeTable = zhstLoadCodeTable;
 }  // namespace host
