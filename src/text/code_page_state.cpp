@@ -1,0 +1,170 @@
+#include "text/code_page_state.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "host/session.h"
+#include "platform/platform.h"
+#include "text/double_byte.h"
+
+namespace text {
+namespace {
+
+constexpr std::uint32_t ConversionFailed = 1;
+constexpr std::int32_t CodePage43 = 43;
+
+constexpr std::uint32_t SingleByteKind = 1;
+constexpr std::uint32_t PairsToHostKind = 5;
+constexpr std::uint32_t PairsToPcKind = 6;
+constexpr std::uint32_t PairTableSize = 66073;
+constexpr std::uint32_t SingleToHostOffset = 8;
+constexpr std::uint32_t SingleToPcOffset = 776;
+constexpr std::uint32_t RowIndexOffset = 25;
+constexpr std::uint32_t RowsOffset = 537;
+constexpr std::uint32_t RowSize = 512;
+constexpr std::uint32_t RowCount = 128;
+
+constexpr char ShiftOut = 0x0E;
+constexpr char ShiftIn = 0x0F;
+constexpr char HostBlank = 0x40;
+constexpr char PcBlank = 0x20;
+
+// The converted pair, first byte high; 0 when the table has none.
+std::uint16_t convertedPair(const host::OwnedBytes& table, char first, char second) {
+    const auto* bytes = reinterpret_cast<const std::uint8_t*>(table.data());
+    const std::uint32_t row = bytes[RowIndexOffset + static_cast<std::uint8_t>(first)];
+    if (row >= RowCount) return 0;
+    const std::uint8_t* entry = bytes + RowsOffset + row * RowSize + 2u * static_cast<std::uint8_t>(second);
+    return static_cast<std::uint16_t>(entry[0] | entry[1] << 8);
+}
+
+// Host bytes being produced, up to a fixed number.
+class HostText {
+public:
+    HostText(char* bytes, std::uint32_t length) : next_(bytes), end_(bytes + length) {}
+    bool isFull() const { return next_ == end_; }
+    void put(char byte) {
+        if (!isFull()) *next_++ = byte;
+    }
+
+private:
+    char* next_;
+    char* end_;
+};
+
+}  // namespace
+
+CodePageState::CodePageState(host::SessionHandle session)
+    : session_(session),
+      sessionServices_(host::GetSessionServices(session)),
+      emulatorConverter_(host::GetEmulatorConverter(session)),
+      textServicesHandle_(host::GetTextServices(session)) {}
+
+void CodePageState::setHostCodePage(std::int32_t hostCodePage) {
+    hostCodePage_ = hostCodePage;
+    isCodePage43_ = hostCodePage == CodePage43;
+    dbcsToPcTable_.reset();
+    dbcsToHostTable_.reset();
+    auto* services = static_cast<host::CodePageServices*>(host::GetSessionObject(session_, host::CodePageServicesKind));
+    dbcsTablesLoaded_ = services && services->isDoubleByte(hostCodePage);
+    if (dbcsTablesLoaded_) loadDoubleByteTables();
+}
+
+void CodePageState::loadDoubleByteTables() {
+    dbcsToPcTable_ = host::OwnedBytes::make(PairTableSize, true);
+    dbcsToHostTable_ = host::OwnedBytes::make(PairTableSize, true);
+    if (dbcsToPcTable_)
+        host::LoadCodeTable(session_, dbcsToPcTable_.data(), PairsToPcKind, hostCodePage_, PairTableSize);
+    if (dbcsToHostTable_)
+        host::LoadCodeTable(session_, dbcsToHostTable_.data(), PairsToHostKind, hostCodePage_, PairTableSize);
+    host::LoadCodeTable(session_, singleByteTables_, SingleByteKind, hostCodePage_, sizeof(singleByteTables_));
+}
+
+std::uint32_t CodePageState::hostToPcText(const char* source, char* destination, std::uint32_t length,
+                                          std::uint32_t capacity, std::uint32_t* convertedLength) const {
+    if (convertedLength) *convertedLength = 0;
+    if (length > capacity) return ConversionFailed;
+    std::memcpy(destination, source, length);
+    if (dbcsTablesLoaded_) return dbcsHostToPc(length, destination);
+    if (isCodePage43_) {
+        const auto convert = sessionServices_ ? sessionServices_->hostTextToPc() : nullptr;
+        if (!convert) return ConversionFailed;
+        const std::uint32_t converted = convert(textServicesHandle_, source, length, destination, capacity, 2);
+        if (convertedLength) *convertedLength = std::min(converted, capacity);
+        return 0;
+    }
+    const std::uint32_t result = host::ConvertHostText(emulatorConverter_, host::HostToPc, length, destination);
+    if (convertToOem_ == 0) return result;
+    platform::CharToOemBuffA(destination, destination, length);
+    return 0;
+}
+
+std::uint32_t CodePageState::pcToHostText(const char* source, char* destination, std::uint32_t length,
+                                          std::uint32_t destinationLength) const {
+    if (dbcsTablesLoaded_) return dbcsPcToHost(std::min(length, destinationLength), source, destination);
+    if (isCodePage43_) {
+        const auto convert = sessionServices_ ? sessionServices_->pcTextToHost() : nullptr;
+        if (!convert) return ConversionFailed;
+        convert(textServicesHandle_, source, length, destination, destinationLength, 1, 2);
+        return 0;
+    }
+    length = std::min(length, destinationLength);
+    std::memcpy(destination, source, length);
+    if (convertToOem_ != 0) platform::OemToCharBuffA(destination, destination, length);
+    const std::uint32_t result = host::ConvertHostText(emulatorConverter_, host::PcToHost, length, destination);
+    return convertToOem_ == 0 ? result : 0;
+}
+
+// Shift bytes leave the text: what is behind them moves up and blanks fill the end. The read position never falls
+// behind the write position, so this works in place.
+std::uint32_t CodePageState::dbcsHostToPc(std::uint32_t length, char* buffer) const {
+    if (!dbcsToPcTable_) return ConversionFailed;
+    const char* read = buffer;
+    const char* const end = buffer + length;
+    char* write = buffer;
+    bool doubleByte = false;
+    while (read < end) {
+        if (*read == ShiftOut || *read == ShiftIn) {
+            doubleByte = *read++ == ShiftOut;
+        } else if (!doubleByte) {
+            *write++ = static_cast<char>(singleByteTables_[SingleToPcOffset + static_cast<std::uint8_t>(*read++)]);
+        } else if (end - read < 2) {
+            *write++ = PcBlank;  // half a pair
+            ++read;
+        } else {
+            const std::uint16_t pair = convertedPair(dbcsToPcTable_, read[0], read[1]);
+            read += 2;
+            *write++ = pair ? static_cast<char>(pair >> 8) : PcBlank;
+            *write++ = pair ? static_cast<char>(pair) : PcBlank;
+        }
+    }
+    std::fill(write, buffer + length, PcBlank);
+    return 0;
+}
+
+// The source is never read beyond `length` bytes: a pair is only taken inside double-byte text, whose shift-out has put
+// the host text one byte ahead of the source.
+std::uint32_t CodePageState::dbcsPcToHost(std::uint32_t length, const char* source, char* destination) const {
+    if (!dbcsToHostTable_) return ConversionFailed;
+    HostText out(destination, length);
+    bool doubleByte = false;
+    while (!out.isFull()) {
+        const bool pairAhead = isLeadByte(*source);
+        if (pairAhead != doubleByte) {
+            out.put(pairAhead ? ShiftOut : ShiftIn);
+            doubleByte = pairAhead;
+            if (out.isFull()) break;
+        }
+        if (pairAhead) {
+            const std::uint16_t pair = convertedPair(dbcsToHostTable_, source[0], source[1]);
+            out.put(pair ? static_cast<char>(pair >> 8) : HostBlank);
+            out.put(pair ? static_cast<char>(pair) : HostBlank);
+            source += 2;
+        } else {
+            out.put(static_cast<char>(singleByteTables_[SingleToHostOffset + static_cast<std::uint8_t>(*source++)]));
+        }
+    }
+    return 0;
+}
+
+}  // namespace text

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstdint>
+
+#include "host/conversion.h"
+#include "host/objects.h"
+#include "host/owned.h"
+
+namespace text {
+
+// Everything that the conversion of text between the host's code page and the PC's depends on. A transfer-function
+// session owns one.
+//
+// Code tables, as the emulator fills them:
+//   kind 1, 2824 bytes: single bytes, PC to host at offset 8, host to PC at offset 776 (256 entries each)
+//   kinds 5 (PC to host) and 6 (host to PC), 66073 bytes: a row number per first byte at offset 25 (255 = no row), rows
+//   of 256 entries of 16 bits from offset 537 on, low byte first; the entry's high 8 bits are the first byte of the
+//   pair
+class CodePageState {
+public:
+    // Both handles of the conversion services, obtained once; no code page yet.
+    explicit CodePageState(host::SessionHandle session);
+
+    // Takes the host code page, releasing the tables of the previous one and loading those of a double-byte page. A
+    // table that finds no memory stays missing; conversions that need it then fail.
+    void setHostCodePage(std::int32_t hostCodePage);
+    void setConvertToOem(std::int32_t convertToOem) { convertToOem_ = convertToOem; }
+
+    bool isCodePage43() const { return isCodePage43_; }
+
+    // Both return 0 for success, otherwise the failure value of the way taken. Source and destination do not overlap.
+    // hostToPcText: the destination has `capacity` bytes, and `convertedLength` (may be null) is set to 0 except by the
+    // code page 43 way, the only one in which the length changes.
+    std::uint32_t hostToPcText(const char* source, char* destination, std::uint32_t length, std::uint32_t capacity,
+                               std::uint32_t* convertedLength) const;
+    // pcToHostText: gives exactly `destinationLength` host bytes, or `length` of them when that is less.
+    std::uint32_t pcToHostText(const char* source, char* destination, std::uint32_t length,
+                               std::uint32_t destinationLength) const;
+
+private:
+    void loadDoubleByteTables();
+    std::uint32_t dbcsHostToPc(std::uint32_t length, char* buffer) const;
+    std::uint32_t dbcsPcToHost(std::uint32_t length, const char* source, char* destination) const;
+
+    host::SessionHandle session_;
+    const host::SessionServices* sessionServices_;
+    host::ConverterHandle emulatorConverter_;
+    host::TextServicesHandle textServicesHandle_;
+    std::int32_t hostCodePage_ = 0;
+    std::int32_t convertToOem_ = 0;
+    bool isCodePage43_ = false;
+    bool dbcsTablesLoaded_ = false;
+    host::OwnedBytes dbcsToPcTable_;    // kind 6
+    host::OwnedBytes dbcsToHostTable_;  // kind 5
+    std::uint8_t singleByteTables_[2824] = {};
+};
+
+}  // namespace text

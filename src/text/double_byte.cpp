@@ -1,0 +1,92 @@
+#include "text/double_byte.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace text {
+namespace {
+
+constexpr std::uint16_t PrimaryLanguageMask = 0x03FF;
+constexpr int SubLanguageShift = 10;
+constexpr std::uint16_t Chinese = 0x04;
+constexpr std::uint16_t Japanese = 0x11;
+constexpr std::uint16_t Korean = 0x12;
+
+// No trail byte of any PC code page is a space, so a run of single-byte blanks can be taken off from the end.
+std::string_view withoutTrailingSpaces(std::string_view text) {
+    std::size_t length = text.size();
+    while (length > 0 && text[length - 1] == ' ') --length;
+    return text.substr(0, length);
+}
+
+char lowerAscii(char character) {
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+}
+
+}  // namespace
+
+BlankPair blankPairOf(std::uint16_t languageId) {
+    const int subLanguage = languageId >> SubLanguageShift;
+    switch (languageId & PrimaryLanguageMask) {
+        case Japanese:
+            return {0x81, 0x40};
+        case Korean:
+            return {0xA1, 0xA1};
+        case Chinese:
+            if (subLanguage == 1) return {0xA1, 0x40};
+            if (subLanguage == 2) return {0xA1, 0xA1};
+            return {};
+        default:
+            return {};
+    }
+}
+
+BlankPair userBlankPair() {
+    static const BlankPair pair = blankPairOf(platform::GetUserDefaultLangID());
+    return pair;
+}
+
+std::size_t blankBytes(std::string_view text, BlankPair pair) {
+    if (text.empty()) return 0;
+    if (text[0] == ' ') return 1;
+    if (pair.first == 0 || text.size() < 2) return 0;
+    return static_cast<std::uint8_t>(text[0]) == pair.first && static_cast<std::uint8_t>(text[1]) == pair.second ? 2
+                                                                                                                 : 0;
+}
+
+std::string_view trimmedStart(std::string_view text, BlankPair pair) {
+    while (const std::size_t blank = blankBytes(text, pair)) text.remove_prefix(blank);
+    return text;
+}
+
+std::string_view trimmedEnd(std::string_view text, BlankPair pair) {
+    if (pair.first == 0) return withoutTrailingSpaces(text);
+    std::size_t end = 0;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::string_view rest = text.substr(at);
+        const std::size_t blank = blankBytes(rest, pair);
+        at += blank ? blank : characterBytes(rest);
+        if (!blank) end = at;
+    }
+    return text.substr(0, end);
+}
+
+std::size_t findCharacter(std::string_view text, char character) {
+    for (std::size_t at = 0; at < text.size(); at += characterBytes(text.substr(at)))
+        if (text[at] == character) return at;
+    return std::string_view::npos;
+}
+
+bool startsWithNoCase(std::string_view text, std::string_view prefix) {
+    return text.size() >= prefix.size() &&
+           std::equal(prefix.begin(), prefix.end(), text.begin(),
+                      [](char left, char right) { return lowerAscii(left) == lowerAscii(right); });
+}
+
+void copyCut(std::string_view text, char* destination, std::size_t capacity) {
+    const std::size_t length = std::min(text.size(), capacity - 1);
+    std::memcpy(destination, text.data(), length);
+    destination[length] = '\0';
+}
+
+}  // namespace text

@@ -1,0 +1,77 @@
+#include "text/text_buffer.h"
+
+#include <cstring>
+
+#include "host/runtime.h"
+#include "platform/platform.h"
+#include "text/double_byte.h"
+
+namespace text {
+
+TextBuffer::TextBuffer(std::uint32_t capacity) {
+    record_.text = static_cast<char*>(host::AllocateObject(capacity + 1, 1));
+    record_.capacity = capacity;
+}
+
+TextBuffer::~TextBuffer() {
+    if (record_.text) host::FreeObject(record_.text);
+}
+
+bool TextBuffer::reserve(std::uint32_t length) {
+    if (record_.capacity != 0) return record_.text && length < record_.capacity;
+    void* block = record_.text ? host::ReallocateObject(record_.text, length + 1) : host::AllocateObject(length + 1, 1);
+    if (!block) return false;
+    record_.text = static_cast<char*>(block);
+    return true;
+}
+
+bool TextBuffer::assign(std::string_view text) {
+    if (!reserve(static_cast<std::uint32_t>(text.size()))) return false;
+    std::memmove(record_.text, text.data(), text.size());
+    record_.text[text.size()] = '\0';
+    return true;
+}
+
+bool TextBuffer::append(std::initializer_list<std::string_view> pieces) {
+    std::uint32_t at = length();
+    std::uint32_t after = at;
+    for (const std::string_view piece : pieces) after += static_cast<std::uint32_t>(piece.size());
+    if (!reserve(after)) return false;
+    for (const std::string_view piece : pieces) {
+        std::memcpy(record_.text + at, piece.data(), piece.size());
+        at += static_cast<std::uint32_t>(piece.size());
+    }
+    record_.text[after] = '\0';
+    return true;
+}
+
+void TextBuffer::trimStart() {
+    const std::string_view rest = trimmedStart(view());
+    if (rest.size() < length()) std::memmove(record_.text, rest.data(), rest.size() + 1);
+}
+
+void TextBuffer::trimEnd() { keepFirst(static_cast<std::uint32_t>(trimmedEnd(view()).size())); }
+
+void TextBuffer::toUpper() {
+    if (record_.text) platform::CharUpperA(record_.text);
+}
+
+void TextBuffer::keepFirst(std::uint32_t count) {
+    if (count < length()) record_.text[count] = '\0';
+}
+
+bool TextBuffer::replaceFirst(std::string_view found, std::string_view replacement) {
+    const std::string_view whole = view();
+    const std::size_t at = found.empty() ? std::string_view::npos : whole.find(found);
+    if (at == std::string_view::npos) return false;
+    const std::size_t tail = whole.size() - at - found.size();
+    const std::size_t after = at + replacement.size() + tail;
+    // The block may only shrink once the tail has moved, and must have grown before it moves.
+    if (after > whole.size() && !reserve(static_cast<std::uint32_t>(after))) return false;
+    char* spot = record_.text + at;
+    std::memmove(spot + replacement.size(), spot + found.size(), tail + 1);
+    std::memcpy(spot, replacement.data(), replacement.size());
+    return true;
+}
+
+}  // namespace text
