@@ -1,0 +1,69 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "host/runtime.h"
+
+namespace monitor {
+
+// Publishes what a transfer exchanges into the emulator's named store "ZHST", for a monitoring tool to follow. Written
+// only; no transfer depends on it: what cannot be opened, locked or built is left out without a word.
+//
+// The store holds the node XFR4 with the lists X4RP (transfers from the host, and results) and X4SP (transfers to the
+// host, and requests). Each write replaces the item's previous value.
+//
+// Request (XUGI), 49 + n bytes:  0 function (1), 1 reserved (1), 2 n + 1 (4, little-endian), 6 designation (41, zero
+// filled), 47 the n bytes of the shared buffer, 47 + n two zeros.
+// Result (XDGI), 15 + m bytes:   0 function (1), 1 return code (4), 5 detail code (4), 9 m (4), 13 the m bytes
+// returned, 13 + m two zeros. m is 0 for a reset, and for a request that succeeded.
+class MonitorStore {
+public:
+    MonitorStore();
+    ~MonitorStore();
+    MonitorStore(const MonitorStore&) = delete;
+    MonitorStore& operator=(const MonitorStore&) = delete;
+
+    // `designation` may be null; it is cut to 40 characters.
+    void recordRequest(std::uint32_t function, std::uint32_t reserved, std::string_view data, const char* designation);
+    void recordResult(std::uint32_t function, std::uint16_t returnCode, std::uint16_t detailCode,
+                      std::string_view data);
+
+    // The texts are recorded with a terminating zero, which they need not have.
+    void recordReceiveStatement(std::string_view statement);
+    void recordSendStatement(std::string_view statement);
+    void recordReceiveField(std::string_view description);
+    void recordSendField(std::string_view description);
+    void recordReceiveDescription(std::string_view text);
+    void recordSendDescription(std::string_view text);
+    void recordReceivedRecord(std::string_view record);
+    void recordSentRecord(std::string_view record);
+
+    // Lock and unlock the list once.
+    void touchReceiveList();
+    void touchSendList();
+
+    static constexpr std::uint32_t ItemsPerList = 9;
+
+private:
+    struct List {
+        host::StorePartHandle handle = 0;
+        host::StorePartHandle items[ItemsPerList] = {};
+    };
+
+    void openItems(List& list, const std::uint32_t (&itemCodes)[ItemsPerList]);
+    void closeItems(const List& list);
+    bool lock(const List& list);
+    void write(const List& list, std::uint32_t item, std::string_view value);
+    template <class Fill>
+    void writeBuilt(const List& list, std::uint32_t item, std::uint32_t size, Fill fill);
+    void writeStatement(const List& list, std::string_view statement);
+    void touch(const List& list);
+
+    host::StoreHandle store_;
+    host::StorePartHandle node_ = 0;
+    List receive_;
+    List send_;
+};
+
+}  // namespace monitor
