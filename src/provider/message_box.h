@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+
+#include "host/dialogs.h"
+#include "host/session.h"
+
+// The one pattern of the library's message boxes: shown only when the user wants the message, exclamation icon and one
+// button, the message's own help unless another is named.
+namespace provider {
+
+inline constexpr std::uint32_t BoxFlags = 0x30;
+inline constexpr std::uint32_t OutOfMemory = 4001;  // an object needed for the transfer could not be created
+
+struct MessageOwner {
+    host::SessionHandle session;
+    host::SettingsHandle settings;
+    host::WindowHandle window;
+};
+
+void showMessage(const MessageOwner& owner, std::uint32_t id);
+void showMessage(const MessageOwner& owner, std::uint32_t id, const char* insert);
+// A sentence of the library's own, for what the message catalogue has no message for.
+void showOwnText(const MessageOwner& owner, const char* text);
+
+// Hides a progress dialog (0: none) while a message box is up.
+class HiddenDialog {
+public:
+    explicit HiddenDialog(host::ProgressDialogHandle dialog) : dialog_(dialog) {
+        if (dialog_) host::ProgressDialogHide(dialog_);
+    }
+    ~HiddenDialog() {
+        if (dialog_) host::ProgressDialogShow(dialog_);
+    }
+    HiddenDialog(const HiddenDialog&) = delete;
+    HiddenDialog& operator=(const HiddenDialog&) = delete;
+
+private:
+    host::ProgressDialogHandle dialog_;
+};
+
+}  // namespace provider

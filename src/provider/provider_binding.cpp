@@ -1,0 +1,227 @@
+#include "provider/provider_binding.h"
+
+#include <utility>
+
+#include "host/runtime.h"
+#include "host/setting_values.h"
+#include "platform/platform.h"
+#include "provider/message_box.h"
+
+namespace provider {
+namespace {
+
+constexpr char IbmLibrary[] = "E32TFW.DLL";
+constexpr char IbmRouterLibrary[] = "E32APPC.DLL";
+constexpr char EmulatorLibrary[] = "ZEHNTFW.DLL";
+constexpr char AppcLibrary[] = "ZTFWAPPC.DLL";
+constexpr char As400Library[] = "AS4XFER.DLL";
+
+constexpr std::uint32_t SearchIbm = 0;
+constexpr std::uint32_t SearchOwn = 1;
+
+constexpr std::int32_t MisplacedRouterKind = 30;  // a transport type where a router kind belongs
+
+enum Message : std::uint32_t {
+    RouterNotLoaded = 4266,
+    RouterIsReplacement = 4269,
+    LibraryNotFound = 4400,
+    OwnProviderNotLoaded = 4402,
+    EmulatorEntryMissing = 4403,
+    RouterNotRunning = 4407,
+    IbmProviderNotLoaded = 4593,
+    IbmEntryMissing = 4594,
+    AppcProviderNotLoaded = 4658,
+    AppcEntryMissing = 4659,
+    As400EntryMissingOtherKind = 4697,
+    As400EntryMissing = 4704,
+};
+
+constexpr std::uint32_t ReplacementTextTable = 22;
+constexpr std::uint32_t ReplacementText = 202;
+
+// What a transport type asks for when the router kind is 1. Transport 30 passes the router check, but no library of
+// this kind serves it.
+enum class Transport { Ibm, Emulator, Appc, Unserved, Unknown };
+
+Transport transportOf(std::int32_t transportType) {
+    switch (transportType) {
+        case 2:
+        case 4:
+            return Transport::Ibm;
+        case 8:
+        case 9:
+        case 14:
+        case 15:
+            return Transport::Emulator;
+        case 5:
+        case 7:
+        case 13:
+            return Transport::Appc;
+        case host::value::TransportAs400:
+            return Transport::Unserved;
+        default:
+            return Transport::Unknown;
+    }
+}
+
+}  // namespace
+
+bool ProviderBinding::bind(host::SessionHandle session, std::int32_t transportType, std::int32_t routerKind) {
+    session_ = session;
+    settings_ = host::GetSessionSettings(session);
+    window_ = host::GetSessionWindow(settings_);
+    bool bound = false;
+    if (checkRouter(transportType, routerKind)) {
+        if (routerKind != host::value::RouterIbm) {
+            bound = bindAs400(routerKind);
+        } else {
+            const Transport transport = transportOf(transportType);
+            bound = (transport == Transport::Ibm && bindIbm()) ||
+                    (transport == Transport::Emulator && bindEmulator()) ||
+                    (transport == Transport::Appc && bindAppc());
+        }
+    }
+    if (!bound) {
+        deleteClient();
+        freeModules();
+    }
+    return bound;
+}
+
+bool ProviderBinding::checkRouter(std::int32_t transportType, std::int32_t routerKind) {
+    if (routerKind != host::value::RouterIbm) return true;
+    const Transport transport = transportOf(transportType);
+    if (transport == Transport::Ibm) return checkIbmRouter();
+    return transport != Transport::Unknown;
+}
+
+bool ProviderBinding::checkIbmRouter() {
+    if (!libraryExists(IbmRouterLibrary)) return false;
+    if (host::LoadModule(IbmRouterLibrary, SearchIbm, &routerModule_) != 0) {
+        routerModule_ = nullptr;
+        return fail(RouterNotLoaded);
+    }
+    if (platform::GetProcAddress(routerModule_, "EHNAPPC_KVX")) {
+        char text[300] = {};
+        host::LoadMessageText(session_, ReplacementTextTable, ReplacementText, text, sizeof(text));
+        return fail(RouterIsReplacement, text);
+    }
+    const auto isLoaded = lookUp<IsRouterLoadedEntry>(routerModule_, "EHNAPPC_IsRouterLoaded");
+    return (isLoaded && isLoaded(session_) != 0) || fail(RouterNotRunning);
+}
+
+bool ProviderBinding::bindIbm() {
+    if (!libraryExists(IbmLibrary)) return false;
+    if (!loadProvider(IbmLibrary, SearchIbm)) return fail(IbmProviderNotLoaded);
+    stfEntry_ = lookUp<StfEntry>(providerModule_, "EHNTF_STF");
+    stfCleanupEntry_ = lookUp<StfCleanupEntry>(providerModule_, "E32TF_Cleanup");
+    if (!stfEntry_) return fail(IbmEntryMissing);
+    family_ = Family::Ibm;
+    return true;
+}
+
+bool ProviderBinding::bindEmulator() {
+    if (!libraryExists(EmulatorLibrary)) return false;
+    if (!loadProvider(EmulatorLibrary, SearchOwn)) return fail(OwnProviderNotLoaded);
+    const auto newClient = lookUp<NewClientEntry>(providerModule_, "newZEHNTFWCLIENT");
+    if (!lookUpEmulatorEntries(newClient, "deleteZEHNTFWCLIENT")) return fail(EmulatorEntryMissing);
+    return makeClient(newClient);
+}
+
+bool ProviderBinding::bindAppc() {
+    if (!libraryExists(AppcLibrary)) return false;
+    if (!loadProvider(AppcLibrary, SearchOwn)) return fail(AppcProviderNotLoaded, AppcLibrary);
+    const auto newClient = lookUp<NewClientEntry>(providerModule_, "newZTFWAPPCCLIENT");
+    if (!lookUpEmulatorEntries(newClient, "deleteZTFWAPPCCLIENT")) return fail(AppcEntryMissing, AppcLibrary);
+    return makeClient(newClient);
+}
+
+bool ProviderBinding::bindAs400(std::int32_t routerKind) {
+    if (!libraryExists(As400Library)) return false;
+    if (!loadProvider(As400Library, SearchOwn)) return fail(OwnProviderNotLoaded);
+    // The client is made before the other entries are looked at; without a destructor it cannot be ended either.
+    const auto newClient = lookUp<NewClientEntry>(providerModule_, "newAS4XFERCLIENT");
+    client_ = newClient ? newClient(session_, window_) : 0;
+    if (client_ == 0) return false;
+    deleteClientEntry_ = lookUp<DeleteClientEntry>(providerModule_, "deleteZAS4XFERCLIENT");
+    const auto getClient = lookUp<GetClientEntry>(providerModule_, "getAS4XFERCLIENT");
+    requestEntry_ = lookUp<RequestEntry>(providerModule_, "as400Request");
+    if (!deleteClientEntry_ || !getClient || !requestEntry_)
+        return fail(routerKind == MisplacedRouterKind ? As400EntryMissingOtherKind : As400EntryMissing);
+    family_ = Family::As400;
+    return true;
+}
+
+bool ProviderBinding::libraryExists(const char* name) const {
+    auto* paths = static_cast<host::PathServices*>(host::GetSessionObject(session_, host::PathServicesKind));
+    return (paths && paths->fileExists(name)) || fail(LibraryNotFound, name);
+}
+
+bool ProviderBinding::loadProvider(const char* name, std::uint32_t search) {
+    if (host::LoadModule(name, search, &providerModule_) == 0) return true;
+    providerModule_ = nullptr;
+    return false;
+}
+
+bool ProviderBinding::lookUpEmulatorEntries(NewClientEntry newClient, const char* deleteName) {
+    requestEntry_ = lookUp<RequestEntry>(providerModule_, "zehnRequestor");
+    deleteClientEntry_ = lookUp<DeleteClientEntry>(providerModule_, deleteName);
+    return requestEntry_ && newClient && deleteClientEntry_;
+}
+
+bool ProviderBinding::makeClient(NewClientEntry newClient) {
+    client_ = newClient(session_, window_);
+    if (client_ == 0) return false;
+    family_ = Family::Emulator;
+    return true;
+}
+
+template <class Entry>
+Entry ProviderBinding::lookUp(host::ModuleHandle module, const char* name) const {
+    return reinterpret_cast<Entry>(platform::GetProcAddress(module, name));
+}
+
+bool ProviderBinding::fail(std::uint32_t messageId, const char* insert) const {
+    const MessageOwner owner{session_, settings_, window_};
+    if (insert)
+        showMessage(owner, messageId, insert);
+    else
+        showMessage(owner, messageId);
+    return false;
+}
+
+TfResult ProviderBinding::call(const Call& call, std::uint32_t* conversation) const {
+    void* data = nullptr;
+    std::uint32_t dataLength = 0;
+    std::uint32_t detail = 0;
+    std::uint32_t code = 0;
+    if (family_ == Family::Ibm) {
+        code = stfEntry_(window_, call.yield, conversation, call.function, call.buffer, BufferSize, call.length,
+                         call.designation, call.reserved, &data, &dataLength, &detail);
+    } else {
+        code = requestEntry_(client_, conversation, call.function, call.buffer, BufferSize, call.length,
+                             call.designation, call.reserved, &data, &dataLength, &detail);
+    }
+    return {static_cast<std::uint16_t>(code), static_cast<std::uint16_t>(detail), dataLength, data};
+}
+
+void ProviderBinding::callStfCleanup() const {
+    if (stfCleanupEntry_) stfCleanupEntry_();
+}
+
+void ProviderBinding::deleteClient() {
+    const std::uint32_t client = std::exchange(client_, 0);
+    if (client != 0 && deleteClientEntry_) deleteClientEntry_(client);
+}
+
+void ProviderBinding::freeModules() {
+    family_ = Family::None;
+    stfEntry_ = nullptr;
+    stfCleanupEntry_ = nullptr;
+    requestEntry_ = nullptr;
+    deleteClientEntry_ = nullptr;
+    if (routerModule_) host::FreeModule(std::exchange(routerModule_, nullptr));
+    if (providerModule_) host::FreeModule(std::exchange(providerModule_, nullptr));
+}
+
+}  // namespace provider

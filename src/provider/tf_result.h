@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+
+namespace provider {
+
+// Result of one exchange with the provider. `data` is in the provider's memory (records: in the shared buffer), valid
+// until the next exchange; its length is the provider's word and not yet checked (TransferFunctionSession::returned
+// gives what may be read).
+struct TfResult {
+    std::uint16_t returnCode = 0;
+    std::uint16_t detailCode = 0;
+    std::uint32_t dataLength = 0;
+    void* data = nullptr;
+};
+static_assert(sizeof(void*) != 4 || sizeof(TfResult) == 12);
+
+}  // namespace provider

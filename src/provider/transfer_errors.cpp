@@ -1,0 +1,169 @@
+#include <cstdio>
+#include <cstring>
+
+#include "host/setting_ids.h"
+#include "host/setting_values.h"
+#include "platform/platform.h"
+#include "provider/return_codes.h"
+#include "provider/transfer_function_session.h"
+#include "text/double_byte.h"
+#include "text/text_buffer.h"
+
+// The one place where the result of an exchange is judged and told.
+namespace provider {
+namespace {
+
+namespace id = host::setting;
+
+constexpr std::uint32_t TransferTable = 7;
+constexpr std::uint32_t OwnProviderTable = 22;
+constexpr std::uint32_t As400ProviderTable = 45;
+constexpr std::uint32_t TextSize = 100;
+
+enum Message : std::uint32_t {
+    ErrorWithContext = 4406,  // also the gate of every error report
+    ErrorWithHostText = 4408,
+    TextAlone = 4416,
+    TransferFunctionNotStarted = 4432,
+};
+
+constexpr char NotCompletedTemplate[] =
+    "File transfer not completed.\nReceived approximately %1 records of %2.\n\n"
+    "Refer to job log on host system %3.\nJob name %4, user profile %5, job number %6";
+constexpr std::uint32_t NotCompletedCapacity = 1500;
+
+bool isOwnProviderTransport(std::int32_t transportType) {
+    switch (transportType) {
+        case 5:
+        case 7:
+        case 8:
+        case 9:
+        case 13:
+        case 14:
+        case 15:
+            return true;
+        default:
+            return false;
+    }
+}
+
+// Transports whose own error texts are shown alone; a narrower list than the one above.
+bool showsOwnTextAlone(std::int32_t transportType) {
+    return transportType == 5 || transportType == 7 || transportType == 8 || transportType == 13;
+}
+
+void assignNumber(text::TextBuffer& buffer, std::int32_t number) {
+    char digits[20];
+    std::snprintf(digits, sizeof(digits), "%d", static_cast<int>(number));
+    buffer.assign(digits);
+}
+
+template <std::uint32_t Size>
+void assignSetting(text::TextBuffer& buffer, host::SettingsHandle settings, std::uint32_t setting) {
+    char value[Size] = {};
+    host::GetStringSetting(settings, setting, value, Size);
+    buffer.assign(value);
+}
+
+}  // namespace
+
+bool TransferFunctionSession::tfCheckResult(std::uint32_t contextText, const TfResult& result,
+                                            host::ProgressDialogHandle dialog) {
+    if (!started_) return false;
+    host::SetSetting(settings_, id::LastReturnCode, result.returnCode);
+    switch (result.returnCode) {
+        case Success:
+        case Completed:
+            return true;
+        case FailedSilently:
+            return false;
+        case NotStarted:
+            if (host::IsMessageEnabled(settings_, TransferFunctionNotStarted)) {
+                const HiddenDialog hidden(dialog);
+                host::ShowMessage(session_, sessionWindow_, TransferFunctionNotStarted, BoxFlags, 1,
+                                  TransferFunctionNotStarted);
+            }
+            return false;
+        default:
+            break;
+    }
+    char errorText[TextSize] = {};
+    loadErrorText(result, contextText, errorText);
+    if (host::IsMessageEnabled(settings_, ErrorWithContext)) {
+        const HiddenDialog hidden(dialog);
+        showError(result, contextText, errorText);
+    }
+    host::SetStringSetting(settings_, id::LastErrorText, errorText);
+    return false;
+}
+
+// Leaves the text empty where none applies. A detail code of an AS/400 client's error takes the context away with it.
+void TransferFunctionSession::loadErrorText(const TfResult& result, std::uint32_t& contextText,
+                                            char (&buffer)[100]) const {
+    const std::uint16_t code = result.returnCode;
+    if (transportType_ == host::value::TransportAs400) {
+        if (result.detailCode != 0) {
+            contextText = 0;
+            return;
+        }
+        const std::uint32_t table = code < FirstTransferCode ? OwnProviderTable : TransferTable;
+        host::LoadMessageText(session_, table, code, buffer, TextSize);
+    } else if (isOwnProviderTransport(transportType_) && code < FirstTransferCode) {
+        const std::uint32_t table = routerKind_ == host::value::RouterAs400 ? As400ProviderTable : OwnProviderTable;
+        host::LoadMessageText(session_, table, code, buffer, TextSize);
+    } else if (const std::uint32_t index = errorTextIndex(code)) {
+        host::LoadMessageText(session_, TransferTable, index, buffer, TextSize);
+    }
+}
+
+void TransferFunctionSession::showError(const TfResult& result, std::uint32_t contextText,
+                                        const char* errorText) const {
+    const std::string_view hostText = returned(result);
+    if (!hostText.empty()) {
+        showHostText(result, hostText, errorText);
+    } else if (contextText != 0) {
+        char context[TextSize] = {};
+        host::LoadMessageText(session_, TransferTable, contextText, context, TextSize);
+        host::ShowMessage3(session_, sessionWindow_, ErrorWithContext, BoxFlags, 1, ErrorWithContext,
+                           host::insert(context), host::insert(std::uint32_t{result.returnCode}),
+                           host::insert(errorText));
+    } else if (showsOwnTextAlone(transportType_) && result.returnCode < FirstTransferCode) {
+        host::ShowMessage1(session_, sessionWindow_, TextAlone, BoxFlags, 1, helpIdOf(result.returnCode), errorText);
+    } else {
+        showNotCompleted();
+    }
+}
+
+void TransferFunctionSession::showHostText(const TfResult& result, std::string_view hostText,
+                                           const char* errorText) const {
+    char text[BufferSize + 1];
+    text::copyCut(hostText, text, sizeof(text));
+    const bool alone = result.returnCode == HostMessage || result.returnCode == HostMessageInstead;
+    if (alone && tfIsAs400Mode())
+        host::zhstMessageBox_scroll(session_, sessionWindow_, 0, BoxFlags, 1, TextAlone, text);
+    else if (alone)
+        host::ShowMessage1(session_, sessionWindow_, TextAlone, BoxFlags, 1, TextAlone, text);
+    else
+        host::ShowMessageCode(session_, sessionWindow_, ErrorWithHostText, BoxFlags, 1, helpIdOf(result.returnCode),
+                              result.returnCode, errorText, text);
+}
+
+void TransferFunctionSession::showNotCompleted() const {
+    text::TextBuffer inserts[6];
+    assignNumber(inserts[0], host::GetSetting(settings_, id::JobRecordsReceived));
+    assignNumber(inserts[1], host::GetSetting(settings_, id::JobRecordsTotal));
+    assignSetting<301>(inserts[2], settings_, id::HostSystemName);
+    inserts[2].toUpper();
+    assignSetting<11>(inserts[3], settings_, id::JobName);
+    assignSetting<11>(inserts[4], settings_, id::JobUser);
+    assignSetting<7>(inserts[5], settings_, id::JobNumber);
+
+    text::TextBuffer message(NotCompletedCapacity);
+    message.assign(NotCompletedTemplate);
+    const host::TextRecord* records[6];
+    for (int at = 0; at < 6; ++at) records[at] = inserts[at].record();
+    host::formatStringSet(message.record(), records, 6);
+    host::ShowMessage1(session_, sessionWindow_, TextAlone, BoxFlags, 1, TextAlone, message.text());
+}
+
+}  // namespace provider

@@ -1,0 +1,255 @@
+#include "provider/transfer_function_session.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "host/setting_ids.h"
+#include "host/setting_values.h"
+#include "platform/platform.h"
+
+namespace provider {
+namespace {
+
+namespace id = host::setting;
+
+constexpr std::uint32_t WatchedSettings[] = {id::TransportType, id::RouterKind, id::ConnectionChanging,
+                                             id::ConvertToOem, id::HostCodePage};
+
+constexpr std::uint32_t BufferNotAllocated = 4405;
+constexpr std::uint32_t MovableZeroNotBanked = 0x1042;  // flags of the shared buffer's global memory
+
+constexpr std::uint32_t TraceIsBinary = 1;
+constexpr std::uint32_t TraceOption = 1;
+
+constexpr char StoppedText[] =
+    "The connection was ended or its settings were changed while the host was working on a request. "
+    "The request was not completed.";
+
+// The session whose dialog a waiting provider keeps alive: the first one made in this process.
+TransferFunctionSession* callbackSession = nullptr;
+std::uint32_t callbackProcess = 0;
+
+bool isControl(std::uint32_t function) {
+    return function == TF_END_REQUEST || function == TF_RESET || function == TF_END_DATA;
+}
+
+}  // namespace
+
+TransferFunctionSession::TransferFunctionSession(host::SessionHandle session, host::SettingWatch watch,
+                                                 YieldCallback yield)
+    : session_(session),
+      settings_(host::GetSessionSettings(session)),
+      codePage_(session),
+      monitorStore_(host::Owned<monitor::MonitorStore>::make()),
+      sessionWindow_(host::GetSessionWindow(settings_)),
+      watch_(watch),
+      yield_(yield) {
+    const std::int32_t hostCodePage = host::GetSetting(settings_, id::HostCodePage);
+    if (!callbackSession) {
+        callbackSession = this;
+        callbackProcess = platform::GetCurrentProcessId();
+    }
+    for (const std::uint32_t setting : WatchedSettings) host::WatchSetting(settings_, setting, watch_);
+    host::AttachSession(session);
+    codePage_.setHostCodePage(hostCodePage);
+}
+
+TransferFunctionSession::~TransferFunctionSession() {
+    tfStop();
+    // A provider bound before the connection became a demonstration, and the buffer of a binding that failed.
+    releaseProvider();
+    for (const std::uint32_t setting : WatchedSettings) host::UnwatchSetting(settings_, setting, watch_);
+    if (callbackSession == this) callbackSession = nullptr;
+}
+
+bool TransferFunctionSession::isDemonstration() const {
+    return host::GetSetting(settings_, id::ConnectionType) == host::value::DemonstrationConnection;
+}
+
+bool TransferFunctionSession::tfStart() {
+    if (started_) return true;
+    if (isDemonstration()) return true;
+    const std::int32_t transport = host::GetSetting(settings_, id::TransportType);
+    if (transport == host::value::TransportAs400) host::SetSetting(settings_, id::RouterKind, host::value::RouterAs400);
+    if (transport == 2 || transport == 4) host::SetSetting(settings_, id::RouterKind, host::value::RouterIbm);
+    readConnectionSettings();
+    if (!allocateBuffer() || !binding_.bind(session_, transportType_, routerKind_)) return false;
+    started_ = true;
+    sendControl(TF_RESET);
+    codePage_.setConvertToOem(host::GetSetting(settings_, id::ConvertToOem));
+    return started_;
+}
+
+void TransferFunctionSession::readConnectionSettings() {
+    transportType_ = host::GetSetting(settings_, id::TransportType);
+    routerKind_ = host::GetSetting(settings_, id::RouterKind);
+}
+
+bool TransferFunctionSession::allocateBuffer() {
+    if (dataBuffer_) return true;
+    bufferHandle_ = platform::GlobalAlloc(MovableZeroNotBanked, BufferSize);
+    if (bufferHandle_) dataBuffer_ = static_cast<char*>(platform::GlobalLock(bufferHandle_));
+    if (dataBuffer_) return true;
+    freeBuffer();
+    showMessage(messageOwner(), BufferNotAllocated);
+    return false;
+}
+
+void TransferFunctionSession::freeBuffer() {
+    if (!bufferHandle_) return;
+    if (std::exchange(dataBuffer_, nullptr)) platform::GlobalUnlock(bufferHandle_);
+    platform::GlobalFree(std::exchange(bufferHandle_, nullptr));
+}
+
+void TransferFunctionSession::tfStop() {
+    if (!started_ || stopping_ || isDemonstration()) return;
+    if (inProviderCall_) {
+        stopPending_ = true;
+        return;
+    }
+    stopping_ = true;
+    endConversation();
+    releaseProvider();
+    stopping_ = false;
+}
+
+void TransferFunctionSession::endConversation() {
+    if (conversation_ == 0) return;
+    if (binding_.family() == Family::Ibm) {
+        sendControl(TF_END_DATA);
+        binding_.callStfCleanup();
+    } else if (binding_.family() == Family::Emulator) {
+        sendControl(TF_RESET);
+    }
+    conversation_ = 0;
+}
+
+void TransferFunctionSession::releaseProvider() {
+    binding_.deleteClient();
+    freeBuffer();
+    binding_.freeModules();
+    if (traceFile_) std::exchange(traceFile_, nullptr)->destroy();
+    started_ = false;
+}
+
+void TransferFunctionSession::tfRequest(std::uint32_t function, std::uint32_t length, std::uint32_t reserved,
+                                        TfResult& result, const char* designation, host::ProgressDialogHandle dialog) {
+    result = {};
+    // The provider serves one call at a time; one that comes in through its yield call-back is turned away.
+    if (inProviderCall_ || !tfStart() || !binding_.isBound()) {
+        result.returnCode = NotStarted;
+        return;
+    }
+    activeDialog_ = dialog;
+    length = std::min(length, BufferSize);
+    if (monitorStore_) monitorStore_->recordRequest(function, reserved, {dataBuffer_, length}, designation);
+    inProviderCall_ = true;
+    result = binding_.call({function, dataBuffer_, length, reserved, designation, yield_}, &conversation_);
+    inProviderCall_ = false;
+    activeDialog_ = 0;
+    if (monitorStore_) monitorStore_->recordResult(function, result.returnCode, result.detailCode, returned(result));
+    carryOutPendingStop(function, result);
+}
+
+// What the provider returned goes with the provider.
+void TransferFunctionSession::carryOutPendingStop(std::uint32_t function, TfResult& result) {
+    if (stopping_ || !std::exchange(stopPending_, false)) return;
+    tfStop();
+    readConnectionSettings();
+    result = {};
+    result.returnCode = NotStarted;
+    if (!isControl(function)) showOwnText(messageOwner(), StoppedText);
+}
+
+void TransferFunctionSession::sendControl(Function function) { tfRequest(function, 0, 0, controlResult_, nullptr, 0); }
+
+// A session that was stopped has no request left to end, and is not started again for it.
+void TransferFunctionSession::tfEndRequest() {
+    if (started_ && !isDemonstration()) sendControl(TF_END_REQUEST);
+}
+
+void TransferFunctionSession::tfEndData() {
+    if (started_) sendControl(TF_END_DATA);
+    conversation_ = 0;
+}
+
+bool TransferFunctionSession::tfIsAs400Mode() const {
+    return transportType_ == host::value::TransportAs400 ||
+           host::GetSetting(settings_, id::RouterKind) == host::value::RouterAs400;
+}
+
+void TransferFunctionSession::tfTraceOn(const char* fileName) {
+    if (!traceFile_) traceFile_ = host::CreateFileObject(session_);
+    if (!traceFile_) return;
+    traceFile_->setName(fileName);
+    traceFile_->setTypeFlag(TraceIsBinary);
+    traceFile_->setExistingFileAction(host::value::Append);
+    traceFile_->setOption(TraceOption);
+}
+
+char* TransferFunctionSession::requestBuffer() { return tfStart() ? dataBuffer_ : nullptr; }
+
+std::string_view TransferFunctionSession::returned(const TfResult& result) const {
+    if (!result.data) return {};
+    const auto* data = static_cast<const char*>(result.data);
+    std::uint32_t room = BufferSize;
+    if (dataBuffer_ && data >= dataBuffer_ && data < dataBuffer_ + BufferSize)
+        room = static_cast<std::uint32_t>(dataBuffer_ + BufferSize - data);
+    return {data, std::min(result.dataLength, room)};
+}
+
+void TransferFunctionSession::yieldToDialog() {
+    if (!callbackSession || callbackProcess != platform::GetCurrentProcessId()) return;
+    if (const host::ProgressDialogHandle dialog = callbackSession->activeDialog_)
+        host::ProgressDialogCommand(dialog, host::ProgressCommand::ProcessMessages);
+}
+
+void TransferFunctionSession::onSettingChanged(std::uint32_t setting, std::int32_t newValue, std::int32_t oldValue) {
+    if (newValue == oldValue) return;
+    switch (setting) {
+        case id::HostCodePage:
+            codePage_.setHostCodePage(newValue);
+            break;
+        case id::ConvertToOem:
+            codePage_.setConvertToOem(newValue);
+            break;
+        case id::TransportType:
+            stopForChange(connectionChanging_ ? pendingTransportType_ : transportType_, newValue);
+            break;
+        case id::RouterKind:
+            stopForChange(connectionChanging_ ? pendingRouterKind_ : routerKind_, newValue);
+            break;
+        case id::ConnectionChanging:
+            onConnectionChanging(newValue != 0);
+            break;
+        default:
+            break;
+    }
+}
+
+// While the emulator changes several settings only the pending value is kept; the stop waits for the last of them.
+void TransferFunctionSession::stopForChange(std::int32_t& current, std::int32_t newValue) {
+    if (connectionChanging_) {
+        current = newValue;
+        return;
+    }
+    if (!started_) return;
+    tfStop();
+    if (!stopPending_) current = newValue;
+}
+
+void TransferFunctionSession::onConnectionChanging(bool changing) {
+    connectionChanging_ = changing;
+    if (changing) {
+        pendingTransportType_ = 0;
+        pendingRouterKind_ = 0;
+        return;
+    }
+    const bool transportChanged = pendingTransportType_ != 0 && pendingTransportType_ != transportType_;
+    const bool routerChanged = pendingRouterKind_ != 0 && pendingRouterKind_ != routerKind_;
+    if (!transportChanged && !routerChanged) return;
+    tfStop();
+    if (!stopPending_) readConnectionSettings();
+}
+
+}  // namespace provider

@@ -1,0 +1,127 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "host/owned.h"
+#include "monitor/monitor_store.h"
+#include "provider/message_box.h"
+#include "provider/provider_binding.h"
+#include "text/code_page_state.h"
+
+namespace provider {
+
+// Every conversation with the host goes through this object, one per client. It binds the provider when the first
+// exchange needs it and keeps it between transfers, owns the shared buffer in which requests and records travel, and
+// holds the code-page state and the monitor store.
+//
+// A stop (by the session's end or a change of the connection settings) that arrives while a provider call is on the
+// stack is carried out when that call has returned, before anything else is sent; the exchange it interrupted then ends
+// as NotStarted.
+class TransferFunctionSession {
+public:
+    // `watch` is registered for the settings of the connection and the code page; it is to call onSettingChanged.
+    // `yield` is what an IBM-style provider calls while it waits; it is to call yieldToDialog.
+    TransferFunctionSession(host::SessionHandle session, host::SettingWatch watch, YieldCallback yield);
+    ~TransferFunctionSession();
+    TransferFunctionSession(const TransferFunctionSession&) = delete;
+    TransferFunctionSession& operator=(const TransferFunctionSession&) = delete;
+
+    // True when exchanges may be made: the provider is bound, or the connection is the demonstration. Failures have
+    // been reported.
+    bool tfStart();
+    void tfStop();
+    bool isStarted() const { return started_; }
+
+    // One exchange: `length` bytes of the shared buffer go to the provider, its answer into `result`. Starts an idle
+    // session first; NotStarted when that fails. `designation` may be null; `dialog` (0: none) is kept alive while the
+    // provider waits. Shows nothing.
+    void tfRequest(std::uint32_t function, std::uint32_t length, std::uint32_t reserved, TfResult& result,
+                   const char* designation, host::ProgressDialogHandle dialog);
+    void tfEndRequest();
+    void tfEndData();
+
+    // True with the AS/400 client provider: its options are binary and its qualifiers are file names.
+    bool tfIsAs400Mode() const;
+
+    // Makes and sets up the trace file object. Nothing is written to it; exchanges are followed in the monitor store.
+    void tfTraceOn(const char* fileName);
+
+    // Whether the transfer may go on after an exchange. A failure has been shown by the message rules, its code and
+    // text are in the settings LastReturnCode and LastErrorText. `contextText` is the index in message table 7 of a
+    // text that says what was being done, 0 for none; `dialog` (0: none) is hidden while a message is up.
+    bool tfCheckResult(std::uint32_t contextText, const TfResult& result, host::ProgressDialogHandle dialog);
+
+    // "SYSTEM(NAME    )", built anew on each call; null when the session names no host system.
+    const char* hostSystemDesignation();
+
+    void onSettingChanged(std::uint32_t id, std::int32_t newValue, std::int32_t oldValue);
+    void setRuntimeSetting(std::uint32_t value) { runtimeSetting_ = value; }
+
+    // The shared buffer of BufferSize bytes; starts an idle session to get it. Null when that fails, and in a
+    // demonstration connection.
+    char* requestBuffer();
+    // The buffer as it is: null while the session is idle.
+    char* dataBuffer() const { return dataBuffer_; }
+
+    // The bytes that a result returned, as far as they can be trusted: none without an address, none behind the end of
+    // the shared buffer, never more than BufferSize.
+    std::string_view returned(const TfResult& result) const;
+
+    std::int32_t transportType() const { return transportType_; }
+    const text::CodePageState& codePage() const { return codePage_; }
+
+    // The monitor store; null when there was no memory for it.
+    monitor::MonitorStore* monitorStore() const { return monitorStore_.get(); }
+
+    // The provider waits: lets the dialog of the exchange in progress process messages.
+    static void yieldToDialog();
+
+private:
+    MessageOwner messageOwner() const { return {session_, settings_, sessionWindow_}; }
+    bool isDemonstration() const;
+    bool allocateBuffer();
+    void freeBuffer();
+    void readConnectionSettings();
+    void endConversation();
+    void releaseProvider();
+    void sendControl(Function function);
+    void carryOutPendingStop(std::uint32_t function, TfResult& result);
+    void onConnectionChanging(bool changing);
+    void stopForChange(std::int32_t& current, std::int32_t newValue);
+
+    void loadErrorText(const TfResult& result, std::uint32_t& contextText, char (&buffer)[100]) const;
+    void showError(const TfResult& result, std::uint32_t contextText, const char* errorText) const;
+    void showHostText(const TfResult& result, std::string_view hostText, const char* errorText) const;
+    void showNotCompleted() const;
+
+    // In the order in which the constructor makes them.
+    host::SessionHandle session_;
+    host::SettingsHandle settings_;
+    text::CodePageState codePage_;
+    host::Owned<monitor::MonitorStore> monitorStore_;
+    host::WindowHandle sessionWindow_;
+    host::SettingWatch watch_;
+    YieldCallback yield_;
+
+    char* dataBuffer_ = nullptr;
+    host::FileObject* traceFile_ = nullptr;
+    std::uint32_t runtimeSetting_ = 0;
+    ProviderBinding binding_;
+    std::uint32_t conversation_ = 0;
+    host::ProgressDialogHandle activeDialog_ = 0;
+    TfResult controlResult_;  // of the exchanges the session makes itself
+    void* bufferHandle_ = nullptr;
+    bool started_ = false;
+    std::int32_t transportType_ = 0;
+    std::int32_t routerKind_ = 0;
+    char systemDesignation_[301] = {};
+    std::int32_t pendingTransportType_ = 0;
+    std::int32_t pendingRouterKind_ = 0;
+    bool connectionChanging_ = false;
+    bool inProviderCall_ = false;
+    bool stopPending_ = false;
+    bool stopping_ = false;
+};
+
+}  // namespace provider
