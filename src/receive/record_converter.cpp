@@ -1,0 +1,79 @@
+#include "receive/record_converter.h"
+
+#include <utility>
+
+namespace receive {
+namespace {
+
+// No host record format has more fields; a provider that goes on describing them is stopped.
+constexpr std::int32_t MaximumExchanges = 8192;
+
+constexpr char DescriptionTooShort[] =
+    "The host's description of a field is shorter than 40 bytes. The fields behind it are not read.";
+constexpr char TooManyDescriptions[] =
+    "The host does not stop describing fields. The fields behind the last are not read.";
+
+}  // namespace
+
+HostFieldList::~HostFieldList() {
+    while (HostField* field = first_) {
+        first_ = field->next;
+        host::Owned<HostField>::adopt(field).reset();
+    }
+}
+
+void HostFieldList::append(host::Owned<HostField> field) {
+    HostField* added = field.release();
+    (last_ ? last_->next : first_) = added;
+    last_ = added;
+    ++count_;
+}
+
+RecordConverter::RecordConverter(host::SessionHandle owner, provider::TransferFunctionSession* functions,
+                                 settings::TransferContext* context, settings::TransferSettings* snapshot,
+                                 host::TextDisplayHandle display, std::int32_t count)
+    : session(owner),
+      tfSession(functions),
+      settings(host::GetSessionSettings(owner)),
+      transferSettings(snapshot),
+      transferContext(context),
+      mainWindow(host::GetSessionWindow(settings)),
+      textDisplay(display),
+      expectedCount(count) {}
+
+bool RecordConverter::readHostFields(host::ProgressDialogHandle dialog, bool forSend) {
+    if (dialog) host::ProgressDialogCommand(dialog, host::ProgressCommand::ReadingFields);
+    for (std::int32_t exchange = 0;; ++exchange) {
+        if (exchange == MaximumExchanges) {
+            provider::showOwnText(messageOwner(), TooManyDescriptions);
+            break;
+        }
+        tfSession->tfRequest(provider::TF_GET_FIELD, 0, 0, fieldResult, tfSession->hostSystemDesignation(), dialog);
+        if (fieldResult.returnCode == provider::NoMoreData) break;
+        if (fieldResult.returnCode != provider::Success) {
+            if (!tfSession->tfCheckResult(0, fieldResult, dialog)) break;
+        } else if (!addField(tfSession->returned(fieldResult), forSend)) {
+            break;
+        }
+    }
+    return !fields.isEmpty();
+}
+
+bool RecordConverter::addField(std::string_view description, bool forSend) {
+    if (description.size() < DescriptionSize) {
+        provider::showOwnText(messageOwner(), DescriptionTooShort);
+        return false;
+    }
+    description = description.substr(0, DescriptionSize);
+    if (monitor::MonitorStore* store = tfSession->monitorStore())
+        forSend ? store->recordSendField(description) : store->recordReceiveField(description);
+    auto field = host::Owned<HostField>::make(messageOwner(), description.data(), transferSettings);
+    if (!field) {
+        provider::showMessage(messageOwner(), provider::OutOfMemory);
+        return false;
+    }
+    fields.append(std::move(field));
+    return true;
+}
+
+}  // namespace receive

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "host/owned.h"
+#include "host/text_display.h"
+#include "provider/transfer_function_session.h"
+#include "receive/host_field.h"
+#include "settings/transfer_context.h"
+
+namespace receive {
+
+// The host fields of a transfer, in host order. Owns them.
+class HostFieldList {
+public:
+    HostFieldList() = default;
+    ~HostFieldList();
+    HostFieldList(const HostFieldList&) = delete;
+    HostFieldList& operator=(const HostFieldList&) = delete;
+
+    void append(host::Owned<HostField> field);
+    bool isEmpty() const { return !first_; }
+    std::int32_t count() const { return count_; }
+
+    class Iterator {
+    public:
+        explicit Iterator(HostField* field) : field_(field) {}
+        HostField& operator*() const { return *field_; }
+        Iterator& operator++() {
+            field_ = field_->next;
+            return *this;
+        }
+        bool operator==(const Iterator&) const = default;
+
+    private:
+        HostField* field_;
+    };
+    Iterator begin() const { return Iterator(first_); }
+    Iterator end() const { return Iterator(nullptr); }
+
+private:
+    HostField* first_ = nullptr;
+    HostField* last_ = nullptr;
+    std::int32_t count_ = 0;
+};
+
+// What converts the records of one transfer, in either direction: the host record layout and the buffers that are used
+// for record after record. Made by the driver once the statement is accepted, released at its end.
+struct RecordConverter {
+    RecordConverter(host::SessionHandle session, provider::TransferFunctionSession* tfSession,
+                    settings::TransferContext* transferContext, settings::TransferSettings* transferSettings,
+                    host::TextDisplayHandle textDisplay, std::int32_t expectedCount);
+
+    // Fetches the field descriptions of the request, with the progress dialog (0: none) showing that it does. True when
+    // there is at least one. The list ends where a description or memory for it fails, which has been reported.
+    bool readHostFields(host::ProgressDialogHandle dialog, bool forSend);
+
+    provider::MessageOwner messageOwner() const { return {session, settings, mainWindow}; }
+
+    host::SessionHandle session;
+    provider::TransferFunctionSession* tfSession;
+    host::SettingsHandle settings;
+    settings::TransferSettings* transferSettings;
+    settings::TransferContext* transferContext;
+    provider::TfResult fieldResult;
+    HostFieldList fields;
+    host::WindowHandle mainWindow;
+
+    // Receive.
+    host::TextDisplayHandle textDisplay;  // 0 for output to a PC file
+    std::int32_t expectedCount;           // records the query will return, as counted before
+    // Text of the number being converted: the longest is a hexadecimal field as large as a record, in double quotes.
+    char numberText[2 * provider::BufferSize + 3] = {};
+
+    // Send.
+    std::uint32_t recordCount = 0;  // records found so far in a text-like PC file
+    bool difValueSeen = false;
+    bool difTupleClosed = false;
+    host::OwnedBytes hostRecord;   // the record being built
+    host::OwnedBytes fieldBuffer;  // one field's text on its way to the host code page
+
+private:
+    bool addField(std::string_view description, bool forSend);
+};
+
+}  // namespace receive
