@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "host/owned.h"
+#include "receive/record_converter.h"
+
+namespace receive {
+
+// A BasicRandom record: the host record's fields at the same positions and lengths in the PC's number forms. False
+// after a reported failure; `work` owns the `length` bytes of the record.
+//
+// Binary: bytes reversed. Zoned: 0x30 plus the digit, the last 0xB0 plus the digit when negative. Packed: the sign
+// nibble becomes 0xB when negative and 0x3 otherwise. Hexadecimal: unchanged.
+bool toBinaryRecord(RecordConverter& converter, std::string_view hostRecord, host::OwnedBytes& work,
+                    std::uint32_t& length);
+
+}  // namespace receive

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "host/owned.h"
+#include "receive/record_converter.h"
+
+namespace receive {
+
+// A record of a text-like PC file type, or the cells of a row of the text display. False after a reported failure;
+// `work` owns the `length` bytes of the record.
+bool toDelimitedRecord(RecordConverter& converter, std::string_view hostRecord, host::OwnedBytes& work,
+                       std::uint32_t& length);
+
+}  // namespace receive
