@@ -1,0 +1,90 @@
+#include "fdf/code_tables.h"
+
+#include <algorithm>
+
+#include "receive/host_field.h"
+#include "settings/pc_file_types.h"
+
+namespace fdf {
+namespace {
+
+using settings::PcFileType;
+
+constexpr CodeRow fileTypes[] = {
+    {1, settings::AsciiText},
+    {2, settings::BasicRandom},
+    {3, settings::BasicSequential},
+    {4, NoCode},
+    {5, settings::Dif},
+    {6, settings::NoConversion},
+    {7, NoCode},
+    {8, NoCode},
+    {98, settings::TabDelimited},
+    {99, settings::CommaSeparated},
+};
+
+// The comments name the keyword that a value has in the options request.
+constexpr CodeRow timeFormats[] = {
+    {1, 3} /*HMS*/, {2, 4} /*ISO*/, {3, 6} /*USA*/, {4, 2} /*EUR*/, {5, 5} /*JIS*/, {6, 0} /*DDS*/, {7, 1} /*DFT*/,
+};
+constexpr CodeRow timeSeparators[] = {
+    {1, 1} /*:*/, {2, 6} /*.*/, {3, 2} /*,*/, {4, 0} /*blank*/, {5, 5} /*NUL*/, {6, 4} /*DFT*/,
+};
+constexpr CodeRow dateFormats[] = {
+    {1, 7} /*MDY*/, {2, 2} /*DMY*/, {3, 9} /*YMD*/, {4, 6} /*JUL*/, {5, 4} /*ISO*/,
+    {6, 8} /*USA*/, {7, 3} /*EUR*/, {8, 5} /*JIS*/, {9, 0} /*DDS*/, {10, 1} /*DFT*/,
+};
+constexpr CodeRow dateSeparators[] = {
+    {1, 7} /*slash*/, {2, 3} /*hyphen*/, {3, 6} /*.*/, {4, 2} /*,*/, {5, 0} /*blank*/, {6, 5} /*NUL*/, {7, 4} /*DFT*/,
+};
+constexpr CodeRow decimalSeparators[] = {{1, 6} /*.*/, {2, 2} /*,*/};
+
+// Codes of the five host field types, in the order of their numbers.
+struct FieldTypeCodes {
+    std::int32_t hex, binary, character, zoned, packed;
+};
+constexpr FieldTypeCodes FdfFieldTypesText{2, 2, 1, 2, 2};  // 1 = character, 2 = numeric
+constexpr FieldTypeCodes FdfFieldTypesRandom{3, 4, 1, 5, 6};
+constexpr FieldTypeCodes FdfFieldTypesNoConversion{3, 4, 10, 11, 12};
+
+const FieldTypeCodes& fieldTypes(std::int32_t pcFileType) {
+    if (settings::isTextLike(pcFileType)) return FdfFieldTypesText;
+    return pcFileType == settings::BasicRandom ? FdfFieldTypesRandom : FdfFieldTypesNoConversion;
+}
+
+}  // namespace
+
+const FdfCodeTable FdfFileTypes(fileTypes);
+const FdfCodeTable FdfTimeFormats(timeFormats);
+const FdfCodeTable FdfTimeSeparators(timeSeparators);
+const FdfCodeTable FdfDateFormats(dateFormats);
+const FdfCodeTable FdfDateSeparators(dateSeparators);
+const FdfCodeTable FdfDecimalSeparators(decimalSeparators);
+
+std::int32_t fdfCodeToValue(FdfCodeTable table, std::uint32_t code) {
+    const auto row = std::find_if(table.begin(), table.end(), [&](const CodeRow& each) { return each.code == code; });
+    return row == table.end() ? NoCode : row->value;
+}
+
+std::int32_t valueToFdfCode(FdfCodeTable table, std::int32_t value) {
+    const auto row = std::find_if(table.begin(), table.end(), [&](const CodeRow& each) { return each.value == value; });
+    return row == table.end() ? NoCode : row->code;
+}
+
+std::int32_t fieldTypeCode(std::int32_t pcFileType, std::uint8_t hostFieldType) {
+    const FieldTypeCodes& codes = fieldTypes(pcFileType);
+    switch (hostFieldType) {
+        case receive::Hex:
+            return codes.hex;
+        case receive::Binary:
+            return codes.binary;
+        case receive::Zoned:
+            return codes.zoned;
+        case receive::Packed:
+            return codes.packed;
+        default:
+            return codes.character;
+    }
+}
+
+}  // namespace fdf
