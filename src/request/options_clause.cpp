@@ -1,0 +1,92 @@
+#include "request/options_clause.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "request/statement_exchange.h"
+#include "request/statement_writer.h"
+
+namespace request {
+namespace {
+
+constexpr std::string_view Prefix = "OPTIONS ";
+constexpr std::string_view Default = "DFT";
+
+// Keywords by setting value; every value beyond a table's end is the default.
+constexpr std::string_view timeFormats[] = {"DDS", Default, "EUR", "HMS", "ISO", "JIS", "USA"};
+constexpr std::string_view timeSeparators[] = {"' '", "':'", "','", Default, Default, "NUL", "'.'"};
+constexpr std::string_view dateFormats[] = {"DDS", Default, "DMY", "EUR", "ISO", "JIS", "JUL", "MDY", "USA", "YMD"};
+constexpr std::string_view dateSeparators[] = {"' '", Default, "','", "'-'", Default, "NUL", "'.'", "'/'"};
+
+template <std::size_t Size>
+std::string_view keyword(const std::string_view (&table)[Size], std::int32_t value) {
+    return value >= 0 && static_cast<std::size_t>(value) < Size ? table[value] : Default;
+}
+
+void appendOption(StatementWriter& writer, std::string_view name, std::string_view value) {
+    writer.append(name);
+    writer.append("(");
+    writer.append(value);
+    writer.append(") ");
+}
+
+void appendSortSequence(StatementWriter& writer, std::string_view sequence) {
+    if (sequence.empty() || sequence == "*JOB") return;
+    const std::string_view quote = sequence[0] == '*' ? "" : "'";
+    writer.append("SRTSEQ(");
+    writer.append(quote);
+    writer.append(sequence);
+    writer.append(quote);
+    writer.append(") ");
+}
+
+std::string_view composeText(char* buffer, const settings::TransferSettings& options) {
+    StatementWriter writer(buffer);
+    writer.append(Prefix);
+    appendOption(writer, "IGNDECERR", options.ignoreDecimalErrors ? "Y" : "N");
+    appendOption(writer, "TIMFMT", keyword(timeFormats, options.timeFormat));
+    appendOption(writer, "TIMSEP", keyword(timeSeparators, options.timeSeparator));
+    appendOption(writer, "DATFMT", keyword(dateFormats, options.dateFormat));
+    appendOption(writer, "DATSEP", keyword(dateSeparators, options.dateSeparator));
+    appendSortSequence(writer, options.sortSequence);
+    return writer.text();
+}
+
+enum SortSequenceKind : char { None = 0, SharedWeights = 1, UniqueWeights = 2, Other = 3 };
+
+SortSequenceKind sortSequenceKind(std::string_view sequence) {
+    if (sequence.empty() || sequence == "*JOB" || sequence == "*HEX") return None;
+    if (sequence == "*LANGIDSHR") return SharedWeights;
+    if (sequence == "*LANGIDUNQ") return UniqueWeights;
+    return Other;
+}
+
+std::string_view composeBlock(char* buffer, const settings::TransferSettings& options) {
+    const std::string_view sequence = options.sortSequence;
+    const SortSequenceKind kind = sortSequenceKind(sequence);
+    const std::int32_t values[] = {options.ignoreDecimalErrors, options.timeFormat,    options.timeSeparator,
+                                   options.dateFormat,          options.dateSeparator, options.decimalSeparatorMode};
+    char* next = std::copy(Prefix.begin(), Prefix.end(), buffer);
+    next = std::transform(std::begin(values), std::end(values), next,
+                          [](std::int32_t value) { return static_cast<char>(value); });
+    *next++ = kind;
+    if (kind == Other) {
+        next = std::copy(sequence.begin(), sequence.end(), next);
+        *next++ = '\0';
+    }
+    return {buffer, static_cast<std::size_t>(next - buffer)};
+}
+
+}  // namespace
+
+bool composeOptionsClause(ZXFRPCSCLIENT& client, std::string_view& request) {
+    char* buffer = requestBuffer(client);
+    if (!buffer) return false;
+    const settings::TransferSettings& options = *client.transferSettings;
+    const std::string_view composed =
+        client.tfSession->tfIsAs400Mode() ? composeBlock(buffer, options) : composeText(buffer, options);
+    request = composed.substr(0, composed.find('\0'));
+    return true;
+}
+
+}  // namespace request

@@ -1,0 +1,79 @@
+#include "request/query_clauses.h"
+
+#include "request/file_qualifiers.h"
+#include "request/statement_exchange.h"
+#include "text/double_byte.h"
+
+namespace request {
+namespace {
+
+constexpr char NoClauseSource[] = "This session offers no clauses for a transfer from the host.";
+
+// The user's clauses, trimmed where the request wants them so.
+struct Clauses {
+    text::TextBuffer selection, join, groupBy, having, orderBy;
+
+    void fetch(const ZXFRPCSCLIENT& client, host::SessionServices::GetTransferClauses entry) {
+        entry(client.session, nullptr, selection.record(), orderBy.record(), groupBy.record(), having.record(),
+              join.record());
+        for (text::TextBuffer* clause : {&selection, &groupBy, &having, &orderBy}) {
+            clause->trimStart();
+            clause->trimEnd();
+        }
+    }
+};
+
+// The join condition goes as it is; of blanks only it counts as none. Each append carries keyword and text together, so
+// that what does not fit leaves nothing behind.
+void appendWhere(text::TextBuffer& request, const Clauses& clauses) {
+    const std::string_view selection = clauses.selection.view();
+    const std::string_view join = clauses.join.view();
+    if (text::trimmedStart(join).empty()) {
+        if (!selection.empty()) request.append({" where ", selection});
+        return;
+    }
+    request.trimEnd();
+    if (selection.empty())
+        request.append({" where ", join});
+    else
+        request.append({" where ", join, " and (", selection, ")"});
+}
+
+void appendGrouping(text::TextBuffer& request, const Clauses& clauses) {
+    if (!clauses.groupBy.isEmpty()) request.append({" group by ", clauses.groupBy.view()});
+    if (!clauses.having.isEmpty()) request.append({" having ", clauses.having.view()});
+    if (!clauses.orderBy.isEmpty()) request.append({" order by ", clauses.orderBy.view()});
+}
+
+}  // namespace
+
+bool applyFileQualifiers(ZXFRPCSCLIENT& client, text::TextBuffer& text, std::uint32_t start) {
+    if (!client.tfSession || !client.tfSession->tfIsAs400Mode()) return true;
+    return replaceQualifiers(text, start, client.hostFileName) || refuseLongStatement(client);
+}
+
+bool composeQueryClauses(ZXFRPCSCLIENT& client, bool stopAfterWhere, bool groupingOnly) {
+    if (!client.requestText) {
+        provider::showMessage(client.messageOwner(), provider::OutOfMemory);
+        return false;
+    }
+    const auto entry = client.sessionServices ? client.sessionServices->getTransferClauses() : nullptr;
+    if (!entry) {
+        provider::showOwnText(client.messageOwner(), NoClauseSource);
+        return false;
+    }
+    text::TextBuffer& request = *client.requestText;
+    Clauses clauses;
+    clauses.fetch(client, entry);
+    const std::uint32_t start = groupingOnly ? request.length() : 0;
+    if (!groupingOnly) {
+        request.assign(" FROM ");
+        request.append(client.hostFileName);
+        request.append(" ");
+        appendWhere(request, clauses);
+    }
+    if (groupingOnly || !stopAfterWhere) appendGrouping(request, clauses);
+    return applyFileQualifiers(client, request, start);
+}
+
+}  // namespace request

@@ -1,0 +1,94 @@
+#include "request/select_statement.h"
+
+#include "host/setting_ids.h"
+#include "host/setting_values.h"
+#include "request/query_clauses.h"
+#include "request/statement_exchange.h"
+#include "request/statement_writer.h"
+#include "text/double_byte.h"
+
+namespace request {
+namespace {
+
+constexpr std::int32_t QueryFailed = -1;
+constexpr char BadRecordCount[] = "The host answered the question for the number of records with a negative number.";
+
+std::int32_t bigEndian(const char* bytes) {
+    std::uint32_t value = 0;
+    for (int at = 0; at < 4; ++at) value = value << 8 | static_cast<std::uint8_t>(bytes[at]);
+    return static_cast<std::int32_t>(value);
+}
+
+bool composeCountStatement(ZXFRPCSCLIENT& client, std::string_view& statement) {
+    char* buffer = requestBuffer(client);
+    if (!buffer) return false;
+    StatementWriter writer(buffer);
+    writer.append("SELECT COUNT(*)");
+    writer.append(client.requestText->view());
+    writer.shortenTo(static_cast<std::uint32_t>(text::trimmedEnd(writer.text()).size()));
+    if (host::GetSetting(client.settings, host::setting::RouterKind) == host::value::RouterAs400)
+        writer.append(" FOR FETCH ONLY");
+    statement = writer.text();
+    return writer.fits() || refuseLongStatement(client);
+}
+
+void fetchCountRecord(ZXFRPCSCLIENT& client) {
+    client.tfSession->tfRequest(provider::TF_GET_DATA, 0, 0, client.lastResult, nullptr, client.progressDialog);
+}
+
+// Providers that report the end of the count's single record have to be asked for it.
+bool reportsEndOfCount(const provider::TransferFunctionSession& tf) {
+    switch (tf.transportType()) {
+        case 5:
+        case 7:
+        case 8:
+        case 9:
+        case 13:
+        case 14:
+        case 15:
+            return true;
+        default:
+            return tf.tfIsAs400Mode();
+    }
+}
+
+}  // namespace
+
+bool composeSelectStatement(ZXFRPCSCLIENT& client, std::string_view& statement) {
+    char* buffer = requestBuffer(client);
+    if (!buffer) return false;
+    StatementWriter writer(buffer);
+    writer.append("SELECT ");
+    text::TextBuffer* selectList = client.transferSettings->selectList.get();
+    if (selectList) {
+        selectList->trimStart();
+        selectList->trimEnd();
+    }
+    if (!selectList || selectList->isEmpty()) {
+        writer.append("* ");
+    } else {
+        if (!applyFileQualifiers(client, *selectList, 0)) return false;
+        writer.append(selectList->view());
+    }
+    writer.append(client.requestText->view());
+    statement = writer.text();
+    return writer.fits() || refuseLongStatement(client);
+}
+
+std::int32_t queryRecordCount(ZXFRPCSCLIENT& client) {
+    std::string_view statement;
+    if (!composeCountStatement(client, statement)) return QueryFailed;
+    sendStatement(client, statement, Direction::Receive, client.progressDialog);
+    if (!checkLastResult(client, CountingRecords)) return QueryFailed;
+    fetchCountRecord(client);
+    if (!checkLastResult(client, CountingRecords)) return QueryFailed;
+    provider::TransferFunctionSession& tf = *client.tfSession;
+    const std::int32_t count = bigEndian(tf.dataBuffer());
+    if (reportsEndOfCount(tf)) fetchCountRecord(client);
+    if (tf.tfIsAs400Mode()) tf.tfEndRequest();
+    if (count >= 0) return count;
+    provider::showOwnText(client.messageOwner(), BadRecordCount);
+    return QueryFailed;
+}
+
+}  // namespace request

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "client/client_object.h"
+
+namespace request {
+
+// Context texts of tfCheckResult: indexes in message table 7 of what was being done.
+enum Context : std::uint32_t {
+    NoContext = 0,
+    SendingTextRecord = 88,
+    SendingRequest = 400,
+    ListingCatalog = 401,
+    SendingRecord = 404,
+    CountingRecords = 405,
+};
+
+enum class Direction { Receive, Send };
+
+// Sends a statement that stands at the start of the shared buffer: publishes it, exchanges it with the system
+// designation into lastResult, touches the direction's list. The catalogue passes no dialog.
+void sendStatement(ZXFRPCSCLIENT& client, std::string_view statement, Direction direction,
+                   host::ProgressDialogHandle dialog);
+
+// Judges lastResult.
+bool checkLastResult(ZXFRPCSCLIENT& client, Context context);
+
+// sendStatement with the progress dialog, then checkLastResult for a request.
+bool exchangeStatement(ZXFRPCSCLIENT& client, std::string_view statement, Direction direction);
+
+// The shared buffer for composing; null after the failure has been reported.
+char* requestBuffer(ZXFRPCSCLIENT& client);
+
+// Tells that a statement does not fit the shared buffer or the request text; always false.
+bool refuseLongStatement(const ZXFRPCSCLIENT& client);
+
+}  // namespace request
