@@ -1,0 +1,23 @@
+#include "client/client_object.h"
+
+#include "client/exports.h"
+
+namespace client {
+
+host::Owned<provider::TransferFunctionSession> makeTransferFunctionSession(host::SessionHandle session) {
+    return host::Owned<provider::TransferFunctionSession>::make(session, stateChangeProc, EHNTF_STF_Callback);
+}
+
+}  // namespace client
+
+void ZXFRPCSCLIENT::pumpMessages() {
+    if (progressDialog && showProgress)
+        host::ProgressDialogCommand(progressDialog, host::ProgressCommand::ProcessMessages);
+    else
+        host::PumpMessages(appHandle, 1);
+}
+
+bool ZXFRPCSCLIENT::tfStart() {
+    if (!tfSession) tfSession = client::makeTransferFunctionSession(session);
+    return tfSession && tfSession->tfStart();
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstddef>
+
+#include "host/objects.h"
+#include "host/owned.h"
+#include "provider/transfer_function_session.h"
+#include "settings/transfer_context.h"
+#include "settings/transfer_settings.h"
+#include "text/text_buffer.h"
+
+// The transfer client of one host session: plain state that the requests and drivers work on. It lives from
+// newZXFRPCSCLIENT to deleteZXFRPCSCLIENT; what the comments call "running" is meaningful during one transfer only.
+struct ZXFRPCSCLIENT {
+    explicit ZXFRPCSCLIENT(host::SessionHandle handle) : session(handle) {}
+
+    // The two flags that the text display's notifications set: they must stay the first two words.
+    std::uint32_t moreRequested = 0;
+    std::uint32_t displayClosed = 0;
+    host::Owned<provider::TransferFunctionSession> tfSession;  // made again by tfStart when it is missing
+    host::SessionHandle session;
+    host::SettingsHandle settings = 0;
+    host::PathServices* pathServices = nullptr;
+    host::FileObject* fileObject = nullptr;   // running: the PC file
+    host::TextDisplayHandle textDisplay = 0;  // running, output to the screen
+    host::WindowHandle ownerWindow = 0;       // running
+    host::WindowHandle mainWindow = 0;
+    std::uint32_t cancelRequested = 0;              // running: set by pcsCancelTransfer
+    std::uint32_t showProgress = 0;                 // running
+    host::ProgressDialogHandle progressDialog = 0;  // running
+    char pcFileName[1025] = {};                     // running
+    char hostFileName[1025] = {};                   // running
+    host::AppHandle appHandle = 0;
+    provider::TfResult lastResult;
+    host::Owned<settings::TransferContext> transferContext;    // running
+    host::Owned<settings::TransferSettings> transferSettings;  // running
+    const host::SessionServices* sessionServices = nullptr;
+    std::uint32_t demoIndex = 0;
+    host::Owned<text::TextBuffer> workText;     // the filter of a demonstration catalogue
+    host::Owned<text::TextBuffer> requestText;  // 4096 characters: statements are composed in it
+    const char* browseFilter = nullptr;         // while a first catalogue call runs
+
+    // Lets the emulator process pending window messages once.
+    void pumpMessages();
+    // Makes the transfer-function session when it is missing, then starts it.
+    bool tfStart();
+
+    provider::MessageOwner messageOwner() const { return {session, settings, mainWindow}; }
+};
+static_assert(offsetof(ZXFRPCSCLIENT, moreRequested) == 0);
+static_assert(offsetof(ZXFRPCSCLIENT, displayClosed) == 4);
+
+namespace client {
+
+// The transfer-function session of a client; null when there is no memory for it.
+host::Owned<provider::TransferFunctionSession> makeTransferFunctionSession(host::SessionHandle session);
+
+}  // namespace client

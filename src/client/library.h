@@ -1,0 +1,14 @@
+#pragma once
+
+#include "host/types.h"
+
+// The library as a module of the process.
+namespace client {
+
+// Called once, by the platform's library entry, when the library is attached to the process.
+void attachLibrary(host::ModuleHandle module);
+
+// The library's own handle: holds its string resources and is passed to the connection dialog.
+host::ModuleHandle moduleHandle();
+
+}  // namespace client

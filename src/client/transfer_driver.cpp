@@ -1,0 +1,167 @@
+#include "client/transfer_driver.h"
+
+#include <cstring>
+
+#include "client/connection_check.h"
+#include "host/setting_ids.h"
+#include "host/setting_values.h"
+#include "platform/platform.h"
+#include "receive/receive_driver.h"
+#include "send/send_driver.h"
+#include "settings/pc_file_types.h"
+
+namespace client {
+namespace {
+
+namespace id = host::setting;
+
+constexpr std::uint32_t SettingsFileCommand = 67;
+constexpr std::uint32_t SettingsFileSubCode = 24;
+constexpr std::uint32_t SettingsFileMode = 3;
+constexpr std::uint32_t TextArgument = 32;
+constexpr std::uint32_t WorkingDirectorySize = 261;
+
+constexpr std::uint32_t PcFileOpenFlags = 11;
+constexpr char TraceFileName[] = "XFERLOG.TXT";
+
+bool runSettingsFile(const ZXFRPCSCLIENT& client, const char* settingsFile) {
+    const host::AppCommandArgument argument = {TextArgument, settingsFile};
+    host::RunAppCommand(client.appHandle, SettingsFileCommand, SettingsFileSubCode, SettingsFileMode, &argument);
+    if (host::CheckCommandFailed(client.settings)) {
+        host::SetSetting(client.settings, id::TransferActive, 0);
+        return false;
+    }
+    char directory[WorkingDirectorySize] = {};
+    host::GetStringSetting(client.settings, id::WorkingDirectory, directory, sizeof(directory));
+    if (directory[0] && client.pathServices) client.pathServices->setCurrentDirectory(directory);
+    return true;
+}
+
+host::WindowHandle chooseOwner(const ZXFRPCSCLIENT& client, host::WindowHandle wanted) {
+    if (platform::IsWindow(wanted)) return wanted;
+    const auto fallback = static_cast<host::WindowHandle>(host::GetSetting(client.settings, id::TransferOwnerWindow));
+    return platform::GetLastActivePopup(fallback ? fallback : client.mainWindow);
+}
+
+void readFileNames(ZXFRPCSCLIENT& client) {
+    host::GetStringSetting(client.settings, id::PcFileName, client.pcFileName, sizeof(client.pcFileName));
+    host::GetStringSetting(client.settings, id::HostFileName, client.hostFileName, sizeof(client.hostFileName));
+}
+
+bool asksForTrace(const char* pcFileName) {
+    return std::strstr(pcFileName, "XFERTRCE.LOG") || std::strstr(pcFileName, "xfertrce.log");
+}
+
+// The receive file type that the output asks for, in the setting and in the snapshot, for as long as this lives.
+class ForcedFileType {
+public:
+    ForcedFileType(ZXFRPCSCLIENT& client, bool receive)
+        : settings_(client.settings), saved_(client.transferSettings->receiveFileType) {
+        const std::int32_t output = client.transferSettings->receiveOutput;
+        if (!receive) return;
+        if (output == host::value::ToDisplay) {
+            force(client, settings::AsciiText);
+            client.showProgress = 0;
+        } else if (output == host::value::ToSpreadsheet) {
+            force(client, settings::Dif);
+        }
+    }
+    void restore() const {
+        if (forced_) host::SetSetting(settings_, id::ReceiveFileType, saved_);
+    }
+
+private:
+    void force(ZXFRPCSCLIENT& client, settings::PcFileType type) {
+        host::SetSetting(settings_, id::ReceiveFileType, type);
+        client.transferSettings->receiveFileType = type;
+        forced_ = true;
+    }
+
+    host::SettingsHandle settings_;
+    std::int32_t saved_;
+    bool forced_ = false;
+};
+
+void reportOutOfMemory(const ZXFRPCSCLIENT& client) {
+    provider::showMessage({client.session, client.settings, platform::GetLastActivePopup(client.mainWindow)},
+                          provider::OutOfMemory);
+}
+
+bool makeSnapshotAndContext(ZXFRPCSCLIENT& client) {
+    provider::TransferFunctionSession* tf = client.tfSession.get();
+    client.transferSettings = host::Owned<settings::TransferSettings>::make(client.session, tf);
+    if (client.transferSettings)
+        client.transferContext =
+            host::Owned<settings::TransferContext>::make(client.session, tf, client.transferSettings.get());
+    if (client.transferContext) return true;
+    reportOutOfMemory(client);
+    return false;
+}
+
+bool makeFileObject(ZXFRPCSCLIENT& client, bool receive) {
+    const std::int32_t output = client.transferSettings->receiveOutput;
+    if (receive && output != host::value::ToPcFile && output != host::value::ToSpreadsheet) return true;
+    client.fileObject = host::CreateFileObject(client.session);
+    if (!client.fileObject) {
+        reportOutOfMemory(client);
+        return false;
+    }
+    const std::int32_t type = host::GetSetting(client.settings, receive ? id::ReceiveFileType : id::SendFileType);
+    const bool binary = type == settings::BasicRandom || type == settings::NoConversion;
+    client.fileObject->setName(client.pcFileName);
+    client.fileObject->setTypeFlag(binary ? 1 : 0);
+    client.fileObject->setOpenFlags(PcFileOpenFlags);
+    client.fileObject->setExistingFileAction(
+        static_cast<std::uint32_t>(host::GetSetting(client.settings, id::ExistingFileAction)));
+    return true;
+}
+
+void releaseFileAndDialog(ZXFRPCSCLIENT& client) {
+    if (client.fileObject) {
+        client.fileObject->close();
+        client.fileObject->destroy();
+        client.fileObject = nullptr;
+    }
+    if (client.progressDialog) {
+        host::ProgressDialogDestroy(client.progressDialog);
+        client.progressDialog = 0;
+    }
+}
+
+// With the snapshot and the context in place.
+void runDriver(ZXFRPCSCLIENT& client, bool receive) {
+    const ForcedFileType forcedType(client, receive);
+    if (makeFileObject(client, receive)) {
+        if (receive)
+            receive::receiveFromHost(client);
+        else
+            send::sendToHost(client);
+    }
+    releaseFileAndDialog(client);
+    forcedType.restore();
+}
+
+void runActiveTransfer(ZXFRPCSCLIENT& client, bool receive, host::WindowHandle ownerWindow) {
+    host::SetSetting(client.settings, id::TransferActive, 1);
+    client.ownerWindow = chooseOwner(client, ownerWindow);
+    readFileNames(client);
+    if (asksForTrace(client.pcFileName)) client.tfSession->tfTraceOn(TraceFileName);
+    client.cancelRequested = 0;
+    if (makeSnapshotAndContext(client)) runDriver(client, receive);
+    client.transferSettings.reset();
+    client.transferContext.reset();
+    host::SetSetting(client.settings, id::TransferActive, 0);
+}
+
+}  // namespace
+
+void transferFile(ZXFRPCSCLIENT& client, const char* settingsFile, std::uint32_t direction, std::uint32_t showProgress,
+                  host::WindowHandle ownerWindow) {
+    if (client.transferSettings) return;
+    client.showProgress = showProgress;
+    if (settingsFile && *settingsFile && !runSettingsFile(client, settingsFile)) return;
+    if (!checkConnection(client) || !client.tfStart()) return;
+    runActiveTransfer(client, direction == 0, ownerWindow);
+}
+
+}  // namespace client

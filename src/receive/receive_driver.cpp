@@ -1,0 +1,338 @@
+#include "receive/receive_driver.h"
+
+#include "client/demonstration.h"
+#include "client/exports.h"
+#include "fdf/fdf_writer.h"
+#include "host/setting_ids.h"
+#include "host/setting_values.h"
+#include "platform/platform.h"
+#include "receive/dif_header.h"
+#include "receive/dif_strings.h"
+#include "receive/record_conversion.h"
+#include "receive/record_converter.h"
+#include "receive/spreadsheet.h"
+#include "request/options_clause.h"
+#include "request/query_clauses.h"
+#include "request/select_statement.h"
+#include "request/statement_exchange.h"
+#include "settings/pc_file_types.h"
+
+namespace receive {
+namespace {
+
+namespace id = host::setting;
+using host::ProgressCommand;
+
+enum Message : std::uint32_t {
+    SeparatorsAlike = 4433,
+    DisplayNotBegun = 4436,
+    DifNotAppended = 4682,
+};
+
+constexpr std::uint32_t TextTable = 7;
+constexpr std::uint32_t NoRecordsText = 416;
+constexpr std::uint32_t DisplayTitleText = 418;
+constexpr std::uint32_t MoreText = 432;
+constexpr std::uint32_t DisplayNameText = 434;
+constexpr std::uint32_t NoRecordsHelp = 124;
+
+constexpr char RecordTooLong[] =
+    "The host returned a record that is longer than 4096 bytes. The transfer ends with the record before it.";
+
+// Progress is shown for every record of a small result, and in larger steps for larger ones.
+bool isProgressStep(std::int32_t expectedCount, std::int32_t recordNumber) {
+    if (expectedCount <= 200) return true;
+    return recordNumber % (expectedCount < 500 ? 50 : 100) == 0;
+}
+
+// One transfer from the host. Each step is true when the next one may follow.
+class ReceiveRun {
+public:
+    explicit ReceiveRun(ZXFRPCSCLIENT& client)
+        : client_(client),
+          settings_(*client.transferSettings),
+          rowsPerPage_(host::GetSetting(client.settings, id::DisplayRowsPerPage)) {
+        client_.lastResult.returnCode = provider::NoMoreData;  // no request is open
+    }
+
+    void run();
+
+private:
+    bool settingsFit();
+    void prepareDisplay();
+    void resetJobSettings();
+    bool createProgressDialog();
+    bool transfer();
+    bool countRecords();
+    bool sendRequests();
+    bool sendOptions();
+    bool sendQuery();
+    bool readFields();
+    bool prepareOutput();
+    bool beginDisplay();
+    bool openPcFile();
+    bool transferRecords();
+    bool transferRecord();
+    bool writePcRecord(std::string_view bytes);
+    bool showRow();
+    void showProgress();
+    void finishOutput();
+    void cleanUp();
+
+    bool toDisplay() const { return settings_.receiveOutput == host::value::ToDisplay; }
+    bool toFile() const {
+        return settings_.receiveOutput == host::value::ToPcFile ||
+               settings_.receiveOutput == host::value::ToSpreadsheet;
+    }
+    bool isDif() const { return settings_.receiveFileType == settings::Dif; }
+    bool existingFileActionIs(std::int32_t action) const {
+        return host::GetSetting(client_.settings, id::ExistingFileAction) == action;
+    }
+    bool goesOn() const { return client_.cancelRequested == 0; }
+    void command(ProgressCommand code) { host::ProgressDialogCommand(client_.progressDialog, code); }
+    provider::MessageOwner owner() const { return {client_.session, client_.settings, client_.ownerWindow}; }
+    bool fail(std::uint32_t message) const {
+        provider::showMessage(owner(), message);
+        return false;
+    }
+
+    ZXFRPCSCLIENT& client_;
+    settings::TransferSettings& settings_;
+    std::int32_t rowsPerPage_;
+    std::int32_t expectedCount_ = 0;  // 0 without a count query: every record is a progress step
+    std::int32_t recordNumber_ = 1;
+    std::int32_t pageLine_ = 0;
+    char titleText_[40] = {};
+    char moreText_[80] = {};
+    host::Owned<RecordConverter> converter_;
+};
+
+void ReceiveRun::run() {
+    if (!settingsFit()) return;
+    if (!client_.fileObject) prepareDisplay();
+    resetJobSettings();
+    if (createProgressDialog()) {
+        if (host::GetSetting(client_.settings, id::ConnectionType) == host::value::DemonstrationConnection)
+            client::runDemonstration(client_, true);
+        else if (transfer())
+            finishOutput();
+    }
+    cleanUp();
+}
+
+bool ReceiveRun::settingsFit() {
+    if (settings_.receiveFileType == settings::CommaSeparated && settings_.decimalSeparator == ',' &&
+        settings_.listSeparator == ',')
+        return fail(SeparatorsAlike);
+    return !isDif() || !existingFileActionIs(host::value::Append) || fail(DifNotAppended);
+}
+
+void ReceiveRun::prepareDisplay() {
+    host::LoadMessageText(client_.session, TextTable, DisplayTitleText, titleText_, sizeof(titleText_));
+    const host::TextDisplayParameters parameters = {
+        client_.ownerWindow,          client_.session, titleText_, TextDisplayMoreNotification, 0,
+        TextDisplayCloseNotification, &client_};
+    client_.textDisplay = host::TextDisplayCreate(&parameters);
+    host::LoadMessageText(client_.session, TextTable, DisplayNameText, client_.pcFileName, sizeof(client_.pcFileName));
+}
+
+void ReceiveRun::resetJobSettings() {
+    host::SetSetting(client_.settings, id::JobRecordsReceived, 0);
+    host::SetSetting(client_.settings, id::JobRecordsTotal, 0);
+    for (const std::uint32_t setting : {id::JobName, id::JobUser, id::JobNumber})
+        host::SetStringSetting(client_.settings, setting, "*");
+}
+
+bool ReceiveRun::createProgressDialog() {
+    const std::uint32_t mode = !client_.showProgress ? 0 : settings_.recordProgress == 1 ? 1 : 2;
+    client_.progressDialog = host::ProgressDialogCreate(client_.session, host::FromHost, mode, 0);
+    if (!client_.progressDialog) return fail(provider::OutOfMemory);
+    if (client_.showProgress) {
+        host::ProgressDialogSetPcName(client_.progressDialog, client_.pcFileName);
+        host::ProgressDialogSetHostName(client_.progressDialog, client_.hostFileName);
+    }
+    command(ProgressCommand::Starting);
+    return true;
+}
+
+bool ReceiveRun::transfer() {
+    return request::composeQueryClauses(client_, true, false) && countRecords() && sendRequests() && readFields() &&
+           prepareOutput() && transferRecords();
+}
+
+bool ReceiveRun::countRecords() {
+    if (settings_.recordProgress != 1 && !isDif()) return true;
+    command(ProgressCommand::CountingRecords);
+    const std::int32_t count = request::queryRecordCount(client_);
+    if (count < 0) return false;
+    if (count == 0) {
+        const provider::HiddenDialog hidden(client_.progressDialog);
+        if (host::IsMessageEnabled(client_.settings, 0))
+            host::ShowMessage(client_.session, client_.ownerWindow, host::MessageId(TextTable, NoRecordsText),
+                              provider::BoxFlags, 1, NoRecordsHelp);
+        return false;
+    }
+    expectedCount_ = count;
+    host::SetSetting(client_.settings, id::JobRecordsTotal, count);
+    host::SetSetting(client_.settings, id::TransferDirection, host::FromHost);
+    host::ProgressDialogSetTotal(client_.progressDialog, static_cast<std::uint32_t>(count), host::Records);
+    return true;
+}
+
+bool ReceiveRun::sendRequests() { return sendOptions() && sendQuery(); }
+
+bool ReceiveRun::sendOptions() {
+    command(ProgressCommand::OptionsRequest);
+    std::string_view options;
+    if (!request::composeOptionsClause(client_, options) ||
+        !request::exchangeStatement(client_, options, request::Direction::Receive))
+        return false;
+    command(ProgressCommand::ProcessMessages);
+    return goesOn();
+}
+
+bool ReceiveRun::sendQuery() {
+    if (!request::composeQueryClauses(client_, false, true) || !goesOn()) return false;
+    command(ProgressCommand::TransferRequest);
+    std::string_view statement;
+    return request::composeSelectStatement(client_, statement) &&
+           request::exchangeStatement(client_, statement, request::Direction::Receive) && goesOn();
+}
+
+bool ReceiveRun::readFields() {
+    command(ProgressCommand::PreparingConversion);
+    converter_ =
+        host::Owned<RecordConverter>::make(client_.session, client_.tfSession.get(), client_.transferContext.get(),
+                                           client_.transferSettings.get(), client_.textDisplay, expectedCount_);
+    if (!converter_) return fail(provider::OutOfMemory);
+    // Without descriptions the record loop goes on: there the provider says what became of the request.
+    converter_->readHostFields(client_.progressDialog, false);
+    if (!goesOn()) return false;
+    if (const auto* type = settings::pcFileType(settings_.receiveFileType))
+        command(static_cast<ProgressCommand>(type->progressCommand));
+    command(ProgressCommand::DataBegins);
+    return true;
+}
+
+bool ReceiveRun::prepareOutput() {
+    if (toDisplay()) return beginDisplay();
+    return !client_.fileObject || openPcFile();
+}
+
+bool ReceiveRun::beginDisplay() {
+    host::ProgressDialogDestroy(client_.progressDialog);
+    client_.progressDialog = 0;
+    if (!client_.textDisplay || !host::TextDisplayBegin(client_.textDisplay, rowsPerPage_, 0))
+        return fail(DisplayNotBegun);
+    defineDisplayColumns(*converter_);
+    client_.displayClosed = 0;
+    client_.moreRequested = 1;
+    host::LoadMessageText(client_.session, TextTable, MoreText, moreText_, sizeof(moreText_));
+    return true;
+}
+
+bool ReceiveRun::openPcFile() {
+    host::FileObject& file = *client_.fileObject;
+    if (isDif() && existingFileActionIs(host::value::AskUser)) file.prepareNewFile();
+    if (!file.openForWriting()) return false;
+    file.openedName(client_.pcFileName);
+    platform::CharLowerA(client_.pcFileName);
+    if (settings_.writeDescriptionFile) fdf::writeFdf(*converter_, client_.pcFileName);
+    if (isDif()) writeDifHeader(*converter_, file);
+    return true;
+}
+
+// True when the host has no more records.
+bool ReceiveRun::transferRecords() {
+    provider::TransferFunctionSession& tf = *client_.tfSession;
+    for (;; ++recordNumber_) {
+        host::SetSetting(client_.settings, id::JobRecordsReceived, recordNumber_);
+        tf.tfRequest(provider::TF_GET_DATA, 0, 0, client_.lastResult, nullptr, client_.progressDialog);
+        if (client_.lastResult.returnCode == provider::NoMoreData) return true;
+        if (!request::checkLastResult(client_, request::NoContext) || !transferRecord()) return false;
+        if (toDisplay()) {
+            if (!showRow()) return false;
+        } else {
+            if (!goesOn()) return false;
+            showProgress();
+        }
+    }
+}
+
+bool ReceiveRun::transferRecord() {
+    if (client_.lastResult.dataLength > provider::BufferSize) {
+        provider::showOwnText(owner(), RecordTooLong);
+        return false;
+    }
+    PcRecord record;
+    if (!convertHostRecord(*converter_, client_.lastResult.dataLength, record)) return false;
+    if (writePcRecord(record.bytes)) return true;
+    client_.tfSession->tfEndData();
+    return false;
+}
+
+bool ReceiveRun::writePcRecord(std::string_view bytes) {
+    if (!toFile()) return true;
+    if (monitor::MonitorStore* store = client_.tfSession->monitorStore()) store->recordReceivedRecord(bytes);
+    return client_.fileObject->write(bytes.data(), static_cast<std::uint32_t>(bytes.size()));
+}
+
+// Stops after each full page until the user asks for the next. False when the user closes the display.
+bool ReceiveRun::showRow() {
+    if (pageLine_ + 1 < rowsPerPage_) {
+        ++pageLine_;
+    } else {
+        pageLine_ = 0;
+        client_.moreRequested = 0;
+        host::TextDisplaySetStatus(client_.textDisplay, moreText_);
+    }
+    while (!client_.moreRequested && !client_.displayClosed) client_.pumpMessages();
+    if (client_.displayClosed) {
+        client_.tfSession->tfEndData();
+        return false;
+    }
+    client_.moreRequested = 1;
+    host::TextDisplaySetStatus(client_.textDisplay, titleText_);
+    return true;
+}
+
+void ReceiveRun::showProgress() {
+    if (!isProgressStep(expectedCount_, recordNumber_)) return;
+    if (settings_.recordProgress == 1) host::SetSetting(client_.settings, id::ProgressCount, recordNumber_);
+    command(ProgressCommand::ProcessMessages);
+}
+
+void ReceiveRun::finishOutput() {
+    if (toDisplay()) {
+        host::TextDisplayEnd(client_.textDisplay);
+        while (!client_.displayClosed) client_.pumpMessages();
+    }
+    if (!toFile()) return;
+    if (settings_.recordProgress == 1) host::SetSetting(client_.settings, id::ProgressCount, recordNumber_ - 1);
+    command(ProgressCommand::AllDataTransferred);
+    if (isDif() && !writePcRecord(dif::EndOfData)) return;
+    if (settings_.receiveOutput != host::value::ToSpreadsheet) return;
+    client_.fileObject->close();
+    launchSpreadsheet(client_);
+}
+
+void ReceiveRun::cleanUp() {
+    converter_.reset();
+    // The request was left before its end, or the provider wants every request ended.
+    if (client_.lastResult.returnCode != provider::NoMoreData || client_.tfSession->tfIsAs400Mode())
+        client_.tfSession->tfEndRequest();
+    if (client_.progressDialog) command(ProgressCommand::Ended);
+    if (client_.textDisplay) {
+        host::TextDisplayDestroy(client_.textDisplay);
+        client_.textDisplay = 0;
+    }
+}
+
+}  // namespace
+
+void receiveFromHost(ZXFRPCSCLIENT& client) {
+    ReceiveRun run(client);
+    run.run();
+}
+
+}  // namespace receive
