@@ -1,0 +1,34 @@
+# Sourced by ./run and ./test. Installs what a Debian machine lacks of the packages named; says nothing and asks nobody
+# when all are there, so that a machine without root or network can build once it is set up.
+
+missing_packages() {
+    local package
+    for package in "$@"; do
+        [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] || echo "$package"
+    done
+}
+
+install_packages() {
+    local missing root=()
+    mapfile -t missing < <(missing_packages "$@")
+    [ "${#missing[@]}" -gt 0 ] || return 0
+    if ! command -v apt-get >/dev/null; then
+        echo "These packages are needed and there is no apt-get to install them: ${missing[*]}" >&2
+        return 1
+    fi
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null; then
+            echo "These packages are needed; install them as root: apt-get install ${missing[*]}" >&2
+            return 1
+        fi
+        root=(sudo)
+    fi
+    echo "Installing ${missing[*]}" >&2
+    # Package lists that are there may do when the update cannot reach its servers.
+    "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq >&2 ||
+        echo "apt-get update failed; trying with the lists there are" >&2
+    "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -qq -y --no-install-recommends "${missing[@]}" >&2
+}
+
+BUILD_PACKAGES=(g++ cmake ninja-build libcli11-dev libsqlite3-dev libicu-dev tzdata)
+TEST_PACKAGES=(libgtest-dev libbenchmark-dev)

@@ -1,0 +1,63 @@
+#include "browse.h"
+
+#include <iostream>
+#include <string_view>
+
+#include "console.h"
+
+namespace {
+
+constexpr std::uint32_t FieldsOfFiles = 2;
+
+std::string_view trimmedEnd(std::string_view text) { return text.substr(0, text.find_last_not_of(" \t\r") + 1); }
+
+// The parts of a name, which for a field is a text of several: name TAB description LF type and length.
+std::string onOneLine(std::string_view text) {
+    std::string line;
+    while (!text.empty()) {
+        const std::size_t end = text.find_first_of("\t\n");
+        if (!line.empty()) line += '\t';
+        line += trimmedEnd(withoutControls(text.substr(0, end)));
+        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    }
+    return line;
+}
+
+// A text of a fixed field, which a provider may have filled to its last byte.
+template <std::size_t Size>
+std::string_view fieldText(const char (&field)[Size]) {
+    const std::string_view all(field, Size);
+    return all.substr(0, all.find('\0'));
+}
+
+void printEntry(const HostCatalogEntry& entry, const PcText& pcText, bool fields) {
+    std::string line = onOneLine(pcText.toTerminal(fieldText(entry.name)));
+    if (!fields) {
+        const std::string description = onOneLine(pcText.toTerminal(fieldText(entry.description)));
+        if (!description.empty()) line += '\t' + description;
+    }
+    std::cout << line << '\n';
+}
+
+}  // namespace
+
+Tally browse(const TransferLibrary& library, const CommandLine& line, const PcText& pcText, const TerminalUser& user,
+             host::SessionHandle session) {
+    HostCatalogEntry entry{};
+    entry.entryKind = line.fields ? FieldsOfFiles : 0;
+    entry.fileCount = line.fileCount;
+    std::uint64_t entries = 0;
+    std::uint32_t result = library.firstHostFilename(session, pcText.toPc(line.filter).c_str(), &entry);
+    while (result == CatalogEntryDelivered && !console::interrupted()) {
+        printEntry(entry, pcText, line.fields);
+        ++entries;
+        entry.name[0] = entry.description[0] = '\0';
+        result = library.nextHostFilename(session, &entry);
+    }
+    std::cout.flush();
+
+    const std::string amount = grouped(entries) + (entries == 1 ? " entry" : " entries");
+    if (console::interrupted() || user.watch().isCancelled()) return {"cancelled after " + amount, ExitFailed};
+    if (result == CatalogFailure) return {"failed after " + amount, ExitFailed};
+    return {"complete: " + amount, ExitComplete};
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "settings.h"
+
+enum class Command { Receive, Send, Demo, Browse };
+
+// What the user asked for.
+struct CommandLine {
+    Command command = Command::Receive;
+    std::vector<Assignment> options;  // what names and options stand for
+    std::vector<Assignment> sets;     // --set, which has the last word
+    emulator::Clauses clauses;
+    emulator::PcSetup pc;
+    std::string filter;  // of browse
+    bool fields = false;
+    std::int32_t fileCount = 1;
+    std::string settingsFile, journalFile;  // empty: none
+    std::string providerFolder, hostData;   // empty: beside the program
+    std::optional<std::int32_t> answer;
+    bool quiet = false;
+};
+
+inline constexpr int ExitComplete = 0;
+inline constexpr int ExitFailed = 1;
+inline constexpr int ExitUsage = 2;
+
+// Nothing when the program is to end with `exitStatus`: help was asked for, or the usage was wrong and has been told.
+std::optional<CommandLine> parseCommandLine(int argc, char** argv, int* exitStatus);

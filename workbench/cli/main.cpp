@@ -1,0 +1,141 @@
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+#include <stdexcept>
+
+#include "browse.h"
+#include "command_line.h"
+#include "console.h"
+#include "process.h"
+#include "tally.h"
+#include "terminal_user.h"
+#include "transfer_library.h"
+
+// z7xfer: plays the emulator around the transfer library, for a person at a terminal.
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::uint32_t ToPc = 0;
+constexpr std::uint32_t ToHost = 1;
+
+// The order of precedence: what is applied later wins.
+void applyCommandLine(host::SessionHandle session, const CommandLine& line, const PcText& pcText) {
+    apply(session, line.options, pcText);
+    apply(session, line.sets, pcText);
+}
+
+// A settings file is run by the library, in the middle of a transfer; it must not undo what the command line says.
+bool runSettingsFile(host::SessionHandle session, const std::string& file, const CommandLine& line,
+                     const PcText& pcText) {
+    try {
+        apply(session, readSettingsFile(file), pcText);
+        applyCommandLine(session, line, pcText);
+        return true;
+    } catch (const std::invalid_argument& error) {
+        std::cerr << "z7xfer: " << error.what() << std::endl;
+        return false;
+    }
+}
+
+// Where the emulator looks for it too.
+std::string codePageData(const fs::path& folder) {
+    const char* elsewhere = std::getenv("Z7X_CODE_PAGES");
+    return elsewhere != nullptr && *elsewhere != '\0' ? elsewhere : (folder / "codepages.dat").string();
+}
+
+void setUpPc(const CommandLine& line, const fs::path& folder) {
+    if (!emulator::setUpPc(line.pc)) {
+        throw std::invalid_argument("a PC with the code pages " + std::to_string(line.pc.ansiCodePage) + " and " +
+                                    std::to_string(line.pc.oemCodePage) + " cannot be set up");
+    }
+    emulator::setProviderFolder(line.providerFolder.empty() ? (folder / "providers").string() : line.providerFolder);
+    process::setEnvironment("Z7X_HOST_DATA", line.hostData.empty() ? (folder / "sample.db").string() : line.hostData);
+}
+
+host::SessionHandle openSession(const CommandLine& line, const PcText& pcText) {
+    const host::SessionHandle session = emulator::newSession();
+    apply(session, defaultSettings(), pcText);
+    applyCommandLine(session, line, pcText);
+    emulator::Clauses clauses = line.clauses;
+    for (std::string* clause :
+         {&clauses.select, &clauses.where, &clauses.orderBy, &clauses.groupBy, &clauses.having, &clauses.join}) {
+        *clause = pcText.toPc(*clause);
+    }
+    emulator::setClauses(session, clauses);
+    return session;
+}
+
+Tally runCommand(const TransferLibrary& library, ZXFRPCSCLIENT* client, const CommandLine& line, const PcText& pcText,
+                 TerminalUser& user, host::SessionHandle session) {
+    user.onCancel([&] { library.cancelTransfer(client); });
+    if (line.command == Command::Browse) {
+        // A listing runs no settings file of its own.
+        if (!line.settingsFile.empty() && !runSettingsFile(session, line.settingsFile, line, pcText)) {
+            return {"failed before any entry, the settings file was refused", ExitFailed};
+        }
+        return browse(library, line, pcText, user, session);
+    }
+    bool settingsRefused = false;
+    emulator::setSettingsFileReader([&](host::SessionHandle asking, const std::string& file) {
+        settingsRefused = !runSettingsFile(asking, file, line, pcText);
+        return !settingsRefused;
+    });
+    const bool sending = line.command == Command::Send;
+    library.transferFile(client, line.settingsFile.c_str(), sending ? ToHost : ToPc, 1, 0);
+    emulator::setSettingsFileReader(nullptr);
+    if (settingsRefused) return {"failed before any record, the settings file was refused", ExitFailed};
+    return transferTally(user, pcText, session, sending);
+}
+
+bool writeJournal(const std::string& file, std::ofstream& stream) {
+    for (const std::string& entry : emulator::journal()) stream << entry << '\n';
+    stream.flush();
+    if (!stream) std::cerr << "z7xfer: " << file << " cannot be written" << std::endl;
+    return static_cast<bool>(stream);
+}
+
+int transfer(const CommandLine& line) {
+    const fs::path folder = process::executableFolder();
+    const PcText pcText(line.pc.ansiCodePage, codePageData(folder));
+    setUpPc(line, folder);
+    const host::SessionHandle session = openSession(line, pcText);
+    std::ofstream journalStream;
+    if (!line.journalFile.empty()) {
+        journalStream.open(line.journalFile, std::ios::binary);
+        if (!journalStream) throw std::invalid_argument(line.journalFile + " cannot be written");
+        emulator::journalOn(true);
+    }
+
+    const TransferLibrary library = loadTransferLibrary(folder);
+    TerminalUser user(line, pcText, session);
+    emulator::setUserInterface(&user);
+    console::catchInterrupts();
+    ZXFRPCSCLIENT* client = library.newClient(session);
+    if (client == nullptr) throw std::runtime_error("the library made no client");
+    Tally tally = runCommand(library, client, line, pcText, user, session);
+    library.deleteClient(client);
+    if (!line.journalFile.empty() && !writeJournal(line.journalFile, journalStream)) tally.exitStatus = ExitFailed;
+    emulator::reset();
+
+    if (!line.quiet) std::cerr << "z7xfer: " << tally.text << std::endl;
+    return tally.exitStatus;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    int exitStatus = ExitComplete;
+    const std::optional<CommandLine> line = parseCommandLine(argc, argv, &exitStatus);
+    if (!line) return exitStatus;
+    try {
+        return transfer(*line);
+    } catch (const std::invalid_argument& error) {
+        std::cerr << "z7xfer: " << error.what() << std::endl;
+        return ExitUsage;
+    } catch (const std::exception& error) {
+        std::cerr << "z7xfer: " << error.what() << std::endl;
+        return ExitFailed;
+    }
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+// Texts between the terminal, which speaks UTF-8, and the PC, whose ANSI code page the library speaks.
+class PcText {
+public:
+    // Throws std::runtime_error when the code page data cannot be read, std::invalid_argument when the page is not in
+    // it.
+    PcText(std::uint32_t ansiCodePage, const std::string& dataFile);
+
+    std::string toTerminal(std::string_view pcText) const;
+    // Throws std::invalid_argument for a character that the PC does not have.
+    std::string toPc(std::string_view terminalText) const;
+
+private:
+    std::uint32_t codePage_;
+};
+
+// Cells of a terminal that a UTF-8 text takes: 2 for an ideograph, 0 for a combining mark.
+std::size_t cellWidth(std::string_view text);
+
+// What is not a visible character stands as a full stop, so that data cannot command the terminal.
+std::string withoutControls(std::string_view text);

@@ -1,0 +1,126 @@
+#include "tally.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <optional>
+
+namespace {
+
+namespace setting = host::setting;
+
+constexpr std::int32_t ToScreen = 0;
+constexpr std::int32_t ToFile = 1;
+constexpr std::int32_t ToSpreadsheet = 3;
+constexpr std::int32_t Dif = 6;
+constexpr std::int32_t Demonstration = 3;
+
+// The amounts of one transfer.
+class Amounts {
+public:
+    Amounts(const TerminalUser& user, const PcText& pcText, host::SessionHandle session, bool sending)
+        : user_(user), pcText_(pcText), session_(session), sending_(sending) {
+        records_ = user.watch().records(static_cast<std::uint32_t>(number(setting::JobRecordsReceived)));
+    }
+
+    std::string records() const { return counted(records_, "record"); }
+    bool any() const { return records_ > 0; }
+
+    // The emulator writes files in pieces, and a disk may fill up behind records that it had taken.
+    bool arePartlyLost() const {
+        const std::optional<std::uint64_t> inFile = bytes();
+        return !sending_ && inFile && any() && *inFile < user_.watch().bytesOfRecords();
+    }
+    std::string lost() const {
+        return "only " + counted(*bytes(), "byte") + " of " + records() + " are in " + target();
+    }
+
+    // "249 records, 12,345 bytes, countries.csv"; the bytes only where they are known.
+    std::string all() const {
+        const std::optional<std::uint64_t> amount = bytes();
+        return records() + (amount ? ", " + counted(*amount, "byte") : "") + ", " + target();
+    }
+
+    std::string target() const {
+        const std::string file = text(setting::PcFileName);
+        if (sending_) return file + " to " + text(setting::HostFileName);
+        if (!toFile()) return number(setting::ReceiveOutput) == ToScreen ? "the screen" : "no output";
+        return file == "-" ? "standard output" : file;
+    }
+
+private:
+    std::int32_t number(std::uint32_t id) const { return emulator::number(session_, id); }
+    std::string text(std::uint32_t id) const { return pcText_.toTerminal(emulator::text(session_, id)); }
+    bool toFile() const {
+        const std::int32_t output = number(setting::ReceiveOutput);
+        return output == ToFile || output == ToSpreadsheet;
+    }
+
+    std::optional<std::uint64_t> bytes() const {
+        if (sending_) return static_cast<std::uint32_t>(number(setting::ProgressCount));
+        if (!toFile()) return std::nullopt;
+        const std::string file = emulator::text(session_, setting::PcFileName);
+        if (file == "-") return streamedBytes();
+        std::error_code error;
+        const auto size = std::filesystem::file_size(emulator::nativePath(file), error);
+        if (error || size < user_.appendedBehind()) return std::nullopt;
+        return size - user_.appendedBehind();
+    }
+
+    // The heading of a DIF file passes unseen.
+    std::optional<std::uint64_t> streamedBytes() const {
+        const bool dif = number(setting::ReceiveFileType) == Dif || number(setting::ReceiveOutput) == ToSpreadsheet;
+        return dif ? std::nullopt : std::optional(user_.watch().bytesWritten());
+    }
+
+    const TerminalUser& user_;
+    const PcText& pcText_;
+    host::SessionHandle session_;
+    bool sending_;
+    std::uint64_t records_ = 0;
+};
+
+// For an ending that no message explains.
+std::string silentReason(const TransferWatch& watch, host::SessionHandle session) {
+    if (watch.messages() > 0) return {};
+    const auto code = static_cast<std::uint32_t>(emulator::number(session, setting::LastReturnCode));
+    if (code == 0) return "; no reason was given";
+    char buffer[64];
+    std::snprintf(buffer, sizeof buffer, "; the last return code was 0x%04X", code);
+    return buffer;
+}
+
+std::string stopped(const std::string& how, const Amounts& amounts) {
+    return how + (amounts.any() ? " after " + amounts.all() : " before any record, " + amounts.target());
+}
+
+}  // namespace
+
+Tally transferTally(const TerminalUser& user, const PcText& pcText, host::SessionHandle session, bool sending) {
+    const Amounts amounts(user, pcText, session, sending);
+    switch (user.watch().ending()) {
+        case Ending::Complete:
+            if (emulator::number(session, setting::ConnectionType) == Demonstration) {
+                return {"complete: " + amounts.records() + " of the demonstration, the screen", ExitComplete};
+            }
+            return {"complete: " + amounts.all(), ExitComplete};
+        case Ending::Simulated:
+            return {"complete: a demonstration, nothing was transferred", ExitComplete};
+        case Ending::NoRecords:
+            return {"failed: 0 records, " + amounts.target() + " was not written", ExitFailed};
+        case Ending::Declined:
+            return {"cancelled: not confirmed (--answer 10 confirms), " + amounts.target(), ExitFailed};
+        case Ending::Closed:
+            return {stopped("cancelled: the display was closed", amounts), ExitFailed};
+        case Ending::Cancelled:
+            return {stopped("cancelled", amounts), ExitFailed};
+        case Ending::NotKept:
+            return {"failed: the host did not keep what was sent, " + amounts.all(), ExitFailed};
+        case Ending::FailedAfter:
+            if (amounts.arePartlyLost()) break;
+            return {"failed: " + amounts.all() + "; see the message above", ExitFailed};
+        case Ending::Failed:
+            break;
+    }
+    if (amounts.arePartlyLost()) return {"failed: " + amounts.lost(), ExitFailed};
+    return {stopped("failed", amounts) + silentReason(user.watch(), session), ExitFailed};
+}

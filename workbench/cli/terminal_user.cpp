@@ -1,0 +1,259 @@
+#include "terminal_user.h"
+
+#include <algorithm>
+#include <iostream>
+#include <string_view>
+#include <utility>
+
+#include "console.h"
+#include "host/dialogs.h"
+#include "host/text_display.h"
+#include "process.h"
+
+namespace {
+
+namespace setting = host::setting;
+using console::Stream;
+using host::ProgressCommand;
+
+constexpr std::int32_t Confirmed = 10;
+constexpr std::int32_t Declined = 2;
+constexpr std::int32_t AppendToFile = 2;
+
+const char* phaseWords(ProgressCommand command) {
+    switch (command) {
+        case ProgressCommand::Starting:
+            return "starting";
+        case ProgressCommand::CountingRecords:
+            return "counting the records";
+        case ProgressCommand::PreparingConversion:
+            return "preparing the conversion";
+        case ProgressCommand::OptionsRequest:
+            return "sending the options";
+        case ProgressCommand::TransferRequest:
+            return "sending the request";
+        case ProgressCommand::ReadingFields:
+            return "reading the field descriptions";
+        default:
+            return nullptr;
+    }
+}
+
+// The lines of a text, every one behind the first indented.
+std::string indented(std::string_view text) {
+    text = text.substr(0, text.find_last_not_of("\r\n ") + 1);
+    std::string result;
+    for (const char byte : text) {
+        if (byte == '\n') {
+            result += "\n    ";
+        } else if (byte != '\r') {
+            result += byte;
+        }
+    }
+    return result;
+}
+
+// Message texts hold lines, but what came from a host may hold anything.
+std::string withoutControlsInLines(const std::string& text) {
+    std::string result;
+    std::size_t start = 0;
+    for (std::size_t end = text.find('\n'); end != std::string::npos; end = text.find('\n', start)) {
+        result += withoutControls(std::string_view(text).substr(start, end - start)) + "\n";
+        start = end + 1;
+    }
+    return result + withoutControls(std::string_view(text).substr(start));
+}
+
+}  // namespace
+
+TerminalUser::TerminalUser(const CommandLine& line, const PcText& pcText, host::SessionHandle session)
+    : line_(line),
+      pcText_(pcText),
+      session_(session),
+      bar_(false),
+      table_(std::cout),
+      pagesAwaited_(console::isTerminal(Stream::Input) && console::isTerminal(Stream::Output)) {
+    emulator::onStoreWrite([this](std::string_view code, std::string_view value) { storeWritten(code, value); });
+}
+
+void TerminalUser::storeWritten(std::string_view code, std::string_view value) {
+    const std::uint64_t before = watch_.recordsSeen();
+    watch_.storeWritten(code, value);
+    if (!sending_ && watch_.recordsSeen() != before) bar_.advance(watch_.recordsSeen(), ProgressBar::Unit::Records);
+}
+
+// --- Messages ----------------------------------------------------------------------------------------------------
+
+std::int32_t TerminalUser::showMessage(const emulator::MessageBox& box) {
+    obeyInterrupt();
+    bar_.hide();
+    std::cout.flush();
+    printMessage(box);
+    const std::int32_t pressed = answer(box);
+    if (!isQuestion(box) || pressed != Confirmed) watch_.message(box);
+    bar_.show();
+    return pressed;
+}
+
+void TerminalUser::printMessage(const emulator::MessageBox& box) {
+    std::cerr << "z7xfer: message " << box.id << ": " << withoutControlsInLines(indented(pcText_.toTerminal(box.text)))
+              << std::endl;
+}
+
+std::int32_t TerminalUser::answer(const emulator::MessageBox& box) {
+    if (line_.answer) return *line_.answer;
+    if (!isQuestion(box)) return 1;
+    if (!console::isTerminal(Stream::Input) || !console::isTerminal(Stream::Error)) return Declined;
+    std::cerr << "z7xfer: confirm? (y/n) " << std::flush;
+    const std::string reply = console::readLine().value_or("");
+    return !reply.empty() && (reply.front() == 'y' || reply.front() == 'Y') ? Confirmed : Declined;
+}
+
+bool TerminalUser::connectionDialog() {
+    std::cerr << "z7xfer: the connection settings are not complete; empty are:";
+    for (const setting::Row& row : setting::rows) {
+        const bool needed = row.number == setting::HostSystemName || row.number == setting::ConnectionParam248 ||
+                            row.number == setting::ConnectionParam250 || row.number == setting::ConnectionParam512;
+        if (needed && emulator::text(session_, row.number).empty()) std::cerr << ' ' << row.name;
+    }
+    const std::int32_t pressed = line_.answer.value_or(1);
+    const bool accepted = pressed != 0 && pressed != Declined;
+    std::cerr << (accepted ? "; trying with what there is" : "") << std::endl;
+    if (!accepted) watch_.cancelled();
+    return accepted;
+}
+
+// --- Waiting -----------------------------------------------------------------------------------------------------
+
+void TerminalUser::pump() {
+    obeyInterrupt();
+    if (sending_) {
+        const auto done = static_cast<std::uint32_t>(emulator::number(session_, setting::ProgressCount));
+        bar_.advance(done, ProgressBar::Unit::Bytes);
+    }
+    turnPage();
+}
+
+void TerminalUser::obeyInterrupt() {
+    if (!console::interrupted() || watch_.isCancelled()) return;
+    watch_.cancelled();
+    if (cancel_) cancel_();
+    // A transfer to the display looks at its window only.
+    if (display_ == Display::None) return;
+    watch_.displayClosed();
+    emulator::closeDisplay();
+}
+
+void TerminalUser::turnPage() {
+    if (display_ == Display::Ended) {
+        emulator::closeDisplay();
+    } else if (display_ == Display::PageFull) {
+        if (pagesAwaited_) {
+            askForPage();
+        } else {
+            emulator::requestNextPage();
+        }
+    }
+}
+
+void TerminalUser::askForPage() {
+    std::cerr << withoutControls(pcText_.toTerminal(displayStatus_)) << " [Enter: next page, q: close] " << std::flush;
+    const std::optional<std::string> reply = console::readLine();
+    if (console::interrupted()) {
+        std::cerr << std::endl;
+        obeyInterrupt();
+    } else if (reply && !reply->empty() && (reply->front() == 'q' || reply->front() == 'Q')) {
+        watch_.displayClosed();
+        emulator::closeDisplay();
+    } else {
+        pagesAwaited_ = reply.has_value();  // nobody is left to ask when the input has ended
+        table_.startPage();
+        emulator::requestNextPage();
+    }
+}
+
+// --- Progress dialog ---------------------------------------------------------------------------------------------
+
+bool TerminalUser::barWanted() const {
+    if (line_.quiet || !console::isTerminal(Stream::Error)) return false;
+    // Data on the same terminal would run into the bar.
+    return sending_ || emulator::text(session_, setting::PcFileName) != "-" || !console::isTerminal(Stream::Output);
+}
+
+void TerminalUser::progressCreated(std::uint32_t direction, std::uint32_t) {
+    sending_ = direction == host::ToHost;
+    bar_ = ProgressBar(barWanted());
+    bar_.begin();
+    if (!sending_ && emulator::number(session_, setting::ExistingFileAction) == AppendToFile) {
+        std::error_code none;
+        const auto size =
+            std::filesystem::file_size(emulator::nativePath(emulator::text(session_, setting::PcFileName)), none);
+        appendedBehind_ = none ? 0 : size;
+    }
+}
+
+void TerminalUser::progressCommand(std::uint32_t command) {
+    watch_.progressCommand(command);
+    if (const char* words = phaseWords(static_cast<ProgressCommand>(command))) bar_.phase(words);
+}
+
+void TerminalUser::progressTotal(std::uint32_t total, std::uint32_t unit) {
+    bar_.total(total, unit == host::Bytes ? ProgressBar::Unit::Bytes : ProgressBar::Unit::Records);
+}
+
+void TerminalUser::progressHidden(bool hidden) { hidden ? bar_.hide() : bar_.show(); }
+
+void TerminalUser::progressDestroyed() { bar_.end(); }
+
+// --- Text display ------------------------------------------------------------------------------------------------
+
+void TerminalUser::displayCreated(const std::string& title) {
+    displayTitle_ = title;
+    display_ = Display::Filling;
+}
+
+void TerminalUser::displayBegin(std::int32_t) { table_.clear(); }
+
+void TerminalUser::displayColumn(std::uint32_t index, const std::string& title, std::uint32_t width,
+                                 std::uint32_t alignment) {
+    table_.addColumn(index, pcText_.toTerminal(title), width, alignment == host::AlignRight);
+}
+
+void TerminalUser::displayRow() {
+    watch_.displayRow();
+    table_.startRow();
+}
+
+void TerminalUser::displayCell(std::uint32_t, std::uint32_t column, const std::string& text) {
+    table_.setCell(column, pcText_.toTerminal(text));
+}
+
+void TerminalUser::displayStatus(const std::string& text) {
+    table_.finishRow();
+    displayStatus_ = text;
+    // The title is the status while rows arrive; every other text asks the user for something.
+    display_ = text == displayTitle_ ? Display::Filling : Display::PageFull;
+    if (display_ == Display::PageFull) std::cout.flush();
+}
+
+void TerminalUser::displayEnd() {
+    watch_.displayEnded();
+    table_.end();
+    display_ = Display::Ended;
+}
+
+void TerminalUser::displayDestroyed() {
+    table_.finishRow();
+    std::cout.flush();
+    display_ = Display::None;
+}
+
+// --- Shell -------------------------------------------------------------------------------------------------------
+
+std::int32_t TerminalUser::shellExecute(const std::string& file, const std::string& parameters) {
+    const std::string path = emulator::nativePath(parameters.empty() ? file : parameters);
+    if (process::hasDesktop()) return process::openOnDesktop(path);
+    bar_.hide();
+    if (!line_.quiet) std::cerr << "z7xfer: ready for the spreadsheet program: " << path << std::endl;
+    return 33;
+}

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string>
+
+#include "command_line.h"
+#include "emulator/emulator.h"
+#include "pc_text.h"
+#include "progress_bar.h"
+#include "text_table.h"
+#include "transfer_watch.h"
+
+// The person at the terminal, as the emulator knows one: messages on standard error, the text display on standard
+// output, a progress bar where both may be seen, Ctrl-C for the cancel button.
+class TerminalUser final : public emulator::UserInterface {
+public:
+    TerminalUser(const CommandLine& line, const PcText& pcText, host::SessionHandle session);
+
+    // What Ctrl-C does, once, from inside a pump.
+    void onCancel(std::function<void()> cancel) { cancel_ = std::move(cancel); }
+
+    const TransferWatch& watch() const { return watch_; }
+    // Size of the PC file before the transfer, when the transfer appends to it.
+    std::uint64_t appendedBehind() const { return appendedBehind_; }
+
+    std::int32_t showMessage(const emulator::MessageBox& box) override;
+    bool connectionDialog() override;
+    void pump() override;
+    void progressCreated(std::uint32_t direction, std::uint32_t mode) override;
+    void progressCommand(std::uint32_t command) override;
+    void progressTotal(std::uint32_t total, std::uint32_t unit) override;
+    void progressHidden(bool hidden) override;
+    void progressDestroyed() override;
+    void displayCreated(const std::string& title) override;
+    void displayBegin(std::int32_t rowsPerPage) override;
+    void displayColumn(std::uint32_t index, const std::string& title, std::uint32_t width,
+                       std::uint32_t alignment) override;
+    void displayRow() override;
+    void displayCell(std::uint32_t row, std::uint32_t column, const std::string& text) override;
+    void displayStatus(const std::string& text) override;
+    void displayEnd() override;
+    void displayDestroyed() override;
+    std::int32_t shellExecute(const std::string& file, const std::string& parameters) override;
+
+private:
+    enum class Display { None, Filling, PageFull, Ended };
+
+    bool barWanted() const;
+    void storeWritten(std::string_view code, std::string_view value);
+    void printMessage(const emulator::MessageBox& box);
+    std::int32_t answer(const emulator::MessageBox& box);
+    void obeyInterrupt();
+    void turnPage();
+    void askForPage();
+
+    const CommandLine& line_;
+    const PcText& pcText_;
+    host::SessionHandle session_;
+    std::function<void()> cancel_;
+    TransferWatch watch_;
+    ProgressBar bar_;
+    TextTable table_;
+    Display display_ = Display::None;
+    bool pagesAwaited_;  // the user asks for every page
+    std::string displayTitle_, displayStatus_;
+    bool sending_ = false;
+    std::uint64_t appendedBehind_ = 0;
+};

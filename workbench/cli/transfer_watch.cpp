@@ -1,0 +1,114 @@
+#include "transfer_watch.h"
+
+#include <algorithm>
+
+#include "host/dialogs.h"
+
+namespace {
+
+using host::ProgressCommand;
+
+// The result record of the monitor store: the function asked for, then the return code, lowest byte first.
+constexpr std::size_t ResultHeader = 13;
+constexpr std::uint8_t GetData = 3;
+constexpr std::uint8_t EndRequest = 4;
+constexpr std::uint8_t PutData = 6;
+constexpr std::uint32_t Success = 0;
+constexpr std::uint32_t Completed = 0x5057;
+constexpr std::uint32_t NoMoreData = 0x1FFF;
+
+std::uint32_t returnCode(std::string_view result) {
+    std::uint32_t code = 0;
+    for (std::size_t place = 4; place >= 1; --place) code = code << 8 | static_cast<std::uint8_t>(result[place]);
+    return code;
+}
+
+// The icon of a message box, and the help topic of the message that a count has found no records.
+constexpr std::uint32_t IconMask = 0xF0;
+constexpr std::uint32_t QuestionIcon = 0x20;
+constexpr std::uint32_t NoRecordsHelp = 124;
+
+}  // namespace
+
+bool isQuestion(const emulator::MessageBox& box) { return (box.flags & IconMask) == QuestionIcon; }
+
+void TransferWatch::storeWritten(std::string_view code, std::string_view value) {
+    if (code == "XDFI") {
+        bytesOfRecords_ = bytesWritten_;
+        bytesWritten_ += value.size();
+        if (dataEnded_) return;  // the trailer of a DIF file is no record
+        ++recordsWritten_;
+        errorsBeforeLastWrite_ = errors_;
+    } else if (code == "XDGI" && value.size() >= ResultHeader) {
+        providerAsked_ = true;
+        const auto function = static_cast<std::uint8_t>(value[0]);
+        const std::uint32_t result = returnCode(value);
+        const bool accepted = result == Success || result == Completed;
+        if (function == PutData && accepted) ++recordsSent_;
+        // The library does not judge the end of a request; a host that rolls a send back says so here.
+        if (function == EndRequest && recordsSent_ > 0) endRefused_ = !accepted && result != NoMoreData;
+        // Before the data phase the end of data is that of the record count or of the field list.
+        if (function == GetData && result == NoMoreData && dataBegun_) dataEnded_ = true;
+    }
+}
+
+void TransferWatch::progressCommand(std::uint32_t command) {
+    switch (static_cast<ProgressCommand>(command)) {
+        case ProgressCommand::DataBegins:
+            dataBegun_ = true;
+            break;
+        case ProgressCommand::AllDataTransferred:
+            dataEnded_ = true;
+            break;
+        case ProgressCommand::Ended:
+            dialogEnded_ = true;
+            break;
+        case ProgressCommand::SimulationCancelled:
+            simulationCancelled_ = true;
+            break;
+        default:
+            break;
+    }
+}
+
+void TransferWatch::message(const emulator::MessageBox& box) {
+    if (isQuestion(box)) {
+        asked_ = true;
+        return;
+    }
+    if (box.helpId == NoRecordsHelp) noRecords_ = true;
+    ++errors_;
+}
+
+void TransferWatch::cancelled() {
+    if (!cancelled_) cancelledFirst_ = errors_ == 0;
+    cancelled_ = true;
+}
+
+Ending TransferWatch::ending() const {
+    if (errors_ > 0 && !cancelledFirst_) {
+        if (dataEnded_) return Ending::FailedAfter;
+        return noRecords_ && errors_ == 1 ? Ending::NoRecords : Ending::Failed;
+    }
+    if (dataEnded_ && endRefused_) return Ending::NotKept;
+    if (dataEnded_) return errors_ > 0 ? Ending::FailedAfter : Ending::Complete;
+    if (cancelled_) return Ending::Cancelled;
+    if (displayClosed_) return Ending::Closed;
+    if (asked_) return Ending::Declined;
+    const bool simulated = dataBegun_ && dialogEnded_ && !simulationCancelled_ && !providerAsked_;
+    return simulated ? Ending::Simulated : Ending::Failed;
+}
+
+std::uint64_t TransferWatch::records(std::uint64_t jobRecords) const {
+    if (recordsSent_ > 0) return recordsSent_;
+    if (displayRows_ > 0) {
+        // A row is there before its cells are converted.
+        const bool rowInHandFailed = !dataEnded_ && !displayClosed_ && displayRows_ == jobRecords;
+        return displayRows_ - (rowInHandFailed ? 1 : 0);
+    }
+    // The store hears of a record before the file does. When the record in hand is not followed by a fetch, it is in
+    // the file if the user cancelled, and not if its writing was refused.
+    const bool writeFailed = errors_ > errorsBeforeLastWrite_ || !cancelled_;
+    const bool lastWriteFailed = !dataEnded_ && recordsWritten_ > 0 && recordsWritten_ == jobRecords && writeFailed;
+    return recordsWritten_ - (lastWriteFailed ? 1 : 0);
+}

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "emulator/emulator.h"
+
+// How a transfer ended. The library returns nothing; this is told from what passed on the way.
+enum class Ending {
+    Complete,
+    Simulated,    // the demonstration connection's progress: nothing was transferred
+    NoRecords,    // the count found none, so no file was written
+    Declined,     // a question was not answered with the confirmation
+    Closed,       // the display was closed before its end
+    Cancelled,    // by the user
+    NotKept,      // the host refused the end of a send, so what it took is not in its file
+    FailedAfter,  // all data had gone through, then something else failed
+    Failed,
+};
+
+// Collects the signs of one transfer.
+class TransferWatch {
+public:
+    void storeWritten(std::string_view code, std::string_view value);
+    void progressCommand(std::uint32_t command);
+    void displayRow() { ++displayRows_; }
+    void displayEnded() { dataEnded_ = true; }
+    void displayClosed() { displayClosed_ = true; }
+    void message(const emulator::MessageBox& box);
+    void cancelled();
+
+    bool isCancelled() const { return cancelled_; }
+    // Records that went by so far, for a progress.
+    std::uint64_t recordsSeen() const { return recordsSent_ + recordsWritten_; }
+
+    Ending ending() const;
+    // Records in the PC file, on the display or accepted by the host. jobRecords is the setting JobRecordsReceived: the
+    // number of the record that a receive fetched last or was about to fetch.
+    std::uint64_t records(std::uint64_t jobRecords) const;
+    // Bytes written to the PC file, but for what stands before a DIF file's first record.
+    std::uint64_t bytesWritten() const { return bytesWritten_; }
+    // Bytes of the records that went to the PC file, but for the last one, whose writing may have failed.
+    std::uint64_t bytesOfRecords() const { return bytesOfRecords_; }
+    std::uint32_t messages() const { return errors_; }
+
+private:
+    bool dataEnded_ = false;
+    bool dataBegun_ = false;
+    bool dialogEnded_ = false;
+    bool simulationCancelled_ = false;
+    bool providerAsked_ = false;
+    bool displayClosed_ = false;
+    bool cancelled_ = false;
+    bool cancelledFirst_ = false;  // before any error was told
+    bool noRecords_ = false;
+    bool asked_ = false;
+    bool endRefused_ = false;
+    std::uint32_t errors_ = 0;
+    std::uint32_t errorsBeforeLastWrite_ = 0;
+    std::uint64_t recordsWritten_ = 0;
+    std::uint64_t recordsSent_ = 0;
+    std::uint64_t displayRows_ = 0;
+    std::uint64_t bytesWritten_ = 0;
+    std::uint64_t bytesOfRecords_ = 0;  // without the one in hand
+};
+
+// A box that asks, rather than tells.
+bool isQuestion(const emulator::MessageBox& box);
