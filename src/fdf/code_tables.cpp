@@ -8,8 +8,6 @@
 namespace fdf {
 namespace {
 
-using settings::PcFileType;
-
 constexpr CodeRow fileTypes[] = {
     {1, settings::AsciiText},
     {2, settings::BasicRandom},

@@ -1,10 +1,10 @@
 #include "fdf/fdf_path.h"
 
-#include <cstdio>
 #include <cstring>
 #include <string_view>
 
 #include "provider/message_box.h"
+#include "text/double_byte.h"
 
 namespace fdf {
 namespace {
@@ -13,6 +13,11 @@ namespace {
 using NameBuffer = char[1025];
 
 constexpr std::size_t ExtensionWithPoint = 4;
+
+void appendCut(char (&path)[PathSize], std::string_view part) {
+    const std::size_t length = std::strlen(path);
+    text::copyCut(part, path + length, PathSize - length);
+}
 
 }  // namespace
 
@@ -23,21 +28,21 @@ host::OwnedFile resolveFdfPath(const settings::TransferContext& context, const c
         provider::showMessage({context.session, context.settings, context.mainWindow}, provider::OutOfMemory);
         return file;
     }
-    NameBuffer directory = {};
-    NameBuffer name = {};
-    if (std::strpbrk(fdfName, "\\/:")) {
-        std::snprintf(path, PathSize, "%s", fdfName);
+    path[0] = '\0';
+    const std::string_view pattern(fdfName);
+    if (pattern.find_first_of("\\/:") != std::string_view::npos) {
+        appendCut(path, pattern);
         return file;
     }
-    context.pathServices->directoryPart(pcFileName, directory);
-    const std::string_view pattern(fdfName);
+    NameBuffer part = {};
+    context.pathServices->directoryPart(pcFileName, part);
+    appendCut(path, part);
     if (pattern.substr(0, 2) == "*.") {
-        const std::string_view extension = pattern.substr(1, ExtensionWithPoint);
-        context.pathServices->baseName(pcFileName, name);
-        std::snprintf(path, PathSize, "%s%s%.*s", directory, name, static_cast<int>(extension.size()),
-                      extension.data());
+        context.pathServices->baseName(pcFileName, part);
+        appendCut(path, part);
+        appendCut(path, pattern.substr(1, ExtensionWithPoint));
     } else {
-        std::snprintf(path, PathSize, "%s%s", directory, fdfName);
+        appendCut(path, pattern);
     }
     return file;
 }

@@ -55,7 +55,7 @@ public:
     // "SYSTEM(NAME    )", built anew on each call; null when the session names no host system.
     const char* hostSystemDesignation();
 
-    void onSettingChanged(std::uint32_t id, std::int32_t newValue, std::int32_t oldValue);
+    void onSettingChanged(std::uint32_t setting, std::int32_t newValue, std::int32_t oldValue);
     void setRuntimeSetting(std::uint32_t value) { runtimeSetting_ = value; }
 
     // The shared buffer of BufferSize bytes; starts an idle session to get it. Null when that fails, and in a

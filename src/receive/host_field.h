@@ -70,7 +70,7 @@ private:
     bool dropsPadNibble(std::uint32_t bytes) const;
 
     provider::MessageOwner owner_;
-    char description_[DescriptionSize];
+    char description_[DescriptionSize] = {};
     const settings::TransferSettings* transferSettings_;
 };
 

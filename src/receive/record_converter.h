@@ -48,9 +48,9 @@ private:
 // What converts the records of one transfer, in either direction: the host record layout and the buffers that are used
 // for record after record. Made by the driver once the statement is accepted, released at its end.
 struct RecordConverter {
-    RecordConverter(host::SessionHandle session, provider::TransferFunctionSession* tfSession,
-                    settings::TransferContext* transferContext, settings::TransferSettings* transferSettings,
-                    host::TextDisplayHandle textDisplay, std::int32_t expectedCount);
+    RecordConverter(host::SessionHandle owner, provider::TransferFunctionSession* functions,
+                    settings::TransferContext* context, settings::TransferSettings* snapshot,
+                    host::TextDisplayHandle display, std::int32_t count);
 
     // Fetches the field descriptions of the request, with the progress dialog (0: none) showing that it does. True when
     // there is at least one. The list ends where a description or memory for it fails, which has been reported.

@@ -15,7 +15,7 @@ namespace settings {
 // The settings of one transfer, read once at its start; a change of the live settings does not reach the transfer.
 // The comments give the setting each field is read from where the name does not.
 struct TransferSettings {
-    TransferSettings(host::SessionHandle session, provider::TransferFunctionSession* tfSession);
+    TransferSettings(host::SessionHandle owner, provider::TransferFunctionSession* functions);
 
     char fileText[51] = {};
     char memberText[51] = {};

@@ -1,0 +1,48 @@
+#include "send/decimal_text.h"
+
+#include <algorithm>
+
+namespace send {
+
+bool DecimalText::read(std::string_view text, const NumberGrammar& grammar) {
+    bool ended = false;
+    for (const char character : text) {
+        if (character == ' ') {
+            ended = ended || (!grammar.blanksInside && (digitSeen_ || pointSeen_));
+        } else if (character == grammar.separator) {
+            if (pointSeen_ || ended) return false;
+            pointSeen_ = true;
+        } else if (character == '-') {
+            if (negative_ || digitSeen_ || pointSeen_) return false;
+            negative_ = true;
+        } else if (character != grammar.thousands || character == '\0') {
+            const auto digit = static_cast<std::uint8_t>(character - '0');
+            if (digit > grammar.largestDigit || ended || !put(digit)) return false;
+        }
+    }
+    return true;
+}
+
+// Zeros that change nothing are never a matter of room.
+bool DecimalText::put(std::uint8_t digit) {
+    digitSeen_ = true;
+    if (!pointSeen_ && integerDigits_ == 0 && digit == 0) return true;
+    if (count_ == Capacity) return pointSeen_ && digit == 0;
+    digits_[count_++] = digit;
+    if (!pointSeen_) ++integerDigits_;
+    return true;
+}
+
+bool DecimalText::isZero() const {
+    return std::all_of(digits_, digits_ + count_, [](std::uint8_t digit) { return digit == 0; });
+}
+
+bool DecimalText::fits(std::int32_t places, std::int32_t decimals) const {
+    for (std::int32_t at = 0; at < count_; ++at) {
+        const std::int32_t power = integerDigits_ - 1 - at;
+        if (digits_[at] != 0 && (power >= places - decimals || power < -decimals)) return false;
+    }
+    return true;
+}
+
+}  // namespace send

@@ -1,0 +1,48 @@
+#include "send/refusals.h"
+
+#include "text/double_byte.h"
+
+namespace send {
+namespace {
+
+constexpr std::uint32_t EmptyFieldMessage = 4418;
+constexpr std::uint32_t BadDifValue = 4607;
+constexpr std::uint32_t TextTable = 7;
+constexpr std::uint32_t BadNumberText = 439;
+constexpr std::uint32_t ShortHostRecordText = 440;
+constexpr std::uint32_t ConversionHelp = 124;
+constexpr std::size_t ShownName = 10;
+
+// The host is told that no more data follows.
+bool endData(const receive::RecordConverter& converter) {
+    converter.tfSession->tfEndData();
+    return false;
+}
+
+}  // namespace
+
+bool refuseDifValue(const receive::RecordConverter& converter) {
+    provider::showMessage(converter.messageOwner(), BadDifValue);
+    return endData(converter);
+}
+
+bool refuseNumber(const receive::RecordConverter& converter, std::uint32_t recordNumber, std::uint32_t fieldNumber) {
+    host::ShowMessage2(converter.session, converter.mainWindow, host::MessageId(TextTable, BadNumberText),
+                       provider::BoxFlags, 1, ConversionHelp, host::insert(recordNumber), host::insert(fieldNumber));
+    return endData(converter);
+}
+
+bool refuseEmptyField(const receive::RecordConverter& converter, const receive::HostField& field) {
+    char name[ShownName + 1];
+    text::copyCut(field.name(), name, sizeof(name));
+    provider::showMessage(converter.messageOwner(), EmptyFieldMessage, name);
+    return false;
+}
+
+bool refuseShortHostRecord(const receive::RecordConverter& converter) {
+    host::ShowMessage(converter.session, converter.mainWindow, host::MessageId(TextTable, ShortHostRecordText),
+                      provider::BoxFlags, 1, ConversionHelp);
+    return endData(converter);
+}
+
+}  // namespace send
