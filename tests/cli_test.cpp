@@ -1,0 +1,218 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+// z7xfer as a person meets it: a process with arguments, two output streams and an exit status.
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Outcome {
+    int status = -1;
+    std::string output, errors;
+};
+
+std::string contents(const fs::path& file) {
+    std::ostringstream text;
+    text << std::ifstream(file, std::ios::binary).rdbuf();
+    return text.str();
+}
+
+std::size_t lines(const std::string& text) {
+    return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+}
+
+std::string lastLine(std::string text) {
+    while (!text.empty() && (text.back() == '\n' || text.back() == '\r')) text.pop_back();
+    return text.substr(text.rfind('\n') + 1);
+}
+
+class Cli : public ::testing::Test {
+protected:
+    void SetUp() override {
+        const char* bin = std::getenv("Z7X_BIN");
+        if (bin == nullptr) GTEST_SKIP() << "Z7X_BIN does not say where z7xfer is";
+        program_ = fs::absolute(bin) / "z7xfer";
+        const auto* test = ::testing::UnitTest::GetInstance()->current_test_info();
+        folder_ = fs::temp_directory_path() / (std::string("z7x-cli-") + test->name());
+        fs::remove_all(folder_);
+        fs::create_directories(folder_);
+    }
+    void TearDown() override {
+        if (!folder_.empty()) fs::remove_all(folder_);
+    }
+
+    // Runs in the test's own folder, without a desktop.
+    Outcome run(const std::string& arguments) const {
+        const std::string command = "cd \"" + folder_.string() + "\" && env -u DISPLAY -u WAYLAND_DISPLAY \"" +
+                                    program_.string() + "\" " + arguments + " >stdout.txt 2>stderr.txt </dev/null";
+        const int status = std::system(command.c_str());
+        return {status >= 0 && (status & 0xFF) == 0 ? status >> 8 & 0xFF : -1, contents(folder_ / "stdout.txt"),
+                contents(folder_ / "stderr.txt")};
+    }
+    void write(const std::string& name, const std::string& text) const {
+        std::ofstream(folder_ / name, std::ios::binary) << text;
+    }
+    std::string read(const std::string& name) const { return contents(folder_ / name); }
+
+    fs::path program_, folder_;
+};
+
+TEST_F(Cli, WrongUsageIsStatusTwoAndLeavesStandardOutputAlone) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"", "subcommand"},
+        {"receive", "HOSTFILE"},
+        {"receive A/B c.csv d.csv", "d.csv"},
+        {"receive A/B --type excel", "excel"},
+        {"receive A/B --set NoSuchSetting=1", "NoSuchSetting"},
+        {"receive A/B --set 9999=1", "9999"},
+        {"receive A/B --set ReceiveFileType=csv", "ReceiveFileType"},
+        {"receive A/B --set 120", "ID=VALUE"},
+        {"receive A/B --settings nowhere.txt", "nowhere.txt"},
+        {"receive A/B --ansi-code-page 1", "code page 1"},
+        {"receive A/B --oem-code-page 1", "1"},
+        {"receive A/B --decimal ..", "one character"},
+        {"receive A/B --where \"N = '\xE6\x97\xA5'\"", "cannot hold"},
+        {"receive A/B --journal no/such/folder/j.txt", "no/such/folder"},
+        {"send a.csv", "HOSTFILE"},
+        {"send a.csv A/B --create always", "always"},
+        {"browse A/B --files 0", "files"},
+    };
+    for (const auto& [arguments, word] : cases) {
+        const Outcome outcome = run(arguments);
+        EXPECT_EQ(outcome.status, 2) << arguments;
+        EXPECT_EQ(outcome.output, "") << arguments;
+        EXPECT_NE(outcome.errors.find(word), std::string::npos) << arguments << "\n" << outcome.errors;
+    }
+}
+
+TEST_F(Cli, HelpAndVersionSucceedOnStandardOutput) {
+    for (const char* arguments : {"--help", "receive --help", "send --help", "browse --help", "demo --help"}) {
+        const Outcome outcome = run(arguments);
+        EXPECT_EQ(outcome.status, 0) << arguments;
+        EXPECT_NE(outcome.output.find("--list-separator"), std::string::npos) << arguments;
+        EXPECT_EQ(outcome.errors, "") << arguments;
+    }
+    EXPECT_EQ(run("--version").output.substr(0, 7), "z7xfer ");
+}
+
+TEST_F(Cli, DemonstrationIsATableOfTwentyThreeRows) {
+    const Outcome outcome = run("demo");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(lines(outcome.output), 2u + 23u) << outcome.output;
+    EXPECT_EQ(outcome.output.find("LAST "), 0u);
+    EXPECT_NE(lastLine(outcome.errors).find("complete: 23 records"), std::string::npos) << outcome.errors;
+    // Pages are turned without a user whatever their size.
+    EXPECT_EQ(run("demo --set DisplayRowsPerPage=1").output, outcome.output);
+    EXPECT_EQ(run("demo --quiet").errors, "");
+}
+
+TEST_F(Cli, SimulatedTransferClaimsNoFile) {
+    const Outcome outcome = run("receive A/B x.csv --set ConnectionType=3");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_NE(outcome.errors.find("nothing was transferred"), std::string::npos) << outcome.errors;
+    EXPECT_FALSE(fs::exists(folder_ / "x.csv"));
+}
+
+TEST_F(Cli, TallyCountsWhatIsInTheFile) {
+    const Outcome outcome = run("receive WORLD/COUNTRY countries.csv");
+    ASSERT_EQ(outcome.status, 0) << outcome.errors;
+    const std::string file = read("countries.csv");
+    std::string bytes = std::to_string(file.size());
+    if (bytes.size() > 3) bytes.insert(bytes.size() - 3, ",");
+    EXPECT_EQ(outcome.errors,
+              "z7xfer: complete: " + std::to_string(lines(file)) + " records, " + bytes + " bytes, countries.csv\n");
+    EXPECT_EQ(outcome.output, "");
+    // The same data, and nothing but data, on standard output.
+    for (const char* arguments : {"receive WORLD/COUNTRY", "receive WORLD/COUNTRY - --quiet"}) {
+        EXPECT_TRUE(run(arguments).output == file) << arguments;
+    }
+    // A DIF file has a trailer behind its records.
+    const Outcome dif = run("receive WORLD/COUNTRY countries.dif --type dif");
+    EXPECT_NE(dif.errors.find("complete: " + std::to_string(lines(file)) + " records"), std::string::npos)
+        << dif.errors;
+    // An appended file is twice as long, its tally is not.
+    const Outcome appended = run("receive WORLD/COUNTRY countries.csv --set ExistingFileAction=2");
+    EXPECT_EQ(appended.errors, outcome.errors);
+    EXPECT_EQ(read("countries.csv").size(), 2 * file.size());
+}
+
+TEST_F(Cli, EmptySourceIsToldAsZeroRecords) {
+    const Outcome plain = run("receive QGPL/EMPTY empty.csv");
+    EXPECT_EQ(plain.status, 0);
+    EXPECT_EQ(lastLine(plain.errors), "z7xfer: complete: 0 records, 0 bytes, empty.csv");
+    // With a count the library ends before it opens the file.
+    const Outcome counted = run("receive QGPL/EMPTY counted.csv --count");
+    EXPECT_EQ(counted.status, 1);
+    EXPECT_NE(counted.errors.find("z7xfer: message "), std::string::npos);
+    EXPECT_EQ(lastLine(counted.errors), "z7xfer: failed: 0 records, counted.csv was not written");
+    EXPECT_FALSE(fs::exists(folder_ / "counted.csv"));
+}
+
+TEST_F(Cli, FailuresCarryTheirMessageAndStatusOne) {
+    fs::create_directory(folder_ / "nothing");
+    const std::pair<const char*, const char*> cases[] = {
+        {"receive WORLD/COUNTRY x.csv --providers nothing", "z7xfer: message 4400: "},
+        {"receive WORLD/COUNTRY x.csv --decimal ,", "z7xfer: message 4433: "},
+        {"receive WORLD/COUNTRY x.dif --type dif --set 176=2", "z7xfer: message 4682: "},
+        {"receive WORLD/NOSUCH x.csv", "z7xfer: message "},
+        {"receive WORLD/COUNTRY no/folder/x.csv", "z7xfer: message 0: "},
+        {"receive WORLD/COUNTRY x.csv --set TransportType=10", "no reason was given"},
+        {"send nowhere.csv QGPL/CUST", "z7xfer: message 0: "},
+        {"receive WORLD/COUNTRY x.csv --set 40= --answer 0", "HostSystemName"},
+    };
+    for (const auto& [arguments, text] : cases) {
+        const Outcome outcome = run(arguments);
+        EXPECT_EQ(outcome.status, 1) << arguments;
+        EXPECT_NE(outcome.errors.find(text), std::string::npos) << arguments << "\n" << outcome.errors;
+        EXPECT_NE(lastLine(outcome.errors).find("before any record"), std::string::npos) << outcome.errors;
+    }
+}
+
+TEST_F(Cli, SettingsFileIsBehindTheCommandLine) {
+    write("wide.set", "# types\n\nReceiveFileType = 5\r\npcfilename=from-file.txt\n");
+    write("bad.set", "120=5\nReceiveFileType=wide\n");
+    ASSERT_EQ(run("receive WORLD/COUNTRY tab.txt --type tab").status, 0);
+    ASSERT_EQ(run("receive WORLD/COUNTRY text.txt --type text").status, 0);
+    const std::string tab = read("tab.txt"), text = read("text.txt");
+    ASSERT_NE(tab, text);
+
+    EXPECT_EQ(run("receive WORLD/COUNTRY --settings wide.set").status, 0);
+    EXPECT_TRUE(read("from-file.txt") == tab) << "the file's settings are used";
+    EXPECT_EQ(run("receive WORLD/COUNTRY --settings wide.set --type text").status, 0);
+    EXPECT_TRUE(read("from-file.txt") == text) << "an option is stronger than the file";
+    EXPECT_EQ(run("receive WORLD/COUNTRY --settings wide.set --type csv --set 120=0 --set PcFileName=set.txt").status,
+              0);
+    EXPECT_TRUE(read("set.txt") == text) << "--set is stronger than an option";
+
+    const Outcome bad = run("receive WORLD/COUNTRY x.csv --settings bad.set");
+    EXPECT_EQ(bad.status, 1);
+    EXPECT_NE(bad.errors.find("bad.set:2: ReceiveFileType takes a number"), std::string::npos) << bad.errors;
+}
+
+TEST_F(Cli, JournalHoldsTheServiceCallsInOrder) {
+    ASSERT_EQ(run("receive WORLD/COUNTRY x.csv --journal journal.txt").status, 0);
+    const std::string journal = read("journal.txt");
+    const std::size_t opened = journal.find("FileObject.openForWriting() = 1");
+    ASSERT_NE(opened, std::string::npos);
+    EXPECT_LT(journal.find("GetStringSetting("), opened);
+    EXPECT_GT(journal.rfind("FileObject.close()"), opened);
+}
+
+TEST_F(Cli, BrowseListsOneEntryALine) {
+    const Outcome members = run("browse WORLD/");
+    EXPECT_EQ(members.status, 0) << members.errors;
+    EXPECT_NE(members.output.find("COUNTRY"), std::string::npos) << members.output;
+    EXPECT_NE(members.errors.find("complete: " + std::to_string(lines(members.output)) + " "), std::string::npos);
+    const Outcome fields = run("browse --fields --set ConnectionType=3");
+    EXPECT_EQ(lines(fields.output), 6u) << fields.output;
+    EXPECT_EQ(lines(run("browse A/B --fields --files 2 --set ConnectionType=3").output), 12u);
+}
+
+}  // namespace

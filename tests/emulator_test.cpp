@@ -1,0 +1,429 @@
+#include "emulator/emulator.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "host/conversion.h"
+#include "host/dialogs.h"
+#include "host/runtime.h"
+#include "host/session.h"
+#include "host/text_display.h"
+#include "platform/platform.h"
+
+namespace {
+
+namespace files = std::filesystem;
+using Lines = std::vector<std::string>;
+
+struct User : emulator::UserInterface {
+    std::vector<emulator::MessageBox> boxes;
+    std::int32_t answer = 1;
+    std::int32_t showMessage(const emulator::MessageBox& box) override {
+        boxes.push_back(box);
+        return answer;
+    }
+};
+
+class Emulator : public testing::Test {
+protected:
+    Emulator() {
+        emulator::reset();
+        emulator::setUserInterface(&user);
+        session = emulator::newSession();
+        settings = host::GetSessionSettings(session);
+        const auto* test = testing::UnitTest::GetInstance()->current_test_info();
+        folder = files::temp_directory_path() / ("z7x_emulator_" + std::string(test->name()));
+        files::remove_all(folder);
+        files::create_directories(folder / "Data");
+    }
+    ~Emulator() override {
+        emulator::reset();
+        files::remove_all(folder);
+    }
+
+    std::string pcName(const std::string& name) const { return (folder / name).string(); }
+    void put(const std::string& name, const std::string& text) const {
+        std::ofstream(folder / name, std::ios::binary) << text;
+    }
+    std::string get(const std::string& name) const {
+        std::stringstream text;
+        text << std::ifstream(folder / name, std::ios::binary).rdbuf();
+        return text.str();
+    }
+    host::FileObject* file(const std::string& name, std::uint32_t action = 1) const {
+        host::FileObject* object = host::CreateFileObject(session);
+        object->setName(pcName(name).c_str());
+        object->setExistingFileAction(action);
+        return object;
+    }
+
+    User user;
+    host::SessionHandle session;
+    host::SettingsHandle settings;
+    files::path folder;
+};
+
+TEST_F(Emulator, ExistingFileIsTreatedAsAskedFor) {
+    struct Case {
+        std::uint32_t action;
+        bool newFileOnly;
+        std::int32_t answer;
+        std::uint32_t questionFlags;  // 0: no question
+        const char* left;
+    };
+    const Case cases[] = {
+        {1, false, 2, 0, "new"},       {2, false, 2, 0, "oldnew"}, {0, false, 6, 0x23, "new"},
+        {0, false, 7, 0x23, "oldnew"}, {0, false, 2, 0x23, "old"}, {0, true, 1, 0x21, "new"},
+        {0, true, 10, 0x21, "new"},    {0, true, 7, 0x21, "old"},  {0, true, 2, 0x21, "old"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::Message() << "action " << c.action << " answer " << c.answer);
+        put("out.txt", "old");
+        user.boxes.clear();
+        user.answer = c.answer;
+        host::FileObject* object = file("OUT.TXT", c.action);
+        if (c.newFileOnly) object->prepareNewFile();
+        const bool opened = object->openForWriting();
+        EXPECT_EQ(opened, std::string(c.left) != "old");
+        EXPECT_EQ(object->write("new", 3), opened);
+        object->close();
+        object->destroy();
+        EXPECT_EQ(get("out.txt"), c.left);
+        ASSERT_GE(user.boxes.size(), c.questionFlags ? 1u : 0u);
+        EXPECT_EQ(user.boxes.empty() ? 0u : user.boxes[0].flags, c.questionFlags);
+    }
+    EXPECT_EQ(emulator::openObjects().files, 0u);
+}
+
+TEST_F(Emulator, FileIsReadInPiecesAndWhole) {
+    put("in.txt", "0123456789");
+    host::FileObject* object = file("in.txt");
+    EXPECT_EQ(object->size(), 10u);
+    char buffer[8] = {};
+    ASSERT_TRUE(object->openForReading());
+    EXPECT_EQ(object->read(buffer, 4), 4);
+    EXPECT_EQ(object->position(), 4u);
+    object->setPosition(7);
+    EXPECT_EQ(object->read(buffer, 8), 3);
+    EXPECT_EQ(std::string(buffer, 3), "789");
+    EXPECT_LE(object->read(buffer, 8), 0);
+    object->close();
+    auto* whole = static_cast<char*>(object->readWhole());
+    ASSERT_NE(whole, nullptr);
+    EXPECT_EQ(std::string(whole, 10), "0123456789");
+    host::FreeObject(whole);
+    EXPECT_FALSE(object->errorState());
+    object->destroy();
+}
+
+TEST_F(Emulator, FileFailureIsToldOnce) {
+    host::FileObject* object = file("missing.txt");
+    EXPECT_EQ(object->size(), 0u);
+    EXPECT_TRUE(user.boxes.empty());
+    EXPECT_TRUE(object->errorState());
+    EXPECT_TRUE(object->errorState());
+    ASSERT_EQ(user.boxes.size(), 1u);
+    EXPECT_NE(user.boxes[0].text.find("missing.txt"), std::string::npos);
+    EXPECT_NE(user.boxes[0].text.find("No such file"), std::string::npos);
+
+    EXPECT_FALSE(object->openForReading());  // tells at once
+    EXPECT_EQ(user.boxes.size(), 2u);
+    object->setName(pcName("Data").c_str());
+    EXPECT_FALSE(object->openForWriting());
+    EXPECT_EQ(user.boxes.size(), 3u);
+
+    object->setName(pcName("full.txt").c_str());
+    emulator::Faults faults;
+    faults.failWriteAfterBytes = 10;
+    emulator::setFaults(faults);
+    ASSERT_TRUE(object->openForWriting());
+    EXPECT_TRUE(object->write("12345678", 8));
+    EXPECT_FALSE(object->write("12345678", 8));
+    EXPECT_FALSE(object->write("12345678", 8));
+    EXPECT_TRUE(object->errorState());
+    EXPECT_EQ(user.boxes.size(), 4u);
+    object->destroy();  // closes
+    EXPECT_EQ(get("full.txt"), "12345678");
+}
+
+TEST_F(Emulator, LongOutputArrivesWholeAndInOrder) {
+    host::FileObject* object = file("long.txt");
+    ASSERT_TRUE(object->openForWriting());
+    std::string expected;
+    for (int i = 0; i < 2000; ++i) {
+        const std::string piece(static_cast<std::size_t>(i % 7 == 0 ? 70000 / (i + 1) : i % 90),
+                                static_cast<char>('a' + i % 26));
+        expected += piece;
+        ASSERT_TRUE(object->write(piece.data(), static_cast<std::uint32_t>(piece.size())));
+        ASSERT_EQ(object->position(), expected.size());
+    }
+    object->close();
+    object->destroy();
+    EXPECT_EQ(get("long.txt"), expected);
+}
+
+TEST_F(Emulator, NamesAreFoundAsOnThePc) {
+    put("Data/Cust.Txt", "x");
+    auto* paths = static_cast<host::PathServices*>(host::GetSessionObject(session, host::PathServicesKind));
+    const std::string root = folder.string();
+    const std::string expected = root + "/Data/Cust.Txt";
+    std::string backslashed = root + "/dATA/CUST.txt";
+    for (char& c : backslashed)
+        if (c == '/') c = '\\';
+    for (const std::string& name :
+         {root + "/DATA/cust.TXT", backslashed, "C:" + backslashed, root + "/data//./cust.txt"})
+        EXPECT_EQ(emulator::nativePath(name), expected) << name;
+    EXPECT_EQ(emulator::nativePath(root + "/DATA/New.Txt"), root + "/Data/New.Txt");
+    paths->setCurrentDirectory((root + "/data").c_str());
+    EXPECT_EQ(emulator::nativePath("CUST.TXT"), expected);
+    EXPECT_TRUE(paths->fileExists("cust.txt"));
+    EXPECT_FALSE(paths->fileExists("cust.csv"));
+
+    struct Case {
+        const char *name, *directory, *base;
+    };
+    const Case cases[] = {{"C:\\DATA\\CUST.TXT", "C:\\DATA\\", "CUST"},
+                          {"CUST", "", "CUST"},
+                          {"C:A.B.C", "C:", "A.B"},
+                          {"x/y\\z.fdf", "x/y\\", "z"},
+                          {"d.x/f", "d.x/", "f"},
+                          {"", "", ""}};
+    for (const Case& c : cases) {
+        char directory[261], base[261];
+        paths->directoryPart(c.name, directory);
+        paths->baseName(c.name, base);
+        EXPECT_STREQ(directory, c.directory) << c.name;
+        EXPECT_STREQ(base, c.base) << c.name;
+    }
+}
+
+// The second byte of the first character is a backslash's.
+TEST_F(Emulator, DoubleByteNamesAreNotCut) {
+    emulator::PcSetup japanese;
+    japanese.ansiCodePage = japanese.oemCodePage = 932;
+    ASSERT_TRUE(emulator::setUpPc(japanese));
+    auto* paths = static_cast<host::PathServices*>(host::GetSessionObject(session, host::PathServicesKind));
+    char base[261];
+    paths->baseName("C:\\A\\\x95\x5C.TXT", base);
+    EXPECT_STREQ(base, "\x95\x5C");
+    put("\xE8\xA1\xA8.txt", "x");
+    EXPECT_EQ(emulator::nativePath(folder.string() + "\\\x95\x5C.TXT"), folder.string() + "/\xE8\xA1\xA8.txt");
+}
+
+TEST_F(Emulator, LibrariesAreFoundLoadedAndCounted) {
+    const files::path program = testing::internal::GetArgvs()[0];
+    emulator::setProviderFolder(folder.string());
+    put("text.dll", "no library");
+    for (const auto& entry : files::directory_iterator(files::absolute(program).parent_path()))
+        if (entry.path().filename().string().find("z7xpc") != std::string::npos)
+            files::copy_file(entry, folder / "Probe.Dll", files::copy_options::overwrite_existing);
+    host::ModuleHandle module = nullptr;
+    EXPECT_EQ(host::LoadModule("NONE.DLL", 1, &module), 2u);
+    EXPECT_NE(host::LoadModule("TEXT.DLL", 1, &module), 0u);
+    EXPECT_EQ(module, nullptr);
+    ASSERT_EQ(host::LoadModule("PROBE.DLL", 0, &module), 0u);
+    EXPECT_EQ(emulator::openObjects().modules, 1u);
+    // malloc would be found in what the module depends on.
+    EXPECT_EQ(platform::GetProcAddress(module, "malloc"), nullptr);
+    host::FreeModule(module);
+    EXPECT_EQ(emulator::openObjects().modules, 0u);
+}
+
+TEST_F(Emulator, CatalogueHasASentenceForEverything) {
+    std::vector<std::uint32_t> ids = {4001, 4266, 4269, 4315, 4400, 4402, 4403, 4405, 4406,
+                                      4407, 4408, 4410, 4411, 4412, 4432, 4433, 4436, 4593,
+                                      4594, 4601, 4607, 4658, 4659, 4679, 4682, 4697, 4704};
+    for (std::uint32_t id = 4416; id <= 4431; ++id) ids.push_back(id);
+    struct Range {
+        std::uint32_t table, first, last, longest;  // the longest text its buffer takes
+    };
+    const Range ranges[] = {{7, 88, 88, 99},   {7, 400, 405, 99}, {7, 416, 416, 999}, {7, 418, 418, 39},
+                            {7, 432, 432, 79}, {7, 434, 434, 99}, {7, 439, 440, 999}, {7, 443, 444, 39},
+                            {7, 445, 459, 99}, {7, 500, 548, 99}, {17, 4, 4, 999},    {22, 202, 202, 299}};
+    for (const Range& range : ranges)
+        for (std::uint32_t index = range.first; index <= range.last; ++index) {
+            char text[1000] = "?";
+            host::LoadMessageText(session, range.table, index, text, sizeof text);
+            EXPECT_TRUE(*text && std::strlen(text) <= range.longest) << range.table << ',' << index;
+            ids.push_back(host::MessageId(range.table, index));
+        }
+    for (std::uint32_t code :
+         {0x05, 0x06, 0x07, 0x16, 0x1C, 0x32, 0x33, 0x37, 0x48, 0x4B, 0x51, 0x87, 0xD4, 0xD5, 0xD7, 0xD8, 0xEC, 0xF5}) {
+        ids.push_back(host::MessageId(22, code));
+        ids.push_back(host::MessageId(45, code));
+    }
+    host::ShowMessage(session, 0, 1, 0x30, 1, 0);
+    const std::string absent = user.boxes.back().text;
+    for (std::uint32_t id : ids) {
+        host::ShowMessage(session, 0, id, 0x30, 1, id);
+        EXPECT_NE(user.boxes.back().text, absent) << id;
+    }
+}
+
+TEST_F(Emulator, InsertsFillTheirPlaces) {
+    using host::insert;
+    host::ShowMessage3(session, 3, 4406, 0x30, 1, 4406, insert("a %2"), insert(8193u), insert(""));
+    host::ShowMessage2(session, 3, host::MessageId(7, 439), 0x30, 1, 124, insert(3u), insert(2u));
+    host::ShowMessageCode(session, 3, 4408, 0x30, 1, 530, 12288, "refused", "IWS0001");
+    const char* expected[] = {"An error occurred while a %2 (return code 8193).",
+                              "Record 3: the value of field 2 cannot be stored in the host field.",
+                              "The host reported an error (return code 12288). refused Message of the host: IWS0001"};
+    for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(user.boxes[i].text, expected[i]);
+
+    char bounded[21] = "%1 of %2 %3";
+    char one[] = "%2", two[] = "7", tooLong[] = "123456789012345678";
+    host::TextRecord text{bounded, 20}, first{one, 0}, second{two, 0}, third{tooLong, 0};
+    const host::TextRecord* inserts[] = {&first, &second, &third};
+    host::formatStringSet(&text, inserts, 3);
+    EXPECT_STREQ(bounded, "%1 of %2 %3");  // would not fit
+    host::formatStringSet(&text, inserts, 2);
+    EXPECT_STREQ(bounded, "%2 of 7 %3");
+}
+
+std::vector<std::string> watched;
+std::uint32_t ZHST_CALL watch(host::SessionHandle, std::uint32_t id, std::int32_t value, std::int32_t old) {
+    watched.push_back(std::to_string(id) + ": " + std::to_string(old) + " -> " + std::to_string(value));
+    return 1;
+}
+
+TEST_F(Emulator, WatchersHearOfUserAndServices) {
+    watched.clear();
+    host::WatchSetting(settings, 215, &watch);
+    host::WatchSetting(settings, 215, &watch);
+    host::UnwatchSetting(settings, 215, &watch);
+    emulator::set(session, 215, 9);
+    host::SetSetting(settings, 215, 8);
+    host::SetSetting(settings, 216, 1);
+    host::UnwatchSetting(settings, 215, &watch);
+    emulator::set(session, 215, 7);
+    EXPECT_EQ(watched, (Lines{"215: 0 -> 9", "215: 9 -> 8"}));
+    EXPECT_EQ(host::GetSetting(settings, 215), 7);
+    EXPECT_EQ(emulator::openObjects().watches, 0u);
+}
+
+TEST_F(Emulator, JournalLinesHaveTheirShape) {
+    struct Nested : User {
+        host::SettingsHandle settings = 0;
+        void pump() override { host::IsMessageEnabled(settings, 4315); }
+    } nested;
+    nested.settings = settings;
+    emulator::setUserInterface(&nested);
+    emulator::set(session, 40, std::string("AS400"));
+    emulator::set(session, 215, 9);
+    emulator::journalOn(true);
+    host::GetSetting(settings, 215);
+    char buffer[4];
+    host::GetStringSetting(settings, 40, buffer, sizeof buffer);
+    const host::StoreHandle store = host::OpenStore("ZHST");
+    host::StorePartHandle node = 0, list = 0, item = 0;
+    host::OpenStoreNode(store, 0, 0x58465234, 0, &node);
+    host::OpenStoreList(store, node, 0x58345250, 0, &list);
+    host::OpenStoreItem(store, list, 0x58445449, 0, &item);
+    host::SetStoreItem(store, item, "lost", 4);  // not locked
+    host::LockStoreList(store, list);
+    host::SetStoreItem(store, item, "\x01\"\\\r\n\t\xFF", 7);
+    host::UnlockStoreList(store, list);
+    host::PumpMessages(host::GetSessionApp(session), 1);
+    emulator::note("-- mine");
+    host::SetStringSetting(settings, 9999, std::string(65, 'x').c_str());
+    EXPECT_EQ(emulator::journal(),
+              (Lines{"GetSetting(7, 215 TransportType) = 9", "GetStringSetting(7, 40 HostSystemName, \"AS4\", 4) = 1",
+                     "OpenStore(\"ZHST\") = 1", "OpenStoreNode(1, 0, XFR4, 0, XFR4)",
+                     "OpenStoreList(1, XFR4, X4RP, 0, X4RP)", "OpenStoreItem(1, X4RP, XDTI, 0, XDTI)",
+                     "SetStoreItem(1, XDTI, \"lost\", 4)", "LockStoreList(1, X4RP) = 1",
+                     "SetStoreItem(1, XDTI, \"\\x01\\\"\\\\\\r\\n\\t\\xFF\", 7)", "UnlockStoreList(1, X4RP)",
+                     "GetSessionApp(1) = 2", "PumpMessages(2, 1)", "IsMessageEnabled(7, 4315) = 1", "-- mine",
+                     "SetStringSetting(7, 9999, \"" + std::string(64, 'x') + "\"...)"}));
+    EXPECT_EQ(emulator::storeItem("XDTI").writes, 1u);
+    EXPECT_EQ(emulator::storeItem("XDTI").value, "\x01\"\\\r\n\t\xFF");
+}
+
+std::uint32_t ZHST_CALL countNotification(void* context) {
+    ++*static_cast<int*>(context);
+    return 1;
+}
+
+TEST_F(Emulator, UserReachesTheDisplayInFront) {
+    int more[2] = {};
+    host::TextDisplayParameters parameters{3, session, "Records", &countNotification, 0, nullptr, &more[0]};
+    const host::TextDisplayHandle behind = host::TextDisplayCreate(&parameters);
+    parameters.context = &more[1];
+    const host::TextDisplayHandle front = host::TextDisplayCreate(&parameters);
+    EXPECT_EQ(host::TextDisplayAddRow(front, 0), 1u);
+    EXPECT_EQ(host::TextDisplayAddRow(front, 0), 2u);
+    emulator::requestNextPage();
+    emulator::closeDisplay();  // has no call-back here
+    host::TextDisplayDestroy(front);
+    emulator::requestNextPage();
+    host::TextDisplayDestroy(behind);
+    emulator::requestNextPage();
+    EXPECT_EQ(more[0], 1);
+    EXPECT_EQ(more[1], 1);
+    EXPECT_EQ(emulator::openObjects().textDisplays, 0u);
+}
+
+TEST_F(Emulator, ConversionFollowsTheCodePages) {
+    const host::ConverterHandle converter = host::GetEmulatorConverter(session);
+    struct Case {
+        std::int32_t hostPage;
+        unsigned char host, pc;
+    };
+    // The cent sign, A with dieresis and the euro sign, by turns.
+    for (const Case& c : {Case{37, 0x4A, 0xA2}, Case{273, 0x4A, 0xC4}, Case{37, 0x4A, 0xA2}, Case{1140, 0x9F, 0x80},
+                          Case{43, 0x4A, 0xA2}}) {
+        emulator::set(session, 105, c.hostPage);
+        unsigned char text[] = {c.host, c.host};
+        EXPECT_EQ(host::ConvertHostText(converter, host::HostToPc, 1, text), 0u);
+        EXPECT_EQ(text[0], c.pc) << c.hostPage;
+        EXPECT_EQ(text[1], c.host) << c.hostPage;
+        EXPECT_EQ(host::ConvertHostText(converter, host::PcToHost, 1, text), 0u);
+        EXPECT_EQ(text[0], c.host) << c.hostPage;
+    }
+    emulator::set(session, 105, 99999);
+    unsigned char text[] = {0xC1};
+    EXPECT_NE(host::ConvertHostText(converter, host::HostToPc, 1, text), 0u);
+}
+
+TEST_F(Emulator, FaultsHappenWhenAskedFor) {
+    emulator::Faults faults;
+    faults.failAllocation = 2;
+    emulator::setFaults(faults);
+    void* first = host::AllocateObject(10, 1);
+    EXPECT_EQ(host::ReallocateObject(first, 20), nullptr);
+    first = host::ReallocateObject(first, 30);
+    ASSERT_NE(first, nullptr);
+    EXPECT_EQ(static_cast<char*>(first)[9], 0);
+    const emulator::Allocations account = emulator::allocations();
+    EXPECT_EQ(account.calls, 3u);
+    EXPECT_EQ(account.liveBlocks, 1u);
+    EXPECT_EQ(account.liveBytes, 30u);
+    host::FreeObject(first);
+    EXPECT_EQ(emulator::allocations().liveBytes, 0u);
+
+    faults.failAllAfter = faults.refuseStore = faults.refuseProgressDialog = faults.refuseFileObject = true;
+    faults.refuseTextDisplay = faults.failConversion = faults.refuseGlobalMemory = true;
+    emulator::setFaults(faults);
+    host::FreeObject(host::AllocateObject(1, 0));
+    EXPECT_EQ(host::AllocateObject(1, 0), nullptr);
+    EXPECT_EQ(host::AllocateObject(1, 0), nullptr);
+    EXPECT_EQ(host::OpenStore("ZHST"), 0u);
+    EXPECT_EQ(host::ProgressDialogCreate(session, 1, 1, 0), 0u);
+    EXPECT_EQ(host::CreateFileObject(session), nullptr);
+    const host::TextDisplayParameters parameters{};
+    EXPECT_EQ(host::TextDisplayCreate(&parameters), 0u);
+    EXPECT_EQ(platform::GlobalAlloc(0x1042, 4096), nullptr);
+    char byte = '\xC1';
+    EXPECT_NE(host::ConvertHostText(host::GetEmulatorConverter(session), host::HostToPc, 1, &byte), 0u);
+    EXPECT_EQ(byte, '\xC1');
+    emulator::setFaults({});
+    EXPECT_EQ(host::ConvertHostText(host::GetEmulatorConverter(session), host::HostToPc, 1, &byte), 0u);
+    EXPECT_EQ(byte, 'A');
+}
+
+}  // namespace

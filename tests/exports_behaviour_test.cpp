@@ -1,0 +1,148 @@
+#include "support/transfer_fixture.h"
+
+namespace {
+
+class Exports : public TransferFixture {
+protected:
+    void SetUp() override {
+        TransferFixture::SetUp();
+        hostFile.fields = {hostfields::character("NAME", 5)};
+        hostFile.records = {hostText("ALPHA"), hostText("GAMMA")};
+    }
+    static constexpr const char* Received = "ALPHA\r\nGAMMA\r\n";
+};
+
+TEST_F(Exports, SecondSessionTakesTheRegistryOver) {
+    const auto other = emulator::newSession();
+    ZXFRPCSCLIENT* const second = (client(), library.newZXFRPCSCLIENT(other));
+    EXPECT_EQ(library.getZXFRPCSCLIENT(session), nullptr);
+    EXPECT_EQ(library.getZXFRPCSCLIENT(other), second);
+    library.deleteZXFRPCSCLIENT(second);
+    EXPECT_EQ(library.getZXFRPCSCLIENT(other), nullptr);
+    EXPECT_EQ(library.getZXFRPCSCLIENT(session), nullptr) << "the first does not come back by itself";
+}
+
+TEST_F(Exports, SecondClientOfTheSessionStaysUnregistered) {
+    ZXFRPCSCLIENT* const second = (client(), library.newZXFRPCSCLIENT(session));
+    EXPECT_EQ(library.getZXFRPCSCLIENT(session), client());
+    library.deleteZXFRPCSCLIENT(second);
+    EXPECT_EQ(library.getZXFRPCSCLIENT(session), client());
+}
+
+TEST_F(Exports, DeletingTheCurrentClientEmptiesTheRegistryUntilTheNext) {
+    client();
+    deleteClient();
+    EXPECT_EQ(library.getZXFRPCSCLIENT(session), nullptr);
+    EXPECT_EQ(library.getZXFRPCSCLIENT(0), nullptr);
+    EXPECT_EQ(library.getZXFRPCSCLIENT(session), nullptr);
+    EXPECT_NE(client(), nullptr);
+    EXPECT_EQ(library.getZXFRPCSCLIENT(session), client());
+}
+
+TEST_F(Exports, CommandsAreEnabledInThreeStates) {
+    for (const std::uint32_t code : {74u, 75u, 168u}) EXPECT_NE(library.pcsAreXferCmdsEnabled(client(), code), 0u);
+    for (const std::uint32_t code : {0u, 73u, 76u, 167u, 169u, 0x8000004Au, 0xFFFFFFFFu})
+        EXPECT_EQ(library.pcsAreXferCmdsEnabled(client(), code), 0u) << code;
+    EXPECT_NE(library.pcsAreXferCmdsEnabled(nullptr, 74), 0u);
+}
+
+TEST_F(Exports, DisplayNotificationsSetOneWordEach) {
+    std::uint32_t words[4] = {0, 0, 0, 0};
+    EXPECT_EQ(library.TextDisplayMoreNotification(words), 1u);
+    EXPECT_EQ(std::vector<std::uint32_t>(words, words + 4), (std::vector<std::uint32_t>{1, 0, 0, 0}));
+    words[0] = 0;
+    EXPECT_EQ(library.TextDisplayCloseNotification(words), 1u);
+    EXPECT_EQ(std::vector<std::uint32_t>(words, words + 4), (std::vector<std::uint32_t>{0, 1, 0, 0}));
+}
+
+TEST_F(Exports, StrangersAreIgnored) {
+    client();
+    const auto stranger = session + 1000;
+    library.deleteZXFRPCSCLIENT(nullptr);
+    library.pcsCancelTransfer(nullptr);
+    library.xferCleanup(stranger);
+    library.runtimeSettingNotification(stranger, 5);
+    library.runtimeSettingNotification(session, 5);
+    EXPECT_EQ(library.stateChangeProc(stranger, setting::TransportType, 9, 2), 1u);
+    EXPECT_EQ(library.stateChangeProc(session, 999, 9, 2), 1u);
+    HostCatalogEntry entry{};
+    EXPECT_EQ(library.pcsGetFirstHostFilename(stranger, "", &entry), CatalogFailure);
+    EXPECT_EQ(library.pcsGetNextHostFilename(stranger, &entry), CatalogFailure);
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(Exports, ConstructionAndDestructionKeepTheirOrder) {
+    client();
+    expectInOrder({"GetSessionSettings(", "GetSessionApp(", "GetSessionServices(", "GetSessionWindow(",
+                   "GetSessionObject(*, 2)", "GetSessionSettings(", "OpenStore(", "GetSetting(*, 105 ",
+                   "WatchSetting(*, 215 ", "WatchSetting(*, 503 ", "WatchSetting(*, 324 ", "WatchSetting(*, 197 ",
+                   "WatchSetting(*, 105 ", "AttachSession(", "GetSessionObject(*, 7)", "RegisterCleanup(*, 104"});
+    EXPECT_EQ(emulator::openObjects().watches, 5u);
+    emulator::clearJournal();
+    deleteClient();
+    expectInOrder({"UnwatchSetting(*, 215 ", "UnwatchSetting(*, 503 ", "UnwatchSetting(*, 324 ",
+                   "UnwatchSetting(*, 197 ", "UnwatchSetting(*, 105 ", "RegisterCleanup(*, 104"});
+}
+
+TEST_F(Exports, DeletionStopsTheProviderFirst) {
+    receive();
+    emulator::clearJournal();
+    deleteClient();
+    expectInOrder({"provider TF_END_DATA", "provider E32TF_Cleanup", "FreeModule(", "FreeModule(", "UnwatchSetting(",
+                   "RegisterCleanup(*, 104"});
+}
+
+TEST_F(Exports, CancelNotesItsMessageAndShowsNothing) {
+    client();
+    emulator::clearJournal();
+    library.pcsCancelTransfer(client());
+    EXPECT_EQ(journalCount("IsMessageEnabled("), 1u);
+    EXPECT_EQ(journalCount("IsMessageEnabled(*, 4315)"), 1u);
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(Exports, CleanUpReleasesTheProviderOfTheCurrentSessionOnly) {
+    receive();
+    ASSERT_GT(emulator::openObjects().modules, 0u);
+    library.xferCleanup(session + 1000);
+    EXPECT_GT(emulator::openObjects().modules, 0u);
+    emulator::runCleanup(session, 104);
+    EXPECT_EQ(emulator::openObjects().modules, 0u);
+    EXPECT_EQ(scripted::entries().back(), "E32TF_Cleanup");
+    const auto entries = scripted::entries().size();
+    library.xferCleanup(session);
+    EXPECT_EQ(scripted::entries().size(), entries) << "a stopped session has nothing to stop";
+
+    std::filesystem::remove(pcFile());
+    receive();
+    EXPECT_EQ(pcFileBytes(), Received);
+}
+
+// The first allocation is the client, the second its transfer-function session, which a transfer makes again.
+TEST_F(Exports, CreationSurvivesEachFailingAllocation) {
+    for (std::uint64_t failing = 1;; ++failing) {
+        SCOPED_TRACE("failing allocation " + std::to_string(failing));
+        const auto before = emulator::allocations();
+        emulator::Faults faults;
+        faults.failAllocation = failing;
+        emulator::setFaults(faults);
+        ZXFRPCSCLIENT* const made = client();
+        emulator::setFaults({});
+        const bool hit = emulator::allocations().calls - before.calls >= failing;
+        EXPECT_EQ(made == nullptr, failing == 1);
+        if (made) {
+            user.messages.clear();
+            receive();
+            EXPECT_TRUE(pcFileBytes() == Received || !user.messages.empty());
+            if (failing == 2) {
+                EXPECT_EQ(pcFileBytes(), Received);
+            }
+        }
+        deleteClient();
+        std::filesystem::remove(pcFile());
+        EXPECT_EQ(emulator::allocations().liveBlocks, before.liveBlocks);
+        if (!hit || HasFailure()) break;
+    }
+}
+
+}  // namespace

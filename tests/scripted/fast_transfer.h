@@ -1,0 +1,14 @@
+#pragma once
+
+#include "scripted/dispatch.h"
+
+// The fast path of z7xscript: one transfer answered from arrays.
+namespace scripted::fast {
+
+void start(const FastTransfer& transfer);
+void stop();
+bool running();
+std::uint32_t answer(const Exchange& exchange);
+FastTally tally();
+
+}  // namespace scripted::fast

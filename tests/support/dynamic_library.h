@@ -1,0 +1,21 @@
+#ifndef Z7X_TESTS_DYNAMIC_LIBRARY_H
+#define Z7X_TESTS_DYNAMIC_LIBRARY_H
+
+/* Libraries loaded at run time, for C and C++. A library stays loaded until the process ends. */
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Null, with a line on standard error, when it cannot be loaded. */
+void* openLibrary(const char* path);
+/* Null when the library exports no such function. */
+void* findFunction(void* library, const char* exportName);
+/* File name of the library under test, and the name under which it exports xferCleanup. */
+const char* libraryFileName(void);
+const char* xferCleanupExportName(void);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,15 @@
+#include "support/dynamic_library.h"
+
+#include <dlfcn.h>
+
+#include <cstdio>
+
+void* openLibrary(const char* path) {
+    void* const library = dlopen(path, RTLD_NOW | RTLD_LOCAL);
+    if (!library) std::fprintf(stderr, "%s\n", dlerror());
+    return library;
+}
+
+void* findFunction(void* library, const char* exportName) { return dlsym(library, exportName); }
+const char* libraryFileName(void) { return Z7X_LIBRARY_FILE_NAME; }
+const char* xferCleanupExportName(void) { return "xferCleanup"; }

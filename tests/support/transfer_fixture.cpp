@@ -1,0 +1,164 @@
+#include "support/transfer_fixture.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <utility>
+
+#include "platform/platform.h"
+
+namespace {
+
+// In lower case throughout: the library lower-cases the name of an opened file.
+std::filesystem::path newFolder() {
+    static int number = 0;
+    const std::string name = "z7x-" + std::to_string(platform::GetCurrentProcessId()) + "-" + std::to_string(++number);
+    const auto folder = std::filesystem::temp_directory_path() / name;
+    std::filesystem::create_directories(folder);
+    return folder;
+}
+
+std::string joined(const std::vector<std::string>& lines) {
+    std::string text;
+    for (const auto& line : lines) text += "  " + line + "\n";
+    return text;
+}
+
+// Whether the pieces of `pattern` between its asterisks follow one another in the line.
+bool matches(const std::string& line, const std::string& pattern) {
+    std::size_t at = 0;
+    for (std::size_t begin = 0; begin <= pattern.size();) {
+        const std::size_t end = std::min(pattern.find('*', begin), pattern.size());
+        const std::string piece = pattern.substr(begin, end - begin);
+        at = line.find(piece, at);
+        if (at == std::string::npos) return false;
+        at += piece.size();
+        begin = end + 1;
+    }
+    return true;
+}
+
+}  // namespace
+
+void TransferFixture::SetUp() {
+    folder_ = newFolder();
+    emulator::reset();
+    scripted::reset();
+    emulator::setUserInterface(&user);
+    ASSERT_TRUE(emulator::setUpPc({}));
+    useProviders("scripted_families");
+    session = emulator::newSession();
+    set(setting::HostSystemName, "as400a");
+    set(setting::ConnectionParam248, "param 248");
+    set(setting::ConnectionParam250, "param 250");
+    set(setting::ConnectionParam512, "param 512");
+    useTransport(2);
+    set(setting::PcFileName, pcFile());
+    set(setting::HostFileName, "QGPL/CUST");
+    set(setting::ReceiveOutput, ToFile);
+    set(setting::ReceiveFileType, CommaSeparated);
+    set(setting::SendFileType, CommaSeparated);
+    set(setting::ExistingFileAction, 1);
+    set(setting::DisplayRowsPerPage, 20);
+    set(setting::StartRecord, 1);
+    hostFile.install();
+    scripted::setListener([](const std::string& entry) { emulator::note("provider " + entry); });
+    blocksBefore_ = emulator::allocations().liveBlocks;
+    emulator::journalOn(true);
+}
+
+void TransferFixture::TearDown() {
+    emulator::setFaults({});
+    expectNothingLeft();
+    scripted::reset();
+    emulator::setUserInterface(nullptr);
+    std::error_code ignored;
+    std::filesystem::remove_all(folder_, ignored);
+}
+
+ZXFRPCSCLIENT* TransferFixture::client() {
+    if (!client_) client_ = library.newZXFRPCSCLIENT(session);
+    return client_;
+}
+
+void TransferFixture::deleteClient() { library.deleteZXFRPCSCLIENT(std::exchange(client_, nullptr)); }
+
+void TransferFixture::useTransport(std::int32_t transportType, std::int32_t routerKind) {
+    set(setting::TransportType, transportType);
+    set(setting::RouterKind, routerKind);
+}
+
+void TransferFixture::useProviders(const std::string& folder) {
+    emulator::setProviderFolder(binFolder() + "/" + folder);
+}
+
+void TransferFixture::receive(std::uint32_t showProgress) { library.pcsTransferFile(client(), "", 0, showProgress, 0); }
+
+void TransferFixture::send(std::uint32_t showProgress) { library.pcsTransferFile(client(), "", 1, showProgress, 0); }
+
+void TransferFixture::failEachAllocation(const std::function<void()>& prepare, const std::function<void()>& transfer,
+                                         bool everyLater) {
+    constexpr std::uint64_t Limit = 5000;
+    for (std::uint64_t failing = 1; failing <= Limit; ++failing) {
+        SCOPED_TRACE("failing allocation " + std::to_string(failing));
+        emulator::setFaults({});
+        prepare();
+        emulator::Faults faults;
+        faults.failAllocation = failing;
+        faults.failAllAfter = everyLater;
+        const std::uint64_t before = emulator::allocations().calls;
+        emulator::setFaults(faults);
+        transfer();
+        emulator::setFaults({});
+        expectIdle();
+        if (HasFailure() || emulator::allocations().calls - before < failing) return;
+    }
+    ADD_FAILURE() << "after " << Limit << " allocations the transfer still had more";
+}
+
+std::string TransferFixture::fileBytes(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void TransferFixture::writeFile(const std::string& path, const std::string& bytes) {
+    std::ofstream(path, std::ios::binary) << bytes;
+}
+
+void TransferFixture::expectInOrder(const std::vector<std::string>& texts) const {
+    auto line = emulator::journal().begin();
+    const auto end = emulator::journal().end();
+    for (const auto& text : texts) {
+        while (line != end && !matches(*line, text)) ++line;
+        if (line == end) {
+            ADD_FAILURE() << "not in the journal, or too early: " << text << "\n" << joined(emulator::journal());
+            return;
+        }
+        ++line;
+    }
+}
+
+std::size_t TransferFixture::journalCount(const std::string& text) const {
+    std::size_t count = 0;
+    for (const auto& line : emulator::journal()) count += matches(line, text);
+    return count;
+}
+
+void TransferFixture::expectIdle() const {
+    EXPECT_EQ(number(setting::TransferActive), 0);
+    const auto open = emulator::openObjects();
+    EXPECT_EQ(open.files, 0u);
+    EXPECT_EQ(open.progressDialogs, 0u);
+    EXPECT_EQ(open.textDisplays, 0u);
+    EXPECT_EQ(open.lockedLists, 0u);
+}
+
+void TransferFixture::expectNothingLeft() {
+    deleteClient();
+    expectIdle();
+    const auto open = emulator::openObjects();
+    EXPECT_EQ(open.modules, 0u);
+    EXPECT_EQ(open.watches, 0u);
+    EXPECT_EQ(scripted::liveClients(), 0u);
+    EXPECT_EQ(emulator::allocations().liveBlocks, blocksBefore_);
+}

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "emulator/emulator.h"
+#include "scripted/script.h"
+#include "support/host_fields.h"
+#include "support/host_record.h"
+#include "support/library.h"
+#include "support/recording_user.h"
+#include "support/scripted_host.h"
+
+namespace setting = host::setting;
+
+// A session that is ready to transfer: complete connection settings, a PC file in a folder of its own, the scripted
+// providers, a user who writes everything down, the journal on (with every provider entry as "provider NAME"). The end
+// of each test checks that nothing is left behind.
+class TransferFixture : public ::testing::Test {
+protected:
+    // Values of setting 131.
+    enum Output { ToScreen = 0, ToFile = 1, ToSpreadsheet = 3 };
+    // Values of settings 119 and 120.
+    enum FileType { AsciiText, BasicSequential, CommaSeparated, BasicRandom, NoConversion, TabDelimited, Dif };
+
+    void SetUp() override;
+    void TearDown() override;
+
+    // --- The session
+    const Library& library = Library::get();
+    host::SessionHandle session = 0;
+    RecordingUser user;
+    ScriptedHost hostFile;
+
+    // Made on first use, so that a test can set things up before.
+    ZXFRPCSCLIENT* client();
+    void deleteClient();
+    void set(std::uint32_t id, std::int32_t value) { emulator::set(session, id, value); }
+    void set(std::uint32_t id, const char* value) { emulator::set(session, id, std::string(value)); }
+    void set(std::uint32_t id, const std::string& value) { emulator::set(session, id, value); }
+    std::int32_t number(std::uint32_t id) const { return emulator::number(session, id); }
+    // 2 and 4: Stf; 5, 7 and 13: AppcRequestor; 8, 9, 14 and 15: Requestor; 30, or routerKind 2: As400.
+    void useTransport(std::int32_t transportType, std::int32_t routerKind = 1);
+    // A folder below binFolder().
+    void useProviders(const std::string& folder);
+
+    // --- Transfers
+    void receive(std::uint32_t showProgress = 0);
+    void send(std::uint32_t showProgress = 0);
+    // Runs `transfer` with its first, second, third ... allocation failing, until one runs through; `prepare` comes
+    // before each. After each, nothing may be open or active. With `everyLater`, all later ones fail too.
+    void failEachAllocation(const std::function<void()>& prepare, const std::function<void()>& transfer,
+                            bool everyLater = false);
+
+    // --- The PC
+    std::string path(const std::string& name) const { return (folder_ / name).string(); }
+    std::string pcFile() const { return path("pcfile.dat"); }
+    std::string pcFileBytes() const { return fileBytes(pcFile()); }
+    bool pcFileExists() const { return std::filesystem::exists(pcFile()); }
+    void writePcFile(const std::string& bytes) const { writeFile(pcFile(), bytes); }
+    static std::string fileBytes(const std::string& path);
+    static void writeFile(const std::string& path, const std::string& bytes);
+
+    // --- The journal
+    // Lines that contain these texts follow one another, with any others between. In both, a "*" in a text stands for
+    // anything: "WatchSetting(*, 215".
+    void expectInOrder(const std::vector<std::string>& texts) const;
+    std::size_t journalCount(const std::string& text) const;
+
+    // --- The end
+    // No transfer runs and none left anything open; the client, its provider and its watches may be there.
+    void expectIdle() const;
+    // Deletes the client; then nothing at all is left of it.
+    void expectNothingLeft();
+
+private:
+    std::filesystem::path folder_;
+    ZXFRPCSCLIENT* client_ = nullptr;
+    std::uint64_t blocksBefore_ = 0;
+};
