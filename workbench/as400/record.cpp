@@ -1,0 +1,135 @@
+#include "as400/record.h"
+
+#include <algorithm>
+
+#include "as400/date_format.h"
+#include "as400/decimal.h"
+#include "as400/refusal.h"
+
+namespace as400 {
+
+namespace {
+
+[[noreturn]] void refuseNumber(const Field& field, std::string_view why) {
+    refuseData("HSF2001 Field " + field.name + ": " + std::string(why) + ".");
+}
+
+void copyPadded(std::span<const std::uint8_t> bytes, std::span<std::uint8_t> out, std::uint8_t padding) {
+    std::ranges::fill(out, padding);
+    std::ranges::copy(bytes.first(std::min(bytes.size(), out.size())), out.begin());
+}
+
+bool writeNumber(const Field& field, const Decimal& number, std::span<std::uint8_t> out) {
+    switch (field.type) {
+        case FieldType::Zoned:
+            return writeZoned(number, out);
+        case FieldType::Packed:
+            return writePacked(number, field.digits, out);
+        default:
+            return writeBinary(number, out);
+    }
+}
+
+std::optional<Decimal> readNumberBytes(const Field& field, std::span<const std::uint8_t> bytes) {
+    auto number = field.type == FieldType::Zoned    ? readZoned(bytes)
+                  : field.type == FieldType::Packed ? readPacked(bytes)
+                                                    : std::optional(readBinary(bytes));
+    if (number && number->digits.size() > field.digits) number.reset();
+    return number;
+}
+
+// Bytes are passed as they are; not damaged after all is, for example, a number with an unusual sign.
+void writeRawNumber(const RecordField& field, const Value& value, const RequestOptions& options,
+                    std::span<std::uint8_t> out) {
+    const auto* bytes = std::get_if<Bytes>(&value);
+    const bool sound = bytes && bytes->size() == out.size() && readNumberBytes(field.field, *bytes);
+    if (!sound && !options.ignoreDecimalErrors) refuseNumber(field.field, "decimal data error");
+    if (bytes) return copyPadded(*bytes, out, 0x40);
+    const auto* text = std::get_if<std::string>(&value);
+    encodeText(text ? *text : "", FieldType::Character, *field.page, out);
+}
+
+void writeNumberValue(const RecordField& field, const Value& value, const RequestOptions& options,
+                      std::span<std::uint8_t> out) {
+    const bool null = std::holds_alternative<std::monostate>(value);
+    const auto number = null ? Decimal{} : decimalFromValue(value, field.field.decimals);
+    if (!number) return writeRawNumber(field, value, options, out);
+    if (!writeNumber(field.field, *number, out)) {
+        refuseNumber(field.field, "value " + decimalText(*number, field.field.decimals) + " too large");
+    }
+}
+
+std::string textOf(const Value& value) {
+    if (const auto* text = std::get_if<std::string>(&value)) return *text;
+    if (const auto* integer = std::get_if<std::int64_t>(&value)) return std::to_string(*integer);
+    if (const auto* bytes = std::get_if<Bytes>(&value)) return std::string(bytes->begin(), bytes->end());
+    const auto* real = std::get_if<double>(&value);
+    if (!real) return {};
+    std::string text = decimalText(decimalFromDouble(*real, 9).value_or(Decimal{}), 9);
+    text.erase(text.find_last_not_of('0') + 1);
+    if (text.ends_with('.')) text.pop_back();
+    return text;
+}
+
+std::string momentText(const Field& field, const Value& value, const RequestOptions& options) {
+    const bool date = field.type == FieldType::Date;
+    const std::string text = textOf(value);
+    const auto moment = text.empty() ? Moment{} : readMoment(text, date ? StoredDate : StoredTime);
+    if (!moment) refuseData("HSF2002 Field " + field.name + ": " + text + " is no date or time.");
+    return writeMoment(*moment, date ? options.datePattern : options.timePattern);
+}
+
+Value readNumber(const RecordField& field, std::span<const std::uint8_t> bytes, const RequestOptions& options) {
+    const Field& f = field.field;
+    if (const auto number = readNumberBytes(f, bytes)) return storedNumber(*number, f.digits, f.decimals);
+    if (!options.ignoreDecimalErrors) refuseNumber(f, "decimal data error");
+    return Bytes(bytes.begin(), bytes.end());
+}
+
+Value readMomentValue(const RecordField& field, std::span<const std::uint8_t> bytes, const RequestOptions& options) {
+    const bool date = field.field.type == FieldType::Date;
+    std::string text = decodeText(bytes, *field.page);
+    const auto moment = readMoment(text, date ? options.datePattern : options.timePattern);
+    if (!moment) refuseData("HSF2002 Field " + field.field.name + ": " + text + " is no date or time.");
+    return writeMoment(*moment, date ? StoredDate : StoredTime);
+}
+
+}  // namespace
+
+RecordField makeRecordField(const Field& field, const codepages::CodePage& page, const RequestOptions& options) {
+    RecordField result{field, &page};
+    if (field.type == FieldType::Date) result.field.length = static_cast<std::uint32_t>(options.datePattern.size());
+    if (field.type == FieldType::Time) result.field.length = static_cast<std::uint32_t>(options.timePattern.size());
+    return result;
+}
+
+void writeValue(const RecordField& field, const Value& value, const RequestOptions& options,
+                std::span<std::uint8_t> out) {
+    if (field.field.isNumber()) return writeNumberValue(field, value, options, out);
+    switch (field.field.type) {
+        case FieldType::Hex: {
+            const std::string bytes = textOf(value);
+            return copyPadded({reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()}, out, 0);
+        }
+        case FieldType::Date:
+        case FieldType::Time:
+            return encodeText(momentText(field.field, value, options), FieldType::Character, *field.page, out);
+        default:
+            return encodeText(textOf(value), field.field.type, *field.page, out);
+    }
+}
+
+Value readValue(const RecordField& field, std::span<const std::uint8_t> bytes, const RequestOptions& options) {
+    if (field.field.isNumber()) return readNumber(field, bytes, options);
+    switch (field.field.type) {
+        case FieldType::Hex:
+            return Bytes(bytes.begin(), bytes.end());
+        case FieldType::Date:
+        case FieldType::Time:
+            return readMomentValue(field, bytes, options);
+        default:
+            return decodeText(bytes, *field.page);
+    }
+}
+
+}  // namespace as400

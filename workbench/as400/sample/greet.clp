@@ -1,0 +1,4 @@
+             PGM        PARM(&NAME)
+             DCL        VAR(&NAME) TYPE(*CHAR) LEN(10)
+             SNDPGMMSG  MSG('Good morning,' *BCAT &NAME)
+             ENDPGM
