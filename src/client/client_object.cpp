@@ -19,5 +19,7 @@ void ZXFRPCSCLIENT::pumpMessages() {
 
 bool ZXFRPCSCLIENT::tfStart() {
     if (!tfSession) tfSession = client::makeTransferFunctionSession(session);
-    return tfSession && tfSession->tfStart();
+    if (tfSession) return tfSession->tfStart();
+    provider::showMessage(messageOwner(), provider::OutOfMemory);
+    return false;
 }

@@ -38,6 +38,7 @@ struct ZXFRPCSCLIENT {
     std::uint32_t demoIndex = 0;
     host::Owned<text::TextBuffer> workText;     // the filter of a demonstration catalogue
     host::Owned<text::TextBuffer> requestText;  // 4096 characters: statements are composed in it
+    bool transferRunning = false;               // from the first step of a transfer to its end
     const char* browseFilter = nullptr;         // while a first catalogue call runs
 
     // Lets the emulator process pending window messages once.

@@ -25,22 +25,32 @@ bool isServedByDialog(std::int32_t transportType) {
     return transportType == 8 || transportType == NamedSystemTransport || transportType == 14 || transportType == 15;
 }
 
-bool isIncomplete(host::SettingsHandle settings, std::int32_t transportType) {
-    const SettingStart system(settings, id::HostSystemName);
-    const SettingStart param250(settings, id::ConnectionParam250);
-    const SettingStart param248(settings, id::ConnectionParam248);
-    const SettingStart param512(settings, id::ConnectionParam512);
-    return system.isEmpty() || (param250.isEmpty() && system.text[0] != '.') || param248.isEmpty() ||
-           (param512.isEmpty() && transportType == NamedSystemTransport);
-}
+// Everything the check looks at, read before anything is decided.
+struct ConnectionSettings {
+    explicit ConnectionSettings(host::SettingsHandle settings)
+        : system(settings, id::HostSystemName),
+          param250(settings, id::ConnectionParam250),
+          param248(settings, id::ConnectionParam248),
+          param512(settings, id::ConnectionParam512),
+          messagesEnabled(host::IsMessageEnabled(settings, 0) != 0),
+          transportType(host::GetSetting(settings, id::TransportType)) {}
+
+    bool isIncomplete() const {
+        return system.isEmpty() || (param250.isEmpty() && system.text[0] != '.') || param248.isEmpty() ||
+               (param512.isEmpty() && transportType == NamedSystemTransport);
+    }
+
+    SettingStart system, param250, param248, param512;
+    bool messagesEnabled;
+    std::int32_t transportType;
+};
 
 }  // namespace
 
 bool checkConnection(const ZXFRPCSCLIENT& client) {
-    const std::int32_t transportType = host::GetSetting(client.settings, id::TransportType);
-    const bool ask = isIncomplete(client.settings, transportType) && host::IsMessageEnabled(client.settings, 0) &&
-                     isServedByDialog(transportType);
-    if (!ask) return true;
+    const ConnectionSettings connection(client.settings);
+    if (!connection.isIncomplete() || !connection.messagesEnabled || !isServedByDialog(connection.transportType))
+        return true;
     return host::ConnectionDialog(client.session, moduleHandle(), platform::GetLastActivePopup(client.mainWindow)) != 0;
 }
 

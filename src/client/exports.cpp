@@ -34,12 +34,12 @@ std::uint32_t ZHST_CALL pcsAreXferCmdsEnabled(ZXFRPCSCLIENT*, std::uint32_t stat
 }
 
 std::uint32_t ZHST_CALL TextDisplayMoreNotification(void* context) {
-    static_cast<std::uint32_t*>(context)[0] = 1;
+    if (context) static_cast<std::uint32_t*>(context)[0] = 1;
     return 1;
 }
 
 std::uint32_t ZHST_CALL TextDisplayCloseNotification(void* context) {
-    static_cast<std::uint32_t*>(context)[1] = 1;
+    if (context) static_cast<std::uint32_t*>(context)[1] = 1;
     return 1;
 }
 

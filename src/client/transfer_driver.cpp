@@ -44,6 +44,8 @@ host::WindowHandle chooseOwner(const ZXFRPCSCLIENT& client, host::WindowHandle w
 }
 
 void readFileNames(ZXFRPCSCLIENT& client) {
+    client.pcFileName[0] = '\0';
+    client.hostFileName[0] = '\0';
     host::GetStringSetting(client.settings, id::PcFileName, client.pcFileName, sizeof(client.pcFileName));
     host::GetStringSetting(client.settings, id::HostFileName, client.hostFileName, sizeof(client.hostFileName));
 }
@@ -106,9 +108,9 @@ bool makeFileObject(ZXFRPCSCLIENT& client, bool receive) {
         reportOutOfMemory(client);
         return false;
     }
+    client.fileObject->setName(client.pcFileName);
     const std::int32_t type = host::GetSetting(client.settings, receive ? id::ReceiveFileType : id::SendFileType);
     const bool binary = type == settings::BasicRandom || type == settings::NoConversion;
-    client.fileObject->setName(client.pcFileName);
     client.fileObject->setTypeFlag(binary ? 1 : 0);
     client.fileObject->setOpenFlags(PcFileOpenFlags);
     client.fileObject->setExistingFileAction(
@@ -153,15 +155,22 @@ void runActiveTransfer(ZXFRPCSCLIENT& client, bool receive, host::WindowHandle o
     host::SetSetting(client.settings, id::TransferActive, 0);
 }
 
-}  // namespace
-
-void transferFile(ZXFRPCSCLIENT& client, const char* settingsFile, std::uint32_t direction, std::uint32_t showProgress,
-                  host::WindowHandle ownerWindow) {
-    if (client.transferSettings) return;
+void runTransfer(ZXFRPCSCLIENT& client, const char* settingsFile, std::uint32_t direction, std::uint32_t showProgress,
+                 host::WindowHandle ownerWindow) {
     client.showProgress = showProgress;
     if (settingsFile && *settingsFile && !runSettingsFile(client, settingsFile)) return;
     if (!checkConnection(client) || !client.tfStart()) return;
     runActiveTransfer(client, direction == 0, ownerWindow);
+}
+
+}  // namespace
+
+void transferFile(ZXFRPCSCLIENT& client, const char* settingsFile, std::uint32_t direction, std::uint32_t showProgress,
+                  host::WindowHandle ownerWindow) {
+    if (client.transferRunning) return;
+    client.transferRunning = true;
+    runTransfer(client, settingsFile, direction, showProgress, ownerWindow);
+    client.transferRunning = false;
 }
 
 }  // namespace client

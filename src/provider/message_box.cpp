@@ -11,9 +11,10 @@ void showMessage(const MessageOwner& owner, std::uint32_t id, const char* insert
         host::ShowMessage1(owner.session, owner.window, id, BoxFlags, 1, id, insert);
 }
 
-void showOwnText(const MessageOwner& owner, const char* text) {
-    if (host::IsMessageEnabled(owner.settings, 0))
-        host::ShowMessageText(owner.session, owner.window, BoxFlags, 1, 0, text);
+void showOwnText(const MessageOwner& owner, const char* text, host::ProgressDialogHandle dialog) {
+    if (!host::IsMessageEnabled(owner.settings, 0)) return;
+    const HiddenDialog hidden(dialog);
+    host::ShowMessageText(owner.session, owner.window, BoxFlags, 1, 0, text);
 }
 
 }  // namespace provider

@@ -20,9 +20,6 @@ struct MessageOwner {
 
 void showMessage(const MessageOwner& owner, std::uint32_t id);
 void showMessage(const MessageOwner& owner, std::uint32_t id, const char* insert);
-// A sentence of the library's own, for what the message catalogue has no message for.
-void showOwnText(const MessageOwner& owner, const char* text);
-
 // Hides a progress dialog (0: none) while a message box is up.
 class HiddenDialog {
 public:
@@ -38,5 +35,8 @@ public:
 private:
     host::ProgressDialogHandle dialog_;
 };
+
+// A sentence of the library's own, for what the message catalogue has no message for.
+void showOwnText(const MessageOwner& owner, const char* text, host::ProgressDialogHandle dialog = 0);
 
 }  // namespace provider

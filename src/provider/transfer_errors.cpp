@@ -1,5 +1,4 @@
 #include <cstdio>
-#include <cstring>
 
 #include "host/setting_ids.h"
 #include "host/setting_values.h"
@@ -7,7 +6,6 @@
 #include "provider/return_codes.h"
 #include "provider/transfer_function_session.h"
 #include "text/double_byte.h"
-#include "text/text_buffer.h"
 
 // The one place where the result of an exchange is judged and told.
 namespace provider {
@@ -52,18 +50,17 @@ bool showsOwnTextAlone(std::int32_t transportType) {
     return transportType == 5 || transportType == 7 || transportType == 8 || transportType == 13;
 }
 
-void assignNumber(text::TextBuffer& buffer, std::int32_t number) {
-    char digits[20];
-    std::snprintf(digits, sizeof(digits), "%d", static_cast<int>(number));
-    buffer.assign(digits);
-}
-
+// An insert in memory of its own, so that no message is lost for want of memory.
 template <std::uint32_t Size>
-void assignSetting(text::TextBuffer& buffer, host::SettingsHandle settings, std::uint32_t setting) {
-    char value[Size] = {};
-    host::GetStringSetting(settings, setting, value, Size);
-    buffer.assign(value);
-}
+struct Insert {
+    char text[Size] = {};
+    host::TextRecord record{text, Size};
+
+    void setNumber(std::int32_t number) { std::snprintf(text, Size, "%d", static_cast<int>(number)); }
+    void setSetting(host::SettingsHandle settings, std::uint32_t setting) {
+        host::GetStringSetting(settings, setting, text, Size);
+    }
+};
 
 }  // namespace
 
@@ -149,21 +146,25 @@ void TransferFunctionSession::showHostText(const TfResult& result, std::string_v
 }
 
 void TransferFunctionSession::showNotCompleted() const {
-    text::TextBuffer inserts[6];
-    assignNumber(inserts[0], host::GetSetting(settings_, id::JobRecordsReceived));
-    assignNumber(inserts[1], host::GetSetting(settings_, id::JobRecordsTotal));
-    assignSetting<301>(inserts[2], settings_, id::HostSystemName);
-    inserts[2].toUpper();
-    assignSetting<11>(inserts[3], settings_, id::JobName);
-    assignSetting<11>(inserts[4], settings_, id::JobUser);
-    assignSetting<7>(inserts[5], settings_, id::JobNumber);
+    Insert<20> received, total;
+    Insert<301> system;
+    Insert<11> jobName, jobUser;
+    Insert<7> jobNumber;
+    received.setNumber(host::GetSetting(settings_, id::JobRecordsReceived));
+    total.setNumber(host::GetSetting(settings_, id::JobRecordsTotal));
+    system.setSetting(settings_, id::HostSystemName);
+    platform::CharUpperA(system.text);
+    jobName.setSetting(settings_, id::JobName);
+    jobUser.setSetting(settings_, id::JobUser);
+    jobNumber.setSetting(settings_, id::JobNumber);
 
-    text::TextBuffer message(NotCompletedCapacity);
-    message.assign(NotCompletedTemplate);
-    const host::TextRecord* records[6];
-    for (int at = 0; at < 6; ++at) records[at] = inserts[at].record();
-    host::formatStringSet(message.record(), records, 6);
-    host::ShowMessage1(session_, sessionWindow_, TextAlone, BoxFlags, 1, TextAlone, message.text());
+    Insert<NotCompletedCapacity + 1> message;
+    message.record.capacity = NotCompletedCapacity;
+    text::copyCut(NotCompletedTemplate, message.text, NotCompletedCapacity);
+    const host::TextRecord* inserts[] = {&received.record, &total.record,   &system.record,
+                                         &jobName.record,  &jobUser.record, &jobNumber.record};
+    host::formatStringSet(&message.record, inserts, 6);
+    host::ShowMessage1(session_, sessionWindow_, TextAlone, BoxFlags, 1, TextAlone, message.text);
 }
 
 }  // namespace provider

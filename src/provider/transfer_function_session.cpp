@@ -69,15 +69,32 @@ bool TransferFunctionSession::isDemonstration() const {
 bool TransferFunctionSession::tfStart() {
     if (started_) return true;
     if (isDemonstration()) return true;
-    const std::int32_t transport = host::GetSetting(settings_, id::TransportType);
-    if (transport == host::value::TransportAs400) host::SetSetting(settings_, id::RouterKind, host::value::RouterAs400);
-    if (transport == 2 || transport == 4) host::SetSetting(settings_, id::RouterKind, host::value::RouterIbm);
-    readConnectionSettings();
-    if (!allocateBuffer() || !binding_.bind(session_, transportType_, routerKind_)) return false;
-    started_ = true;
-    sendControl(TF_RESET);
-    codePage_.setConvertToOem(host::GetSetting(settings_, id::ConvertToOem));
+    // Binding shows messages and calls the provider, so exports may come in and find the session half started.
+    if (starting_) return false;
+    adjustRouterKind();
+    starting_ = true;
+    const bool bound = allocateBuffer() && binding_.bind(session_, transportType_, routerKind_);
+    starting_ = false;
+    const bool stopArrived = std::exchange(stopPending_, false);
+    if (!bound) return false;
+    if (stopArrived) {
+        releaseProvider();
+    } else {
+        started_ = true;
+        sendControl(TF_RESET);
+        codePage_.setConvertToOem(host::GetSetting(settings_, id::ConvertToOem));
+    }
+    if (!started_) showOwnText(messageOwner(), StoppedText);
     return started_;
+}
+
+// Transport types that only one kind of provider serves settle the router kind.
+void TransferFunctionSession::adjustRouterKind() {
+    transportType_ = host::GetSetting(settings_, id::TransportType);
+    if (transportType_ == host::value::TransportAs400)
+        host::SetSetting(settings_, id::RouterKind, host::value::RouterAs400);
+    if (transportType_ == 2 || transportType_ == 4) host::SetSetting(settings_, id::RouterKind, host::value::RouterIbm);
+    routerKind_ = host::GetSetting(settings_, id::RouterKind);
 }
 
 void TransferFunctionSession::readConnectionSettings() {
@@ -102,11 +119,11 @@ void TransferFunctionSession::freeBuffer() {
 }
 
 void TransferFunctionSession::tfStop() {
-    if (!started_ || stopping_ || isDemonstration()) return;
-    if (inProviderCall_) {
+    if (starting_ || (started_ && inProviderCall_ && !stopping_)) {
         stopPending_ = true;
         return;
     }
+    if (!started_ || stopping_ || isDemonstration()) return;
     stopping_ = true;
     endConversation();
     releaseProvider();
@@ -117,7 +134,9 @@ void TransferFunctionSession::endConversation() {
     if (conversation_ == 0) return;
     if (binding_.family() == Family::Ibm) {
         sendControl(TF_END_DATA);
+        inProviderCall_ = true;
         binding_.callStfCleanup();
+        inProviderCall_ = false;
     } else if (binding_.family() == Family::Emulator) {
         sendControl(TF_RESET);
     }
@@ -125,7 +144,9 @@ void TransferFunctionSession::endConversation() {
 }
 
 void TransferFunctionSession::releaseProvider() {
+    inProviderCall_ = true;
     binding_.deleteClient();
+    inProviderCall_ = false;
     freeBuffer();
     binding_.freeModules();
     if (traceFile_) std::exchange(traceFile_, nullptr)->destroy();
@@ -147,18 +168,23 @@ void TransferFunctionSession::tfRequest(std::uint32_t function, std::uint32_t le
     result = binding_.call({function, dataBuffer_, length, reserved, designation, yield_}, &conversation_);
     inProviderCall_ = false;
     activeDialog_ = 0;
+    if (function == TF_END_DATA) conversation_ = 0;
     if (monitorStore_) monitorStore_->recordResult(function, result.returnCode, result.detailCode, returned(result));
-    carryOutPendingStop(function, result);
+    carryOutPendingStop(function, result, dialog);
 }
 
 // What the provider returned goes with the provider.
-void TransferFunctionSession::carryOutPendingStop(std::uint32_t function, TfResult& result) {
+void TransferFunctionSession::carryOutPendingStop(std::uint32_t function, TfResult& result,
+                                                  host::ProgressDialogHandle dialog) {
     if (stopping_ || !std::exchange(stopPending_, false)) return;
     tfStop();
     readConnectionSettings();
     result = {};
     result.returnCode = NotStarted;
-    if (!isControl(function)) showOwnText(messageOwner(), StoppedText);
+    if (isControl(function)) return;
+    // A session that is not started reports nothing by itself, and the code of the exchange before would stand.
+    host::SetSetting(settings_, id::LastReturnCode, NotStarted);
+    showOwnText(messageOwner(), StoppedText, dialog);
 }
 
 void TransferFunctionSession::sendControl(Function function) { tfRequest(function, 0, 0, controlResult_, nullptr, 0); }
@@ -169,6 +195,7 @@ void TransferFunctionSession::tfEndRequest() {
 }
 
 void TransferFunctionSession::tfEndData() {
+    if (inProviderCall_) return;
     if (started_) sendControl(TF_END_DATA);
     conversation_ = 0;
 }
@@ -186,8 +213,6 @@ void TransferFunctionSession::tfTraceOn(const char* fileName) {
     traceFile_->setExistingFileAction(host::value::Append);
     traceFile_->setOption(TraceOption);
 }
-
-char* TransferFunctionSession::requestBuffer() { return tfStart() ? dataBuffer_ : nullptr; }
 
 std::string_view TransferFunctionSession::returned(const TfResult& result) const {
     if (!result.data) return {};
@@ -233,7 +258,7 @@ void TransferFunctionSession::stopForChange(std::int32_t& current, std::int32_t 
         current = newValue;
         return;
     }
-    if (!started_) return;
+    if (!started_ && !starting_) return;
     tfStop();
     if (!stopPending_) current = newValue;
 }

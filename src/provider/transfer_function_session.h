@@ -58,10 +58,7 @@ public:
     void onSettingChanged(std::uint32_t setting, std::int32_t newValue, std::int32_t oldValue);
     void setRuntimeSetting(std::uint32_t value) { runtimeSetting_ = value; }
 
-    // The shared buffer of BufferSize bytes; starts an idle session to get it. Null when that fails, and in a
-    // demonstration connection.
-    char* requestBuffer();
-    // The buffer as it is: null while the session is idle.
+    // The shared buffer of BufferSize bytes; null while there is none, as after a stop.
     char* dataBuffer() const { return dataBuffer_; }
 
     // The bytes that a result returned, as far as they can be trusted: none without an address, none behind the end of
@@ -80,13 +77,14 @@ public:
 private:
     MessageOwner messageOwner() const { return {session_, settings_, sessionWindow_}; }
     bool isDemonstration() const;
+    void adjustRouterKind();
     bool allocateBuffer();
     void freeBuffer();
     void readConnectionSettings();
     void endConversation();
     void releaseProvider();
     void sendControl(Function function);
-    void carryOutPendingStop(std::uint32_t function, TfResult& result);
+    void carryOutPendingStop(std::uint32_t function, TfResult& result, host::ProgressDialogHandle dialog);
     void onConnectionChanging(bool changing);
     void stopForChange(std::int32_t& current, std::int32_t newValue);
 
@@ -119,6 +117,7 @@ private:
     std::int32_t pendingTransportType_ = 0;
     std::int32_t pendingRouterKind_ = 0;
     bool connectionChanging_ = false;
+    bool starting_ = false;
     bool inProviderCall_ = false;
     bool stopPending_ = false;
     bool stopping_ = false;

@@ -207,7 +207,7 @@ bool ReceiveRun::readFields() {
     if (!converter_) return fail(provider::OutOfMemory);
     // Without descriptions the record loop goes on: there the provider says what became of the request.
     converter_->readHostFields(client_.progressDialog, false);
-    if (!goesOn()) return false;
+    if (!client_.tfSession->isStarted() || !goesOn()) return false;
     if (const auto* type = settings::pcFileType(settings_.receiveFileType))
         command(static_cast<ProgressCommand>(type->progressCommand));
     command(ProgressCommand::DataBegins);
@@ -261,7 +261,7 @@ bool ReceiveRun::transferRecords() {
 
 bool ReceiveRun::transferRecord() {
     if (client_.lastResult.dataLength > provider::BufferSize) {
-        provider::showOwnText(owner(), RecordTooLong);
+        provider::showOwnText(owner(), RecordTooLong, client_.progressDialog);
         return false;
     }
     PcRecord record;

@@ -45,7 +45,7 @@ bool RecordConverter::readHostFields(host::ProgressDialogHandle dialog, bool for
     if (dialog) host::ProgressDialogCommand(dialog, host::ProgressCommand::ReadingFields);
     for (std::int32_t exchange = 0;; ++exchange) {
         if (exchange == MaximumExchanges) {
-            provider::showOwnText(messageOwner(), TooManyDescriptions);
+            provider::showOwnText(messageOwner(), TooManyDescriptions, dialog);
             break;
         }
         tfSession->tfRequest(provider::TF_GET_FIELD, 0, 0, fieldResult, tfSession->hostSystemDesignation(), dialog);

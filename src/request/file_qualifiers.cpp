@@ -73,7 +73,7 @@ bool replaceQualifiers(text::TextBuffer& text, std::uint32_t start, std::string_
             if (!replaced.append(old.substr(copied, at - copied)) || !appendUpper(replaced, file)) return false;
             copied = at + length;
         }
-        at += file.empty() ? 1 : length;
+        at += file.empty() ? text::characterBytes(old.substr(at)) : length;
     }
     if (copied == 0) return true;
     if (!replaced.append(old.substr(copied))) return false;

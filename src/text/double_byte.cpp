@@ -1,7 +1,6 @@
 #include "text/double_byte.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace text {
 namespace {
@@ -84,8 +83,13 @@ bool startsWithNoCase(std::string_view text, std::string_view prefix) {
 }
 
 void copyCut(std::string_view text, char* destination, std::size_t capacity) {
-    const std::size_t length = std::min(text.size(), capacity - 1);
-    std::memcpy(destination, text.data(), length);
+    std::size_t length = std::min(text.size(), capacity - 1);
+    if (length < text.size()) {
+        std::size_t whole = 0;
+        for (std::size_t at = 0; at <= length; at += characterBytes(text.substr(at))) whole = at;
+        length = whole;
+    }
+    std::copy_n(text.data(), length, destination);
     destination[length] = '\0';
 }
 

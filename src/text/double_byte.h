@@ -43,7 +43,7 @@ std::size_t findCharacter(std::string_view text, char character);
 // Whether `text` begins with `prefix`, ASCII letters compared without regard to case.
 bool startsWithNoCase(std::string_view text, std::string_view prefix);
 
-// Copies `text` cut to `capacity` - 1 bytes, terminated.
+// Copies `text` cut to at most `capacity` - 1 bytes of whole characters, terminated.
 void copyCut(std::string_view text, char* destination, std::size_t capacity);
 
 }  // namespace text

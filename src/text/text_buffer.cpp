@@ -1,5 +1,6 @@
 #include "text/text_buffer.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "host/runtime.h"
@@ -27,7 +28,7 @@ bool TextBuffer::reserve(std::uint32_t length) {
 
 bool TextBuffer::assign(std::string_view text) {
     if (!reserve(static_cast<std::uint32_t>(text.size()))) return false;
-    std::memmove(record_.text, text.data(), text.size());
+    std::copy(text.begin(), text.end(), record_.text);
     record_.text[text.size()] = '\0';
     return true;
 }
@@ -38,7 +39,7 @@ bool TextBuffer::append(std::initializer_list<std::string_view> pieces) {
     for (const std::string_view piece : pieces) after += static_cast<std::uint32_t>(piece.size());
     if (!reserve(after)) return false;
     for (const std::string_view piece : pieces) {
-        std::memcpy(record_.text + at, piece.data(), piece.size());
+        std::copy(piece.begin(), piece.end(), record_.text + at);
         at += static_cast<std::uint32_t>(piece.size());
     }
     record_.text[after] = '\0';
@@ -62,15 +63,16 @@ void TextBuffer::keepFirst(std::uint32_t count) {
 
 bool TextBuffer::replaceFirst(std::string_view found, std::string_view replacement) {
     const std::string_view whole = view();
-    const std::size_t at = found.empty() ? std::string_view::npos : whole.find(found);
-    if (at == std::string_view::npos) return false;
+    std::size_t at = 0;
+    while (at < whole.size() && !whole.substr(at).starts_with(found)) at += characterBytes(whole.substr(at));
+    if (found.empty() || at >= whole.size()) return false;
     const std::size_t tail = whole.size() - at - found.size();
     const std::size_t after = at + replacement.size() + tail;
     // The block may only shrink once the tail has moved, and must have grown before it moves.
     if (after > whole.size() && !reserve(static_cast<std::uint32_t>(after))) return false;
     char* spot = record_.text + at;
     std::memmove(spot + replacement.size(), spot + found.size(), tail + 1);
-    std::memcpy(spot, replacement.data(), replacement.size());
+    std::copy(replacement.begin(), replacement.end(), spot);
     return true;
 }
 

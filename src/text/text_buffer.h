@@ -20,7 +20,7 @@ public:
     TextBuffer(const TextBuffer&) = delete;
     TextBuffer& operator=(const TextBuffer&) = delete;
 
-    // Both: false when the text was not stored.
+    // Both: false when the text was not stored. The pieces stand outside this text.
     bool assign(std::string_view text);
     bool append(std::string_view text) { return append({text}); }
     // All pieces or none.
