@@ -75,8 +75,6 @@ struct RecordConverter {
 
     // Send.
     std::uint32_t recordCount = 0;  // records found so far in a text-like PC file
-    bool difValueSeen = false;
-    bool difTupleClosed = false;
     host::OwnedBytes hostRecord;   // the record being built
     host::OwnedBytes fieldBuffer;  // one field's text on its way to the host code page
 

@@ -7,10 +7,10 @@ namespace send {
 
 // How numbers are written in a field's text.
 struct NumberGrammar {
-    char separator;              // decimal point
-    char thousands;              // skipped wherever it stands; 0 = none
-    bool blanksInside;           // blanks between digits are skipped
-    std::uint8_t largestDigit;   // 9, or 15 where the characters behind '9' stand for nibbles above 9
+    char separator;             // decimal point
+    char thousands;             // skipped wherever it stands; 0 = none
+    bool blanksInside;          // blanks between digits are skipped
+    std::uint8_t largestDigit;  // 9, or 15 where the characters behind '9' stand for nibbles above 9
 };
 
 // A decimal number, digit by digit: blanks, "-", digits with at most one decimal point, blanks. Every part may be
@@ -40,7 +40,7 @@ private:
 
     bool put(std::uint8_t digit);
 
-    std::uint8_t digits_[Capacity];    // without leading zeros of the integer part
+    std::uint8_t digits_[Capacity];  // without leading zeros of the integer part
     std::int32_t count_ = 0;
     std::int32_t integerDigits_ = 0;
     bool negative_ = false;

@@ -7,8 +7,9 @@ namespace send {
 // Takes a line end - CR LF, CR or LF - off the text; false when there is none.
 bool takeLineEnd(std::string_view& rest);
 
-// Takes one of the DIF text pieces off the text, letters compared without regard to case. Each CR LF of the piece stands
-// for any line end, the last one also for the end of the record. False, with the text as it was, when it is not there.
+// Takes one of the DIF text pieces off the text, letters compared without regard to case. Each CR LF of the piece
+// stands for any line end, the last one also for the end of the record. False, with the text as it was, when it is not
+// there.
 bool takeDifPiece(std::string_view& rest, std::string_view piece);
 
 }  // namespace send

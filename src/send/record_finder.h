@@ -14,8 +14,8 @@ enum class RecordKind {
 };
 
 // Looks for the end of the record that begins at `index` and moves the index to its terminator: in a tuple that of the
-// BOT line. False, with the index as it was, when the buffer does not hold the whole record. A CR or LF in the last place
-// of the buffer is no terminator, since the other half of a pair may be the next byte of the file; byte 26 is.
+// BOT line. False, with the index as it was, when the buffer does not hold the whole record. A CR or LF in the last
+// place of the buffer is no terminator, since the other half of a pair may be the next byte of the file; byte 26 is.
 bool findRecordEnd(RecordKind kind, std::string_view buffer, std::size_t& index);
 
 // Bytes of a record's terminator and of the line feed behind it, if there is one.

@@ -1,0 +1,113 @@
+#include "request/catalog_browser.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "client/connection_check.h"
+#include "host/setting_ids.h"
+#include "host/setting_values.h"
+#include "request/catalog_entry.h"
+#include "request/demo_catalog.h"
+#include "request/statement_exchange.h"
+#include "request/statement_writer.h"
+#include "text/double_byte.h"
+
+namespace request {
+namespace {
+
+constexpr char NotConverted[] = "An entry of the host's list cannot be converted to the code page of the PC.";
+
+bool isDemonstration(const ZXFRPCSCLIENT& client) {
+    return host::GetSetting(client.settings, host::setting::ConnectionType) == host::value::DemonstrationConnection;
+}
+
+void endRequest(ZXFRPCSCLIENT& client) { client.tfSession->tfEndRequest(); }
+
+// The entry of an answer that is no record; the request ends with it.
+std::uint32_t finishListing(ZXFRPCSCLIENT& client, HostCatalogEntry& entry) {
+    const std::uint16_t code = client.lastResult.returnCode;
+    if (code != provider::NoMoreData && code != provider::Completed) checkLastResult(client, ListingCatalog);
+    entry.status = code;
+    if (client.browseFilter) {
+        text::copyCut(client.browseFilter, entry.name, sizeof(entry.name));
+        entry.description[0] = '\0';
+    } else {
+        entry.name[0] = '\0';
+    }
+    if (code == provider::NoMoreData) return CatalogEnd;
+    endRequest(client);
+    return code == provider::Completed ? CatalogCompleted : CatalogFailure;
+}
+
+std::uint32_t fillHostCatalogEntry(ZXFRPCSCLIENT& client, HostCatalogEntry& entry) {
+    if (client.lastResult.returnCode != provider::Success) return finishListing(client, entry);
+    const char* buffer = client.tfSession->dataBuffer();
+    if (!buffer) return CatalogFailure;
+    const std::string_view record(buffer, std::min(client.lastResult.dataLength, provider::BufferSize));
+    const bool formatted = entry.entryKind == FieldListing ? formatColumnEntry(client, record, entry)
+                                                           : formatFileEntry(client, record, entry);
+    entry.status = provider::Success;
+    if (formatted) return CatalogEntryDelivered;
+    provider::showOwnText(client.messageOwner(), NotConverted);
+    endRequest(client);
+    return CatalogFailure;
+}
+
+bool fetchRecord(ZXFRPCSCLIENT& client) {
+    char* buffer = requestBuffer(client);
+    if (!buffer) return false;
+    std::memset(buffer, 0, provider::BufferSize);
+    provider::TransferFunctionSession& tf = *client.tfSession;
+    tf.tfRequest(provider::TF_GET_DATA, 0, 0, client.lastResult, tf.hostSystemDesignation(), 0);
+    return true;
+}
+
+// Sends the request of a listing; false after a failure, which has been reported.
+bool sendExtract(ZXFRPCSCLIENT& client, std::string_view filter, std::uint32_t entryKind) {
+    char* buffer = requestBuffer(client);
+    if (!buffer) return false;
+    StatementWriter statement(buffer);
+    statement.append(entryKind == FieldListing ? "EXTRACT COLUMNS" : "EXTRACT TABLES");
+    if (!filter.empty()) {
+        statement.append(" ");
+        statement.append(filter);
+    }
+    if (!statement.fits()) return refuseLongStatement(client);
+    sendStatement(client, statement.text(), Direction::Receive, 0);
+    return true;
+}
+
+std::uint32_t listFirst(ZXFRPCSCLIENT& client, HostCatalogEntry& entry, const char* filter) {
+    if (!client::checkConnection(client) || !client.tfStart() || !sendExtract(client, filter, entry.entryKind))
+        return CatalogFailure;
+    client.browseFilter = *filter ? filter : nullptr;
+    if (client.tfSession->tfIsAs400Mode() && client.lastResult.returnCode == provider::NoMoreData)
+        return fillHostCatalogEntry(client, entry);
+    const std::uint16_t answer = client.lastResult.returnCode;
+    if (!checkLastResult(client, SendingRequest)) {
+        if (answer != provider::NoMoreData) endRequest(client);
+        return CatalogFailure;
+    }
+    if (answer != provider::Completed && !fetchRecord(client)) return CatalogFailure;
+    return fillHostCatalogEntry(client, entry);
+}
+
+}  // namespace
+
+std::uint32_t getFirstHostFilename(ZXFRPCSCLIENT& client, const char* filter, HostCatalogEntry* entry) {
+    if (!entry) return CatalogFailure;
+    if (!filter) filter = "";
+    if (isDemonstration(client)) return firstDemoEntry(client, filter, *entry);
+    const std::uint32_t result = listFirst(client, *entry, filter);
+    client.browseFilter = nullptr;
+    return result;
+}
+
+std::uint32_t getNextHostFilename(ZXFRPCSCLIENT& client, HostCatalogEntry* entry) {
+    if (!entry) return CatalogFailure;
+    if (isDemonstration(client)) return nextDemoEntry(client, *entry);
+    if (!client.tfStart() || !fetchRecord(client)) return CatalogFailure;
+    return fillHostCatalogEntry(client, *entry);
+}
+
+}  // namespace request

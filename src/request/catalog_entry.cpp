@@ -1,0 +1,140 @@
+#include "request/catalog_entry.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "text/double_byte.h"
+
+namespace request {
+namespace {
+
+constexpr std::uint32_t TextTable = 7;
+constexpr std::uint32_t LengthLabelText = 443;
+constexpr std::uint32_t TypeLabelText = 444;
+constexpr std::uint32_t LabelSize = 40;
+constexpr std::uint32_t TypeBytes = 5;
+constexpr std::uint32_t ColumnDescription = 50;
+constexpr std::uint32_t LongestColumnRecord = 75;
+
+// Bytes of the name in a record of a library, file or member.
+std::size_t nameBytes(std::size_t recordLength) {
+    switch (recordLength) {
+        case 60:
+            return 10;
+        case 75:
+            return 21;
+        case 83:
+            return 33;
+        case 96:
+            return 44;
+        default:
+            return 0;
+    }
+}
+
+// Host text in the PC code page; room for every text that the shared buffer can hold. A text whose length the code page
+// changes comes out longer or shorter.
+class PcText {
+public:
+    PcText(const ZXFRPCSCLIENT& client, std::string_view hostText) {
+        const auto length = static_cast<std::uint32_t>(std::min<std::size_t>(hostText.size(), sizeof(text_)));
+        std::uint32_t converted = 0;
+        converts_ =
+            client.tfSession->codePage().hostToPcText(hostText.data(), text_, length, sizeof(text_), &converted) == 0;
+        length_ = converted ? std::min<std::uint32_t>(converted, sizeof(text_)) : length;
+    }
+    bool converts() const { return converts_; }
+    std::string_view view() const { return {text_, length_}; }
+
+private:
+    char text_[provider::BufferSize];
+    std::uint32_t length_ = 0;
+    bool converts_ = false;
+};
+
+// The name of an entry, piece by piece. A piece ends at its first zero byte; what does not fit is cut.
+class EntryName {
+public:
+    explicit EntryName(HostCatalogEntry& entry) : entry_(entry) { entry_.name[0] = '\0'; }
+
+    void append(std::string_view piece) {
+        piece = piece.substr(0, piece.find('\0'));
+        text::copyCut(piece, entry_.name + length_, sizeof(entry_.name) - length_);
+        length_ += std::min(piece.size(), sizeof(entry_.name) - length_ - 1);
+    }
+    bool appendHostText(const ZXFRPCSCLIENT& client, std::string_view hostText) {
+        const PcText text(client, hostText);
+        if (text.converts()) append(text.view());
+        return text.converts();
+    }
+    void appendLabel(const ZXFRPCSCLIENT& client, std::uint32_t index) {
+        char label[LabelSize] = {};
+        host::LoadMessageText(client.session, TextTable, index, label, LabelSize);
+        append({label, LabelSize});
+    }
+    void trimEnd() {
+        length_ = text::trimmedEnd({entry_.name, length_}).size();
+        entry_.name[length_] = '\0';
+    }
+
+private:
+    HostCatalogEntry& entry_;
+    std::size_t length_ = 0;
+};
+
+// A field's record, with zeros for what it is short of.
+struct ColumnRecord {
+    ColumnRecord(std::string_view record, std::int32_t fileCount)
+        : nameWidth(fileCount <= 1 ? 10 : 13), lengthAt(fileCount <= 1 ? 15 : 19) {
+        std::copy_n(record.data(), std::min<std::size_t>(record.size(), LongestColumnRecord), bytes);
+    }
+    std::string_view name() const { return {bytes, nameWidth}; }
+    std::string_view type() const { return {bytes + nameWidth, TypeBytes}; }
+    std::uint32_t length() const {
+        return static_cast<std::uint32_t>(static_cast<std::uint8_t>(bytes[lengthAt]) << 8 |
+                                          static_cast<std::uint8_t>(bytes[lengthAt + 1]));
+    }
+    std::string_view description() const { return {bytes + lengthAt + 6, ColumnDescription}; }
+
+    std::uint32_t nameWidth;
+    std::uint32_t lengthAt;
+    char bytes[LongestColumnRecord] = {};
+};
+
+}  // namespace
+
+// The parts are converted one by one, so that shift bytes of one never move the other.
+bool formatFileEntry(const ZXFRPCSCLIENT& client, std::string_view record, HostCatalogEntry& entry) {
+    const std::size_t nameEnd = nameBytes(record.size());
+    const PcText name(client, record.substr(0, nameEnd));
+    if (!name.converts()) return false;
+    text::copyCut(name.view(), entry.name, sizeof(entry.name));
+    if (record.size() == nameEnd) return true;
+    const PcText description(client, record.substr(nameEnd));
+    if (!description.converts()) return false;
+    text::copyCut(description.view(), entry.description, sizeof(entry.description));
+    return true;
+}
+
+bool formatColumnEntry(const ZXFRPCSCLIENT& client, std::string_view record, HostCatalogEntry& entry) {
+    const ColumnRecord column(record, entry.fileCount);
+    EntryName name(entry);
+    if (!name.appendHostText(client, column.name())) return false;
+    name.append("\t");
+    if (!name.appendHostText(client, column.description())) return false;
+    name.trimEnd();
+    name.append("\n");
+    name.appendLabel(client, TypeLabelText);
+    if (client.tfSession->tfIsAs400Mode())
+        name.append(column.type());
+    else if (!name.appendHostText(client, column.type()))
+        return false;
+    name.append("   ");
+    name.appendLabel(client, LengthLabelText);
+    char digits[8];
+    const auto end = std::to_chars(digits, digits + sizeof(digits), column.length()).ptr;
+    name.append({digits, static_cast<std::size_t>(end - digits)});
+    return true;
+}
+
+}  // namespace request

@@ -1,0 +1,85 @@
+#include "request/send_statement.h"
+
+#include <charconv>
+
+#include "fdf/fdf_reader.h"
+#include "host/setting_values.h"
+
+namespace request {
+namespace {
+
+constexpr std::size_t NumberText = 16;
+
+bool failWithoutMemory(const ZXFRPCSCLIENT& client) {
+    provider::showMessage(client.messageOwner(), provider::OutOfMemory);
+    return false;
+}
+
+bool appendFields(ZXFRPCSCLIENT& client, text::TextBuffer& statement) {
+    const auto names = host::OwnedBytes::make(fdf::NameListCapacity + 1, false);
+    if (!names) return failWithoutMemory(client);
+    if (!fdf::readFdf(*client.transferContext, client.pcFileName, names.data(), fdf::NameListCapacity)) return false;
+    statement.append(names.data());
+    return true;
+}
+
+std::string_view authority(std::int32_t publicAuthority) {
+    switch (publicAuthority) {
+        case 0:
+            return "PUBAUT(ALL) ";
+        case 2:
+            return "PUBAUT(READ) ";
+        case 3:
+            return "PUBAUT(READ/WRITE) ";
+        default:
+            return "PUBAUT(NONE) ";
+    }
+}
+
+// Keyword and value go together, so that what does not fit leaves nothing behind.
+void appendLayout(text::TextBuffer& statement, const settings::TransferSettings& settings) {
+    if (settings.hostFileType == host::value::SourceFile) {
+        char digits[NumberText];
+        const auto end = std::to_chars(digits, digits + NumberText, settings.recordLength).ptr;
+        statement.append({"RCDLEN(", {digits, static_cast<std::size_t>(end - digits)}, ") "});
+    } else if (*settings.referenceFile) {
+        statement.append({"REFFILE(", settings.referenceFile, ") "});
+    }
+}
+
+void appendMember(text::TextBuffer& statement, const settings::TransferSettings& settings) {
+    statement.append("CRTMBR(YES) ");
+    if (*settings.memberText) statement.append({"MBRTEXT('", settings.memberText, "') "});
+}
+
+void appendFile(text::TextBuffer& statement, const settings::TransferSettings& settings) {
+    statement.append("CRTFILE(YES) ");
+    statement.append({"FILETYPE(", settings.hostFileType != host::value::DataFile ? "SOURCE) " : "DATA) "});
+    appendLayout(statement, settings);
+    statement.append(authority(settings.publicAuthority));
+    if (*settings.fileText) statement.append({"FILETEXT('", settings.fileText, "') "});
+    appendMember(statement, settings);
+}
+
+}  // namespace
+
+bool composeSendStatement(ZXFRPCSCLIENT& client) {
+    settings::TransferSettings& settings = *client.transferSettings;
+    if (!client.requestText || !client.requestText->assign("REPLACE ")) return failWithoutMemory(client);
+    text::TextBuffer& statement = *client.requestText;
+    if (settings.useDescriptionFile) settings.hostFileType = host::value::DataFile;
+    if (settings.hostFileType != host::value::DataFile)
+        statement.append("*");
+    else if (!appendFields(client, statement))
+        return false;
+    statement.append({" into ", client.hostFileName, " "});
+    if (settings.createMode == host::value::CreateFile) {
+        appendFile(statement, settings);
+    } else if (settings.createMode == host::value::CreateMember) {
+        statement.append("CRTFILE(NO) ");
+        appendMember(statement, settings);
+    }
+    return true;
+}
+
+}  // namespace request

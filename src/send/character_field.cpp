@@ -1,0 +1,194 @@
+#include "send/character_field.h"
+
+#include <algorithm>
+
+#include "host/setting_values.h"
+#include "receive/dif_strings.h"
+#include "send/dif_value.h"
+#include "send/refusals.h"
+#include "settings/pc_file_types.h"
+#include "text/double_byte.h"
+
+namespace send {
+namespace {
+
+using receive::HostField;
+using receive::RecordConverter;
+
+constexpr char PairBlank[] = "\x81\x40";
+
+std::size_t cutToCharacters(std::string_view text, std::size_t limit) {
+    std::size_t at = 0;
+    while (at < text.size()) {
+        const std::size_t next = at + text::characterBytes(text.substr(at));
+        if (next > limit) break;
+        at = next;
+    }
+    return at;
+}
+
+// The text of one field as it is collected in the field buffer. What is beyond the limit is only counted; no character
+// is cut in two.
+class CollectedText {
+public:
+    CollectedText(char* buffer, std::size_t limit) : buffer_(buffer), limit_(limit) {}
+
+    void add(std::string_view piece) {
+        const std::size_t room = limit_ - stored_;
+        const bool fits = piece.size() <= room;
+        const std::size_t kept = fits ? piece.size() : cutToCharacters(piece, room);
+        std::copy_n(piece.data(), kept, buffer_ + stored_);
+        stored_ += kept;
+        if (!fits) limit_ = stored_;
+    }
+    std::size_t stored() const { return stored_; }
+
+private:
+    char* buffer_;
+    std::size_t limit_;
+    std::size_t stored_ = 0;
+};
+
+// Which double quote ends a quoted text.
+enum class ClosingQuote { NotDoubled, BeforeComma, BeforeLineEnd };
+
+// `rest` is what stands behind the quote.
+bool closes(ClosingQuote closing, std::string_view rest) {
+    if (rest.empty()) return true;
+    switch (closing) {
+        case ClosingQuote::BeforeComma:
+            return rest[0] == ',';
+        case ClosingQuote::BeforeLineEnd:
+            return rest[0] == '\r' || rest[0] == '\n';
+        default:
+            return rest[0] != '"';
+    }
+}
+
+// Takes the text behind an opening quote and the closing quote. False when the record ends before.
+bool takeQuoted(std::string_view& rest, ClosingQuote closing, CollectedText& collected) {
+    for (;;) {
+        const std::size_t quote = text::findCharacter(rest, '"');
+        collected.add(rest.substr(0, quote));
+        rest.remove_prefix(std::min(quote, rest.size()));
+        if (rest.empty()) return false;
+        const std::string_view mark = rest.substr(0, 1);
+        rest.remove_prefix(1);
+        if (closes(closing, rest)) return true;
+        collected.add(mark);
+        if (closing != ClosingQuote::BeforeComma && rest[0] == '"') rest.remove_prefix(1);
+    }
+}
+
+void skipCharacter(std::string_view& rest) { rest.remove_prefix(std::min<std::size_t>(1, rest.size())); }
+
+// One character field of a record on its way to the field buffer.
+class CharacterField {
+public:
+    CharacterField(RecordConverter& converter, const HostField& field)
+        : converter_(converter),
+          settings_(*converter.transferSettings),
+          type_(field.type()),
+          length_(field.fieldLength().bytes),
+          buffer_(converter.fieldBuffer.data()) {}
+
+    bool extract(std::string_view& rest, char* destination);
+
+private:
+    bool isDoubleByte(std::string_view rest) const;
+    void prefill(bool doubleByte);
+    bool collect(std::string_view& rest, CollectedText& collected);
+    void takeDelimited(std::string_view& rest, CollectedText& collected) const;
+    void takeFixed(std::string_view& rest);
+    bool isSourceSend() const { return settings_.hostFileType == host::value::SourceFile; }
+    bool isLongTextKept() const { return converter_.tfSession->codePage().isCodePage43(); }
+
+    RecordConverter& converter_;
+    const settings::TransferSettings& settings_;
+    std::uint8_t type_;
+    std::uint32_t length_;
+    char* buffer_;
+};
+
+bool CharacterField::extract(std::string_view& rest, char* destination) {
+    if (settings_.sendFileType == settings::Dif && !isSourceSend() && !takeDifPiece(rest, receive::dif::StringHead))
+        return refuseDifValue(converter_);
+    const bool doubleByte = isDoubleByte(rest);
+    prefill(doubleByte);
+    std::size_t sourceLength = length_;
+    if (isSourceSend()) {
+        std::string_view line = rest;
+        takeFixed(line);
+    } else if (settings_.sendFileType == settings::AsciiText) {
+        takeFixed(rest);
+    } else {
+        // Double-byte text leaves room for the two shift bytes of the host.
+        const std::uint32_t shiftBytes = doubleByte ? std::min(length_, 2u) : 0;
+        CollectedText collected(buffer_, isLongTextKept() ? converter_.fieldBuffer.size() : length_ - shiftBytes);
+        if (!collect(rest, collected)) return refuseDifValue(converter_);
+        sourceLength = std::max(sourceLength, collected.stored());
+    }
+    return converter_.tfSession->codePage().pcToHostText(buffer_, destination, static_cast<std::uint32_t>(sourceLength),
+                                                         length_) == 0;
+}
+
+// A field that may hold both kinds of text is taken for double-byte text by the first byte of its data.
+bool CharacterField::isDoubleByte(std::string_view rest) const {
+    if (type_ == receive::DoubleByteOnly) return true;
+    if (type_ != receive::DoubleByteOpen || settings_.sendFileType == settings::AsciiText) return false;
+    const bool quoted = settings_.sendFileType == settings::BasicSequential || settings_.sendFileType == settings::Dif;
+    const std::size_t first = quoted ? 1 : 0;
+    return first < rest.size() && text::isLeadByte(rest[first]);
+}
+
+// Double-byte blanks with two single-byte ones behind them make the host text end with a shift-in byte.
+void CharacterField::prefill(bool doubleByte) {
+    std::fill_n(buffer_, length_, ' ');
+    if (!doubleByte) return;
+    for (std::uint32_t at = 0; at + 4 <= length_; at += 2) std::copy_n(PairBlank, 2, buffer_ + at);
+}
+
+bool CharacterField::collect(std::string_view& rest, CollectedText& collected) {
+    switch (settings_.sendFileType) {
+        case settings::BasicSequential:
+            skipCharacter(rest);
+            takeQuoted(rest, ClosingQuote::BeforeComma, collected);
+            return true;
+        case settings::Dif: {
+            if (!rest.starts_with('"')) return false;
+            skipCharacter(rest);
+            return takeQuoted(rest, ClosingQuote::BeforeLineEnd, collected) && (takeLineEnd(rest) || rest.empty());
+        }
+        default:
+            takeDelimited(rest, collected);
+            return true;
+    }
+}
+
+// Whatever stands between a closing quote and the delimiter is skipped.
+void CharacterField::takeDelimited(std::string_view& rest, CollectedText& collected) const {
+    const bool quoted = rest.starts_with('"');
+    if (quoted) {
+        skipCharacter(rest);
+        takeQuoted(rest, ClosingQuote::NotDoubled, collected);
+    }
+    const char delimiter = settings_.sendFileType == settings::TabDelimited ? '\t' : settings_.listSeparator;
+    const std::size_t end = std::min(text::findCharacter(rest, delimiter), rest.size());
+    if (!quoted) collected.add(rest.substr(0, end));
+    rest.remove_prefix(end);
+}
+
+void CharacterField::takeFixed(std::string_view& rest) {
+    const std::size_t taken = std::min<std::size_t>(length_, rest.size());
+    std::copy_n(rest.data(), taken, buffer_);
+    rest.remove_prefix(taken);
+}
+
+}  // namespace
+
+bool extractCharacterField(RecordConverter& converter, const HostField& field, std::string_view& rest,
+                           char* destination) {
+    return CharacterField(converter, field).extract(rest, destination);
+}
+
+}  // namespace send

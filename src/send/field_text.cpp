@@ -1,0 +1,132 @@
+#include "send/field_text.h"
+
+#include <algorithm>
+
+#include "host/owned.h"
+#include "send/host_number.h"
+#include "settings/pc_file_types.h"
+#include "text/double_byte.h"
+
+namespace send {
+namespace {
+
+using receive::HostField;
+
+// The text up to the delimiter or the end of the record. In BasicSequential files a comma delimits too, unless it is
+// the decimal separator.
+std::string_view delimitedText(const settings::TransferSettings& settings, std::string_view text) {
+    char delimiters[2] = {settings.listSeparator, settings.listSeparator};
+    if (settings.sendFileType == settings::TabDelimited) {
+        delimiters[0] = delimiters[1] = '\t';
+    } else if (settings.sendFileType == settings::Dif) {
+        delimiters[0] = '\r';
+        delimiters[1] = '\n';
+    } else if (settings.sendFileType == settings::BasicSequential && settings.decimalSeparator != ',') {
+        delimiters[1] = ',';
+    }
+    std::size_t end = 0;
+    while (end < text.size() && text[end] != delimiters[0] && text[end] != delimiters[1]) ++end;
+    return text.substr(0, end);
+}
+
+bool isFixed(const HostField& field) { return field.transferSettings().sendFileType == settings::AsciiText; }
+
+// --- Hexadecimal -------------------------------------------------------------------------------------------------
+
+// What may stand between the digits and the next field: nothing in a fixed position, anything behind a closing quote,
+// blanks otherwise.
+bool takeHexEnd(const HostField& field, bool quoted, std::string_view rest, std::size_t& consumed) {
+    if (isFixed(field) || (quoted && rest.empty())) return true;
+    if (quoted && rest[0] != '"') return false;
+    const std::string_view between = delimitedText(field.transferSettings(), rest);
+    consumed += between.size();
+    return quoted || text::trimmed(between).empty();
+}
+
+ConvertedField convertHex(const HostField& field, std::string_view text, char* destination) {
+    const std::int32_t type = field.transferSettings().sendFileType;
+    const bool quoted = (type == settings::BasicSequential || type == settings::Dif) && text.starts_with('"');
+    const std::uint32_t bytes = field.fieldLength().bytes;
+    const std::uint32_t count = 2 * bytes;
+    std::string_view digits = text.substr(quoted ? 1 : 0);
+    if (digits.size() < count) return {};
+    std::size_t consumed = count + (quoted ? 1 : 0);
+    if (!takeHexEnd(field, quoted, digits.substr(count), consumed)) return {};
+    // The digits with two quotes and a terminating zero.
+    const auto work = host::OwnedBytes::make(count + 3, false);
+    if (!work) return {};
+    *std::copy_n(digits.data(), count, work.data()) = '\0';
+    if (!hexTextToBytes({work.data(), count}, destination)) return {};
+    return {bytes, consumed};
+}
+
+// --- Numbers -----------------------------------------------------------------------------------------------------
+
+NumberGrammar grammarOf(const HostField& field) {
+    const char separator = field.transferSettings().decimalSeparator;
+    if (field.type() != receive::Binary) return {separator, '\0', false, 15};
+    return {separator, separator == ',' ? '.' : ',', true, 9};
+}
+
+bool isDigitPlace(char character) {
+    return character == ' ' || character == '-' || (character >= '0' && character <= '?');
+}
+
+// A fixed text has its decimal point in a fixed place, where any mark will do. A number without one is taken as whole,
+// and then has to end in front of that place: behind it nobody can tell 10 from 0.10.
+bool readFixed(const HostField& field, std::string_view text, std::uint32_t width, DecimalText& number) {
+    NumberGrammar grammar = grammarOf(field);
+    const std::int32_t decimals = field.fieldLength().decimals;
+    const std::int64_t pointAt = static_cast<std::int64_t>(width) - decimals - 1;
+    const bool pointInText = decimals > 0 && pointAt >= 0 && pointAt < static_cast<std::int64_t>(text.size());
+    if (pointInText && !isDigitPlace(text[static_cast<std::size_t>(pointAt)])) {
+        grammar.separator = text[static_cast<std::size_t>(pointAt)];
+        if (grammar.separator == grammar.thousands) grammar.thousands = '\0';
+    }
+    if (!number.read(text, grammar)) return false;
+    return !pointInText || number.hasPoint() || number.isZero() ||
+           text::trimmedEnd(text).size() <= static_cast<std::size_t>(pointAt);
+}
+
+bool store(const HostField& field, const DecimalText& number, char* destination) {
+    const receive::FieldLength length = field.fieldLength();
+    switch (field.type()) {
+        case receive::Binary:
+            return toBinary(number, length.decimals, destination, length.bytes);
+        case receive::Zoned:
+            return toZoned(number, length.decimals, destination, length.bytes);
+        default: {
+            // All positions of the text form but those of sign and point: its even precision is accounted for.
+            const std::uint32_t digits = field.fieldTextWidth('\0') - (length.decimals > 0 ? 2 : 1);
+            return toPacked(number, length.decimals, destination, length.bytes, digits);
+        }
+    }
+}
+
+ConvertedField convertFixedNumber(const HostField& field, std::string_view text, char* destination) {
+    const receive::FieldLength length = field.fieldLength();
+    // The text of a binary number has its point in addition to its width.
+    const std::uint32_t point = field.type() == receive::Binary && length.decimals > 0 ? 1 : 0;
+    const std::uint32_t width = field.fieldTextWidth(text.empty() ? ' ' : text[0]) + point;
+    DecimalText number;
+    if (!readFixed(field, text.substr(0, width), width, number) || !store(field, number, destination)) return {};
+    return {length.bytes, width};
+}
+
+ConvertedField convertDelimitedNumber(const HostField& field, std::string_view text, char* destination) {
+    text = delimitedText(field.transferSettings(), text);
+    DecimalText number;
+    if (!number.read(text, grammarOf(field)) || !store(field, number, destination)) return {};
+    return {field.fieldLength().bytes, text.size()};
+}
+
+}  // namespace
+
+ConvertedField convertFieldText(const HostField& field, std::string_view text, char* destination) {
+    if (field.type() == receive::Hex) return convertHex(field, text, destination);
+    if (!field.isNumber()) return {};
+    return isFixed(field) ? convertFixedNumber(field, text, destination)
+                          : convertDelimitedNumber(field, text, destination);
+}
+
+}  // namespace send

@@ -1,0 +1,268 @@
+#include "send/send_driver.h"
+
+#include <algorithm>
+
+#include "client/demonstration.h"
+#include "host/setting_ids.h"
+#include "host/setting_values.h"
+#include "platform/platform.h"
+#include "receive/record_converter.h"
+#include "request/options_clause.h"
+#include "request/send_statement.h"
+#include "request/statement_exchange.h"
+#include "request/statement_writer.h"
+#include "send/record_exchange.h"
+#include "send/record_parser.h"
+#include "send/text_records.h"
+#include "settings/pc_file_types.h"
+
+namespace send {
+namespace {
+
+namespace id = host::setting;
+using host::ProgressCommand;
+
+constexpr std::uint32_t SourceOfSeveralFields = 4601;
+constexpr std::uint16_t TargetAnswer = 0x0400;  // may say that the target exists
+constexpr std::string_view TargetExists[] = {"IWS2036", "IWS2023"};
+constexpr std::uint32_t QuestionTable = 17;
+constexpr std::uint32_t QuestionText = 4;
+constexpr std::uint32_t QuestionFlags = 0x28;
+constexpr std::uint32_t QuestionHelp = 206;
+constexpr std::int32_t Confirmed = 10;
+
+constexpr std::uint32_t ReadBufferSize = 4096;
+constexpr std::uint32_t FirstDataTuple = 3;  // behind the header and the column names
+constexpr char PcBlank = 0x20;
+constexpr char HostBlank = 0x40;
+
+constexpr char NoFieldsText[] = "The host described no fields for the file. Nothing has been sent.";
+constexpr char LongRecordText[] =
+    "The records of the host file are longer than 4096 bytes, the most that can be sent. Nothing has been sent.";
+constexpr char UnknownTypeText[] = "The file type of the PC file is unknown. Nothing has been sent.";
+
+// One transfer to the host. Each step is true when the next one may follow.
+class SendRun {
+public:
+    explicit SendRun(ZXFRPCSCLIENT& client) : client_(client), settings_(*client.transferSettings) {}
+
+    void run();
+
+private:
+    bool createProgressDialog();
+    bool openPcFile();
+    bool composeRequests(std::string_view& options);
+    bool allocateReadBuffer();
+    bool sendRequest();
+    bool isAccepted();
+    bool targetExists() const;
+    bool confirmReplacement();
+    bool readLayout();
+    bool takeHostLength();
+    bool prepareData();
+    bool showFileType();
+    bool sendRecords();
+    ReadOutcome sendRead(std::string_view read);
+    ReadOutcome sendBinaryRecord(std::string_view read);
+    void finish();
+
+    bool isDemonstration() const {
+        return host::GetSetting(client_.settings, id::ConnectionType) == host::value::DemonstrationConnection;
+    }
+    bool goesOn() const { return client_.cancelRequested == 0; }
+    void command(ProgressCommand code) { host::ProgressDialogCommand(client_.progressDialog, code); }
+    void showPosition() {
+        host::SetSetting(client_.settings, id::ProgressCount,
+                         static_cast<std::int32_t>(client_.fileObject->position()));
+    }
+    provider::MessageOwner owner() const { return {client_.session, client_.settings, client_.ownerWindow}; }
+    bool fail(std::uint32_t message) const {
+        provider::showMessage(owner(), message);
+        return false;
+    }
+    bool failText(const char* text) const {
+        provider::showOwnText(owner(), text);
+        return false;
+    }
+
+    ZXFRPCSCLIENT& client_;
+    settings::TransferSettings& settings_;
+    host::OwnedBytes readBuffer_;
+    host::Owned<receive::RecordConverter> converter_;
+    std::uint32_t hostLength_ = 0;
+    std::uint32_t filePosition_ = 0;
+    std::uint32_t binaryRecords_ = 0;  // records of a file that is not text-like
+};
+
+void SendRun::run() {
+    if (!createProgressDialog()) return;
+    if (isDemonstration()) {
+        client::runDemonstration(client_, false);
+        return;
+    }
+    std::string_view options;
+    if (!openPcFile() || !composeRequests(options) || !allocateReadBuffer()) return;
+    if (request::exchangeStatement(client_, options, request::Direction::Send) && sendRequest() && readLayout() &&
+        prepareData() && sendRecords()) {
+        showPosition();
+        command(ProgressCommand::AllDataTransferred);
+    }
+    finish();
+}
+
+bool SendRun::createProgressDialog() {
+    client_.progressDialog = host::ProgressDialogCreate(client_.session, host::ToHost, client_.showProgress ? 1 : 0, 0);
+    if (!client_.progressDialog) {
+        const host::WindowHandle popup = platform::GetLastActivePopup(client_.mainWindow);
+        provider::showMessage({client_.session, client_.settings, popup}, provider::OutOfMemory);
+        return false;
+    }
+    if (client_.showProgress) {
+        host::ProgressDialogSetPcName(client_.progressDialog, client_.pcFileName);
+        host::ProgressDialogSetHostName(client_.progressDialog, client_.hostFileName);
+    }
+    return true;
+}
+
+bool SendRun::openPcFile() {
+    return client_.fileObject ? client_.fileObject->openForReading() : fail(provider::OutOfMemory);
+}
+
+bool SendRun::composeRequests(std::string_view& options) {
+    if (!request::composeSendStatement(client_)) return false;
+    command(ProgressCommand::Starting);
+    command(ProgressCommand::OptionsRequest);
+    return request::composeOptionsClause(client_, options) && goesOn();
+}
+
+bool SendRun::allocateReadBuffer() {
+    readBuffer_ = host::OwnedBytes::make(ReadBufferSize, false);
+    if (readBuffer_) return true;
+    const provider::HiddenDialog hidden(client_.progressDialog);
+    return fail(provider::OutOfMemory);
+}
+
+bool SendRun::sendRequest() {
+    if (!goesOn()) return false;
+    command(ProgressCommand::TransferRequest);
+    char* buffer = request::requestBuffer(client_);
+    if (!buffer) return false;
+    request::StatementWriter statement(buffer);
+    statement.append(client_.requestText->view());
+    if (!statement.fits()) return request::refuseLongStatement(client_);
+    request::sendStatement(client_, statement.text(), request::Direction::Send, client_.progressDialog);
+    return isAccepted() && goesOn();
+}
+
+bool SendRun::isAccepted() {
+    if (!targetExists()) return request::checkLastResult(client_, request::SendingRequest);
+    return settings_.createMode != host::value::ReplaceMember || confirmReplacement();
+}
+
+bool SendRun::targetExists() const {
+    if (client_.lastResult.returnCode != TargetAnswer) return false;
+    const std::string_view hostText = client_.tfSession->returned(client_.lastResult);
+    return std::any_of(std::begin(TargetExists), std::end(TargetExists),
+                       [&](std::string_view id) { return hostText.starts_with(id); });
+}
+
+bool SendRun::confirmReplacement() {
+    return host::ShowMessage1(client_.session, client_.mainWindow, host::MessageId(QuestionTable, QuestionText),
+                              QuestionFlags, 1, QuestionHelp, client_.hostFileName) == Confirmed;
+}
+
+bool SendRun::readLayout() {
+    converter_ = host::Owned<receive::RecordConverter>::make(
+        client_.session, client_.tfSession.get(), client_.transferContext.get(), client_.transferSettings.get(), 0, 0);
+    if (!converter_) return fail(provider::OutOfMemory);
+    converter_->readHostFields(client_.progressDialog, true);
+    // A list that was cut short, which has been reported, would give records of another layout than the host's.
+    if (converter_->fieldResult.returnCode != provider::NoMoreData || !takeHostLength()) return false;
+    converter_->hostRecord = host::OwnedBytes::make(hostLength_, true);
+    converter_->fieldBuffer = host::OwnedBytes::make(hostLength_, true);
+    return (converter_->hostRecord && converter_->fieldBuffer) || fail(provider::OutOfMemory);
+}
+
+bool SendRun::takeHostLength() {
+    for (const receive::HostField& field : converter_->fields) {
+        hostLength_ += field.fieldLength().bytes;
+        if (hostLength_ > provider::BufferSize) return failText(LongRecordText);
+    }
+    return hostLength_ != 0 || failText(NoFieldsText);
+}
+
+bool SendRun::prepareData() {
+    host::FileObject& file = *client_.fileObject;
+    const std::uint32_t size = file.size();
+    host::SetSetting(client_.settings, id::TransferDirection, host::ToHost);
+    host::ProgressDialogSetTotal(client_.progressDialog, size, host::Bytes);
+    if (settings_.createMode != host::value::CreateFile && converter_->fields.count() > 1 &&
+        settings_.hostFileType == host::value::SourceFile)
+        return fail(SourceOfSeveralFields);
+    if (!showFileType()) return false;
+    if (settings_.sendFileType == settings::Dif) settings_.startRecord = FirstDataTuple;
+    filePosition_ = file.position();
+    command(ProgressCommand::DataBegins);
+    return true;
+}
+
+bool SendRun::showFileType() {
+    const settings::PcFileTypeRow* type = settings::pcFileType(settings_.sendFileType);
+    if (!type) return failText(UnknownTypeText);
+    command(static_cast<ProgressCommand>(type->progressCommand));
+    return true;
+}
+
+// True when the PC file has no more data.
+bool SendRun::sendRecords() {
+    const std::uint32_t readSize = settings::isTextLike(settings_.sendFileType) ? TextReadSize : hostLength_;
+    for (;;) {
+        const std::int32_t count = client_.fileObject->read(readBuffer_.data(), readSize);
+        if (count <= 0) return true;
+        const std::uint32_t bytes = std::min(static_cast<std::uint32_t>(count), readSize);
+        const ReadOutcome outcome = sendRead({readBuffer_.data(), bytes});
+        if (outcome != ReadOutcome::MoreData) return outcome == ReadOutcome::EndOfData;
+        if (!goesOn()) return false;
+        showPosition();
+        command(ProgressCommand::ProcessMessages);
+    }
+}
+
+ReadOutcome SendRun::sendRead(std::string_view read) {
+    if (!settings::isTextLike(settings_.sendFileType)) return sendBinaryRecord(read);
+    std::uint32_t complete = 0;
+    TextRecords records(client_, *converter_, hostLength_);
+    const ReadOutcome outcome = records.sendAll(read, complete);
+    if (outcome != ReadOutcome::MoreData) return outcome;
+    filePosition_ += complete;
+    client_.fileObject->setPosition(filePosition_);
+    return outcome;
+}
+
+ReadOutcome SendRun::sendBinaryRecord(std::string_view read) {
+    const bool converted = settings_.sendFileType == settings::BasicRandom;
+    if (converted && read[0] == EndOfFileByte && host::GetSetting(client_.settings, id::EofByteEndsFile) != 0)
+        return ReadOutcome::EndOfData;
+    const bool sent = placeRecord(client_, read, converted ? PcBlank : HostBlank) &&
+                      convertRecord(*converter_, hostLength_, ++binaryRecords_) &&
+                      putRecord(client_, hostLength_, request::SendingRecord);
+    return sent ? ReadOutcome::MoreData : ReadOutcome::Failure;
+}
+
+void SendRun::finish() {
+    provider::TransferFunctionSession& tf = *client_.tfSession;
+    tf.tfEndRequest();
+    command(ProgressCommand::Ended);
+    if (converter_ && settings_.startRecord > 1 && settings_.startRecord > converter_->recordCount) tf.tfEndData();
+    converter_.reset();
+    readBuffer_.reset();
+}
+
+}  // namespace
+
+void sendToHost(ZXFRPCSCLIENT& client) {
+    SendRun run(client);
+    run.run();
+}
+
+}  // namespace send

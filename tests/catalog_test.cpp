@@ -1,0 +1,224 @@
+#include <cstring>
+
+#include "support/transfer_fixture.h"
+
+namespace {
+
+using scripted::Answer;
+
+class Catalog : public TransferFixture {
+protected:
+    // An entry with bytes behind it that nobody may touch. Its numbers are not aligned: a "+" in front of one makes the
+    // copy that a comparison needs.
+    struct Guarded {
+        HostCatalogEntry entry;
+        char guard[64];
+    };
+    void SetUp() override {
+        TransferFixture::SetUp();
+        clear();
+        client();
+    }
+    void clear() {
+        std::memset(&guarded, 0x55, sizeof(guarded));
+        guarded.entry.entryKind = 0;
+        guarded.entry.fileCount = 1;
+        guarded.entry.flags = 0;
+    }
+    std::uint32_t first(const std::string& filter) {
+        return library.pcsGetFirstHostFilename(session, filter.c_str(), &guarded.entry);
+    }
+    std::uint32_t next() { return library.pcsGetNextHostFilename(session, &guarded.entry); }
+    std::string name() const { return guarded.entry.name; }
+    std::string description() const { return guarded.entry.description; }
+    void expectUntouched() const {
+        for (const char byte : guarded.guard) ASSERT_EQ(byte, 0x55);
+        ASSERT_EQ(+guarded.entry.flags, 0u);
+        ASSERT_TRUE(std::memchr(guarded.entry.name, 0, sizeof(guarded.entry.name)));
+    }
+
+    Guarded guarded;
+};
+
+std::string padded(const std::string& text, std::size_t length) { return HostRecord().text(text, length); }
+
+TEST_F(Catalog, FilesAreListedToTheEnd) {
+    const struct { std::size_t name, description; } rows[] = {{10, 50}, {21, 54}, {33, 50}, {44, 52}, {0, 70}};
+    for (const auto& row : rows)
+        hostFile.catalogue.push_back(padded("QGPL", row.name) + padded("Library", row.description));
+    std::uint32_t result = first("QGPL/");
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        ASSERT_EQ(result, 0u);
+        EXPECT_EQ(name(), (row.name ? "QGPL" : "") + std::string(row.name ? row.name - 4 : 0, ' '));
+        EXPECT_EQ(description(), "Library" + std::string(row.description - 7, ' '));
+        EXPECT_EQ(+guarded.entry.status, 0u);
+        result = next();
+    }
+    EXPECT_EQ(result, 2u);
+    EXPECT_EQ(+guarded.entry.status, 0x1FFFu);
+    EXPECT_EQ(name(), "");
+    EXPECT_EQ(hostFile.statements, std::vector<std::string>{"EXTRACT TABLES QGPL/"});
+    EXPECT_EQ(journalCount("provider TF_END_REQUEST"), 0u);
+}
+
+TEST_F(Catalog, FieldsComeInBothLayouts) {
+    for (const bool as400 : {false, true}) {
+        library.xferCleanup(session);
+        useTransport(as400 ? 30 : 2);
+        for (const int files : {1, 2}) {
+            clear();
+            guarded.entry.entryKind = 2;
+            guarded.entry.fileCount = files;
+            const std::string type = as400 ? std::string("CHAR\0", 5) : hostText("CHAR ");
+            const std::string column = padded(files == 2 ? "t1.CUSTNO" : "CUSTNO", files == 2 ? 13 : 10) + type +
+                                       (files == 2 ? std::string(1, '\0') : "") + bytesOf("0400") +
+                                       std::string(4, '\0') + padded("Customer number", 50);
+            hostFile.catalogue = {column};
+            hostFile.statements.clear();
+            ASSERT_EQ(first(""), 0u);
+            EXPECT_EQ(hostFile.statements, std::vector<std::string>{"EXTRACT COLUMNS"});
+            EXPECT_EQ(name(), std::string(files == 2 ? "t1.CUSTNO    " : "CUSTNO    ") +
+                                  "\tCustomer number\nType: CHAR" + (as400 ? "" : " ") + "   Length: 1024");
+            EXPECT_EQ(next(), 2u);
+        }
+    }
+}
+
+TEST_F(Catalog, RecordsOfEveryLengthStayInTheEntry) {
+    const std::string bytes(5000, static_cast<char>(0xC1));
+    for (const std::uint32_t kind : {0u, 2u}) {
+        for (std::uint32_t length = 0; length <= 4096; ++length) {
+            Answer record = Answer::data(bytes.substr(0, length));
+            if (length % 97 == 1) record.dataLength = 0xFFFFFFFFu - length;
+            clear();
+            guarded.entry.entryKind = kind;
+            guarded.entry.fileCount = static_cast<std::int32_t>(length % 3);
+            guarded.entry.description[0] = '\0';
+            scripted::answerNext(provider::TF_GET_DATA, record);
+            ASSERT_EQ(next(), 0u);
+            expectUntouched();
+            ASSERT_TRUE(std::memchr(guarded.entry.description, 0, sizeof(guarded.entry.description)));
+            if (kind == 0 && length == 4096) {
+                EXPECT_EQ(description(), std::string(100, 'A'));
+            }
+        }
+    }
+}
+
+TEST_F(Catalog, FiltersOfEveryLengthFitOrAreRefused) {
+    const std::size_t longest = 4095 - std::strlen("EXTRACT TABLES ");
+    for (const std::size_t length : {256u, 257u, 300u, 4000u}) {
+        clear();
+        EXPECT_EQ(first(std::string(length, 'A')), 2u);
+        EXPECT_EQ(name(), std::string(256, 'A'));
+        EXPECT_EQ(description(), "");
+        expectUntouched();
+    }
+    EXPECT_EQ(first(std::string(longest, 'A')), 2u);
+    EXPECT_TRUE(user.messages.empty());
+    EXPECT_EQ(first(std::string(longest + 1, 'A')), 3u);
+    EXPECT_EQ(user.messages.size(), 1u);
+    EXPECT_EQ(hostFile.statements.back().size(), 4095u);
+}
+
+TEST_F(Catalog, AnswersThatAreNoRecords) {
+    const std::uint32_t request = provider::TF_SEND_REQUEST;
+    const std::uint32_t data = provider::TF_GET_DATA;
+    const struct {
+        const char* what;
+        int transport;
+        std::uint32_t function, code, result;
+        std::size_t messages, ended;
+        const char* name;  // null: the entry is not touched
+    } rows[] = {
+        {"refused", 2, request, 0x2001, 3, 1, 1, nullptr}, {"nothing to list", 30, request, 0x1FFF, 2, 0, 0, "F"},
+        {"no list", 2, request, 0x1FFF, 3, 1, 0, nullptr}, {"completed request", 2, request, 0x5057, 4, 0, 1, "F"},
+        {"failed record", 2, data, 0x2001, 3, 1, 1, "F"},  {"completed record", 2, data, 0x5057, 4, 0, 1, "F"},
+        {"empty", 2, data, 0x1FFF, 2, 0, 0, "F"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        library.xferCleanup(session);
+        useTransport(row.transport);
+        clear();
+        std::strcpy(guarded.entry.name, "untouched");
+        user.messages.clear();
+        emulator::clearJournal();
+        scripted::answerNext(row.function, Answer::code(row.code));
+        EXPECT_EQ(first("F"), row.result);
+        EXPECT_EQ(user.messages.size(), row.messages);
+        EXPECT_EQ(journalCount("provider TF_END_REQUEST"), row.ended);
+        EXPECT_EQ(name(), row.name ? row.name : "untouched");
+        if (row.name) {
+            EXPECT_EQ(+guarded.entry.status, row.code);
+        }
+    }
+    EXPECT_EQ(library.pcsGetFirstHostFilename(session + 1000, "", &guarded.entry), 3u);
+}
+
+TEST_F(Catalog, TextThatCannotBeConvertedIsAFailure) {
+    hostFile.catalogue = {padded("QGPL", 60)};
+    emulator::Faults faults;
+    faults.failConversion = true;
+    emulator::setFaults(faults);
+    EXPECT_EQ(first(""), 3u);
+    EXPECT_EQ(user.messages.size(), 1u);
+    EXPECT_EQ(journalCount("provider TF_END_REQUEST"), 1u);
+}
+
+TEST_F(Catalog, ConnectionDialogCanBeCancelled) {
+    useTransport(9);
+    set(setting::ConnectionParam512, "");
+    user.acceptConnectionDialog = false;
+    EXPECT_EQ(first(""), 3u);
+    EXPECT_EQ(user.connectionDialogs, 1u);
+    EXPECT_TRUE(hostFile.statements.empty());
+}
+
+TEST_F(Catalog, EachAllocationFails) {
+    hostFile.catalogue = {padded("QGPL", 60)};
+    failEachAllocation([this] { library.xferCleanup(session); },
+                       [this] { EXPECT_TRUE(first("X") != 0 || next() == 2); });
+}
+
+TEST_F(Catalog, DemonstrationHasItsOwnLists) {
+    set(setting::ConnectionType, 3);
+    const struct {
+        std::uint32_t kind;
+        std::int32_t files;
+        std::string filter;
+        std::vector<std::string> names;
+    } rows[] = {
+        {0, 1, "", {"DEMO", "SALES", "STOCK"}},
+        {0, 1, "LONGLIBNAME1", {"LONGLIBNAM", "LONGLIBNAM", "LONGLIBNAM"}},
+        {0, 1, "LONGLIBNAME1/", {"LONGLIBNAM/CUSTOMERS", "LONGLIBNAM/ORDERS", "LONGLIBNAM/PRICES"}},
+        {0, 1, "L/F", {"L/F(FIRST)", "L/F(SECOND)", "L/F(THIRD)"}},
+        {0, 1, "QGPL/CUST(MBR)", {}},
+        {2, 1, "x", {"CUSNUM", "LASTNAME", "STREET", "CITY", "ZIPCODE", "BALANCE"}},
+        {2,
+         2,
+         "x",
+         {"t1.CUSNUM", "t1.LASTNAME", "t1.STREET", "t1.CITY", "t1.ZIPCODE", "t1.BALANCE", "t2.CUSNUM", "t2.LASTNAME",
+          "t2.STREET", "t2.CITY", "t2.ZIPCODE", "t2.BALANCE"}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.filter);
+        guarded.entry.entryKind = row.kind;
+        guarded.entry.fileCount = row.files;
+        std::vector<std::string> names;
+        for (std::uint32_t result = first(row.filter); result == 0; result = next()) {
+            names.push_back(name().substr(0, name().find('\t')));
+            EXPECT_EQ(guarded.entry.flags & 1, 1u);
+            ASSERT_LE(names.size(), 20u);
+        }
+        EXPECT_EQ(names, row.names);
+    }
+    guarded.entry.entryKind = 0;
+    EXPECT_EQ(first(std::string(300, 'A') + "/"), 0u);
+    EXPECT_EQ(first("L/" + std::string(5000, 'A')), 0u);
+    EXPECT_EQ(name().size(), 256u);
+    EXPECT_TRUE(hostFile.statements.empty());
+}
+
+}  // namespace
