@@ -46,6 +46,10 @@ std::size_t doubleQuotesInPlace(char* text, std::size_t length, std::size_t capa
     return doubled;
 }
 
-void blankOutNulls(char* bytes, std::size_t count) { std::replace(bytes, bytes + count, '\0', ' '); }
+void blankOutNulls(char* bytes, std::size_t count) {
+    // Most records have none.
+    if (std::string_view(bytes, count).find('\0') == std::string_view::npos) return;
+    std::replace(bytes, bytes + count, '\0', ' ');
+}
 
 }  // namespace receive

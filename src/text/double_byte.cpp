@@ -71,6 +71,8 @@ std::string_view trimmedEnd(std::string_view text, BlankPair pair) {
 }
 
 std::size_t findCharacter(std::string_view text, char character) {
+    // Most texts have no such byte at all.
+    if (text.find(character) == std::string_view::npos) return std::string_view::npos;
     for (std::size_t at = 0; at < text.size(); at += characterBytes(text.substr(at)))
         if (text[at] == character) return at;
     return std::string_view::npos;

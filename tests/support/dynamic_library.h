@@ -13,6 +13,8 @@ void* findFunction(void* library, const char* exportName);
 /* File name of the library under test, and the name under which it exports xferCleanup. */
 const char* libraryFileName(void);
 const char* xferCleanupExportName(void);
+/* Sets a variable of the process's environment that is not set yet. */
+void setDefaultEnvironment(const char* name, const char* value);
 
 #ifdef __cplusplus
 }

@@ -3,6 +3,7 @@
 #include <dlfcn.h>
 
 #include <cstdio>
+#include <cstdlib>
 
 void* openLibrary(const char* path) {
     void* const library = dlopen(path, RTLD_NOW | RTLD_LOCAL);
@@ -13,3 +14,4 @@ void* openLibrary(const char* path) {
 void* findFunction(void* library, const char* exportName) { return dlsym(library, exportName); }
 const char* libraryFileName(void) { return Z7X_LIBRARY_FILE_NAME; }
 const char* xferCleanupExportName(void) { return "xferCleanup"; }
+void setDefaultEnvironment(const char* name, const char* value) { setenv(name, value, 0); }

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <cstdio>
+#include <cstdlib>
 
 void* openLibrary(const char* path) {
     void* const library = LoadLibraryA(path);
@@ -15,3 +16,6 @@ void* findFunction(void* library, const char* exportName) {
 }
 const char* libraryFileName(void) { return Z7X_LIBRARY_FILE_NAME; }
 const char* xferCleanupExportName(void) { return "_xferCleanup@4"; }
+void setDefaultEnvironment(const char* name, const char* value) {
+    if (!std::getenv(name)) _putenv_s(name, value);
+}

@@ -1,0 +1,119 @@
+#include <benchmark/benchmark.h>
+
+#include <string>
+#include <string_view>
+
+#include "bench/host_file.h"
+#include "emulator/emulator.h"
+#include "receive/binary_record.h"
+#include "receive/delimited_record.h"
+#include "receive/numeric_field.h"
+#include "settings/pc_file_types.h"
+
+// The conversions of a receive, without provider, monitor store and file.
+namespace bench {
+namespace {
+
+namespace setting = host::setting;
+
+std::uint32_t ZHST_CALL ignoreSetting(host::SessionHandle, std::uint32_t, std::int32_t, std::int32_t) { return 1; }
+void ZHST_CALL doNotYield() {}
+
+host::SessionHandle sessionFor(std::int32_t fileType) {
+    emulator::reset();
+    emulator::setUpPc({});
+    const host::SessionHandle session = emulator::newSession();
+    emulator::set(session, setting::ReceiveFileType, fileType);
+    emulator::set(session, setting::ReceiveOutput, 1);
+    return session;
+}
+
+// What the receive driver makes before the first record.
+struct Conversion {
+    explicit Conversion(std::int32_t fileType)
+        : session(sessionFor(fileType)),
+          functions(session, ignoreSetting, doNotYield),
+          snapshot(session, &functions),
+          converter(session, &functions, nullptr, &snapshot, 0, 0) {
+        for (const Field& field : fields())
+            converter.fields.append(
+                host::Owned<receive::HostField>::make(converter.messageOwner(), field.description.data(), &snapshot));
+    }
+
+    host::SessionHandle session;
+    provider::TransferFunctionSession functions;
+    settings::TransferSettings snapshot;
+    receive::RecordConverter converter;
+};
+
+std::string_view nextRecord(std::uint32_t& number) {
+    number = number + 1 == DistinctRecords ? 0 : number + 1;
+    return {records().data() + std::size_t{RecordLength} * number, RecordLength};
+}
+
+void numberText(benchmark::State& state, std::int32_t fileType, const Field& field) {
+    Conversion conversion(fileType);
+    const receive::HostField hostField(conversion.converter.messageOwner(), field.description.data(),
+                                       &conversion.snapshot);
+    std::uint32_t number = 0;
+    for ([[maybe_unused]] const auto iteration : state)
+        benchmark::DoNotOptimize(receive::formatNumericField(hostField, nextRecord(number).data() + field.offset,
+                                                             conversion.converter.numberText));
+    state.SetItemsProcessed(state.iterations());
+}
+
+void pcText(benchmark::State& state, const Field& field) {
+    Conversion conversion(settings::CommaSeparated);
+    char text[RecordLength];
+    std::uint32_t number = 0;
+    for ([[maybe_unused]] const auto iteration : state)
+        benchmark::DoNotOptimize(conversion.functions.codePage().hostToPcText(
+            nextRecord(number).data() + field.offset, text, field.length, sizeof(text), nullptr));
+    state.SetItemsProcessed(state.iterations());
+}
+
+using ToRecord = bool (*)(receive::RecordConverter&, std::string_view, host::OwnedBytes&, std::uint32_t&);
+
+void pcRecord(benchmark::State& state, std::int32_t fileType, ToRecord toRecord) {
+    Conversion conversion(fileType);
+    std::uint32_t number = 0;
+    std::uint64_t bytes = 0;
+    for ([[maybe_unused]] const auto iteration : state) {
+        host::OwnedBytes record;
+        std::uint32_t length = 0;
+        if (!toRecord(conversion.converter, nextRecord(number), record, length))
+            return state.SkipWithError("a record could not be converted");
+        bytes += length;
+    }
+    state.SetItemsProcessed(state.iterations());
+    state.SetBytesProcessed(static_cast<std::int64_t>(bytes));
+}
+
+void registerNumber(const Field& field, const settings::PcFileTypeRow& row) {
+    const std::string name = std::string("number/") + field.kind + "/" + row.name;
+    benchmark::RegisterBenchmark(name.c_str(), [&](benchmark::State& state) { numberText(state, row.type, field); });
+}
+
+const bool registered = [] {
+    for (const Field& field : fields()) {
+        if (std::string_view(field.kind).substr(0, 9) == "character") {
+            benchmark::RegisterBenchmark((std::string("text/") + field.kind).c_str(),
+                                         [&](benchmark::State& state) { pcText(state, field); });
+            continue;
+        }
+        // The fixed form and the shortest.
+        registerNumber(field, settings::pcFileTypes[settings::AsciiText]);
+        registerNumber(field, settings::pcFileTypes[settings::CommaSeparated]);
+    }
+    for (const settings::PcFileTypeRow& row : settings::pcFileTypes) {
+        if (row.type == settings::NoConversion) continue;
+        const ToRecord toRecord = row.isText ? receive::toDelimitedRecord : receive::toBinaryRecord;
+        benchmark::RegisterBenchmark(
+            (std::string("record/") + row.name).c_str(),
+            [&row, toRecord](benchmark::State& state) { pcRecord(state, row.type, toRecord); });
+    }
+    return true;
+}();
+
+}  // namespace
+}  // namespace bench
