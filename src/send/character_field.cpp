@@ -97,6 +97,7 @@ public:
 private:
     bool isDoubleByte(std::string_view rest) const;
     void prefill(bool doubleByte);
+    void padMixedText(std::uint32_t stored);
     bool collect(std::string_view& rest, CollectedText& collected);
     void takeDelimited(std::string_view& rest, CollectedText& collected) const;
     void takeFixed(std::string_view& rest);
@@ -126,6 +127,7 @@ bool CharacterField::extract(std::string_view& rest, char* destination) {
         const std::uint32_t shiftBytes = doubleByte ? std::min(length_, 2u) : 0;
         CollectedText collected(buffer_, isLongTextKept() ? converter_.fieldBuffer.size() : length_ - shiftBytes);
         if (!collect(rest, collected)) return refuseDifValue(converter_);
+        if (doubleByte) padMixedText(static_cast<std::uint32_t>(collected.stored()));
         sourceLength = std::max(sourceLength, collected.stored());
     }
     return converter_.tfSession->codePage().pcToHostText(buffer_, destination, static_cast<std::uint32_t>(sourceLength),
@@ -146,6 +148,14 @@ void CharacterField::prefill(bool doubleByte) {
     std::fill_n(buffer_, length_, ' ');
     if (!doubleByte) return;
     for (std::uint32_t at = 0; at + 4 <= length_; at += 2) std::copy_n(PairBlank, 2, buffer_ + at);
+}
+
+// Behind a text with single-byte characters the pairs of the prefill would stand crooked, and open a second run of
+// double-byte text that the field may have no room to close: such a text is padded with single-byte blanks.
+void CharacterField::padMixedText(std::uint32_t stored) {
+    std::uint32_t at = 0;
+    while (at < stored && text::isLeadByte(buffer_[at])) at += 2;
+    if (at < stored && stored < length_) std::fill(buffer_ + stored, buffer_ + length_, ' ');
 }
 
 bool CharacterField::collect(std::string_view& rest, CollectedText& collected) {
