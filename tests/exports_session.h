@@ -11,6 +11,10 @@ extern "C" {
 uint32_t openTestSession(void);
 /* Runs the call-back that the library registered for the end of the session. */
 void runSessionCleanup(uint32_t session);
+/* The session's next transfer goes from the host, played by a script in the folder of the libraries, to the file. */
+void expectTransfer(uint32_t session, const char* binFolder, const char* pcFile);
+/* The session's host is the demonstration. */
+void expectDemonstration(uint32_t session);
 /* Blocks of the emulator's memory that are in use. */
 uint32_t liveBlocks(void);
 

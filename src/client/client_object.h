@@ -47,9 +47,14 @@ struct ZXFRPCSCLIENT {
     bool tfStart();
 
     provider::MessageOwner messageOwner() const { return {session, settings, mainWindow}; }
+    // During a transfer, its owner window.
+    provider::MessageOwner dialogOwner() const {
+        return {session, settings, transferRunning ? ownerWindow : mainWindow};
+    }
 };
 static_assert(offsetof(ZXFRPCSCLIENT, moreRequested) == 0);
 static_assert(offsetof(ZXFRPCSCLIENT, displayClosed) == 4);
+static_assert(sizeof(void*) != 4 || offsetof(ZXFRPCSCLIENT, tfSession) == 8);
 
 namespace client {
 

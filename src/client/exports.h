@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 #include "calling_convention.h"
@@ -28,6 +29,9 @@ struct HostCatalogEntry {
 };
 #pragma pack(pop)
 static_assert(sizeof(HostCatalogEntry) == 374);
+static_assert(offsetof(HostCatalogEntry, name) == 0 && offsetof(HostCatalogEntry, description) == 257);
+static_assert(offsetof(HostCatalogEntry, fileCount) == 358 && offsetof(HostCatalogEntry, status) == 362);
+static_assert(offsetof(HostCatalogEntry, flags) == 366 && offsetof(HostCatalogEntry, entryKind) == 370);
 
 // Results of the two catalogue exports.
 enum CatalogResult : std::uint32_t {

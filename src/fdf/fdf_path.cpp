@@ -1,7 +1,9 @@
 #include "fdf/fdf_path.h"
 
+#include <cstdio>
 #include <cstring>
 #include <string_view>
+#include <utility>
 
 #include "provider/message_box.h"
 #include "text/double_byte.h"
@@ -14,9 +16,26 @@ using NameBuffer = char[1025];
 
 constexpr std::size_t ExtensionWithPoint = 4;
 
-void appendCut(char (&path)[PathSize], std::string_view part) {
+bool append(char (&path)[PathSize], std::string_view part) {
     const std::size_t length = std::strlen(path);
     text::copyCut(part, path + length, PathSize - length);
+    return length + part.size() < PathSize;
+}
+
+// A directory or drive in the name. A trail byte may look like a backslash.
+bool hasPlaceOfItsOwn(std::string_view name) {
+    for (const char mark : {'\\', '/', ':'})
+        if (text::findCharacter(name, mark) != std::string_view::npos) return true;
+    return false;
+}
+
+// A path that was cut could be that of another file.
+host::OwnedFile refuse(const settings::TransferContext& context, const char* fdfName) {
+    char message[480];
+    std::snprintf(message, sizeof(message), "The path of the PC file description %s is longer than 260 characters.",
+                  fdfName);
+    provider::showOwnText({context.session, context.settings, context.mainWindow}, message);
+    return host::OwnedFile();
 }
 
 }  // namespace
@@ -30,21 +49,18 @@ host::OwnedFile resolveFdfPath(const settings::TransferContext& context, const c
     }
     path[0] = '\0';
     const std::string_view pattern(fdfName);
-    if (pattern.find_first_of("\\/:") != std::string_view::npos) {
-        appendCut(path, pattern);
-        return file;
-    }
+    if (hasPlaceOfItsOwn(pattern)) return append(path, pattern) ? std::move(file) : refuse(context, fdfName);
     NameBuffer part = {};
-    context.pathServices->directoryPart(pcFileName, part);
-    appendCut(path, part);
-    if (pattern.substr(0, 2) == "*.") {
-        context.pathServices->baseName(pcFileName, part);
-        appendCut(path, part);
-        appendCut(path, pattern.substr(1, ExtensionWithPoint));
+    host::PathServices* paths = context.pathServices;
+    if (paths) paths->directoryPart(pcFileName, part);
+    bool fits = append(path, part);
+    if (paths && pattern.substr(0, 2) == "*.") {
+        paths->baseName(pcFileName, part);
+        fits = fits && append(path, part) && append(path, pattern.substr(1, ExtensionWithPoint));
     } else {
-        appendCut(path, pattern);
+        fits = fits && append(path, pattern);
     }
-    return file;
+    return fits ? std::move(file) : refuse(context, fdfName);
 }
 
 }  // namespace fdf

@@ -77,6 +77,10 @@ private:
     SlotTable table_;
 };
 
+// The table is the first word of an object, and its entries are as wide as an address.
+static_assert(sizeof(FileObject) == sizeof(void*) && sizeof(PathServices) == sizeof(void*) &&
+              sizeof(CodePageServices) == sizeof(void*));
+
 inline constexpr std::uint32_t PathServicesKind = 2;
 inline constexpr std::uint32_t CodePageServicesKind = 7;
 
@@ -101,6 +105,7 @@ public:
 private:
     void* entries_[92];
 };
+static_assert(sizeof(SessionServices) == 92 * sizeof(void*));
 
 }  // namespace host
 

@@ -20,6 +20,7 @@ struct AppCommandArgument {
     const char* text;
 };
 static_assert(sizeof(void*) != 4 || sizeof(AppCommandArgument) == 8);
+static_assert(offsetof(AppCommandArgument, text) == sizeof(void*));
 
 }  // namespace host
 

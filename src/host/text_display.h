@@ -18,6 +18,9 @@ struct TextDisplayParameters {
     void* context;
 };
 static_assert(sizeof(void*) != 4 || sizeof(TextDisplayParameters) == 28);
+static_assert(sizeof(void*) != 4 ||
+              (offsetof(TextDisplayParameters, title) == 8 && offsetof(TextDisplayParameters, more) == 12 &&
+               offsetof(TextDisplayParameters, close) == 20 && offsetof(TextDisplayParameters, context) == 24));
 
 inline constexpr std::uint32_t AlignLeft = 0;
 inline constexpr std::uint32_t AlignRight = 2;

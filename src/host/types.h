@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 #include "calling_convention.h"
@@ -37,5 +38,6 @@ struct TextRecord {
     std::uint32_t capacity = 0;
 };
 static_assert(sizeof(void*) != 4 || sizeof(TextRecord) == 8);
+static_assert(offsetof(TextRecord, text) == 0 && offsetof(TextRecord, capacity) == sizeof(void*));
 
 }  // namespace host

@@ -34,6 +34,8 @@ constexpr std::uint32_t DesignationOffset = 6;
 constexpr std::uint32_t DesignationLength = 40;
 constexpr std::uint32_t ResultHeader = 13;
 constexpr std::uint32_t Trailer = 2;
+static_assert(DesignationOffset + DesignationLength + 1 == RequestHeader);
+static_assert(RequestHeader + Trailer == 49 && ResultHeader + Trailer == 15);
 
 void putLittleEndian(char* bytes, std::uint32_t value) {
     for (int at = 0; at < 4; ++at) bytes[at] = static_cast<char>(value >> (8 * at));

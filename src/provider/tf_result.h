@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 namespace provider {
@@ -14,5 +15,7 @@ struct TfResult {
     void* data = nullptr;
 };
 static_assert(sizeof(void*) != 4 || sizeof(TfResult) == 12);
+static_assert(offsetof(TfResult, detailCode) == 2 && offsetof(TfResult, dataLength) == 4);
+static_assert(offsetof(TfResult, data) == 8);
 
 }  // namespace provider

@@ -181,8 +181,11 @@ void TransferFunctionSession::carryOutPendingStop(std::uint32_t function, TfResu
     readConnectionSettings();
     result = {};
     result.returnCode = NotStarted;
-    if (isControl(function)) return;
-    // A session that is not started reports nothing by itself, and the code of the exchange before would stand.
+    if (!isControl(function)) tellInterruption(dialog);
+}
+
+// The code of the exchange before would stand in the settings and read as success.
+void TransferFunctionSession::tellInterruption(host::ProgressDialogHandle dialog) const {
     host::SetSetting(settings_, id::LastReturnCode, NotStarted);
     showOwnText(messageOwner(), StoppedText, dialog);
 }

@@ -56,6 +56,8 @@ public:
     const char* hostSystemDesignation();
 
     void onSettingChanged(std::uint32_t setting, std::int32_t newValue, std::int32_t oldValue);
+    // Tells that the session was stopped under a request, which a session that is not started would not report.
+    void tellInterruption(host::ProgressDialogHandle dialog) const;
     void setRuntimeSetting(std::uint32_t value) { runtimeSetting_ = value; }
 
     // The shared buffer of BufferSize bytes; null while there is none, as after a stop.

@@ -44,7 +44,7 @@ bool convertField(const RecordConverter& converter, const HostField& field, cons
             packedToPc(source, destination, bytes);
             return true;
         default:
-            return converter.tfSession->codePage().hostToPcText(source, destination, bytes, bytes, nullptr) == 0;
+            return converter.hostToPc(source, destination, bytes, bytes, nullptr);
     }
 }
 
@@ -53,7 +53,7 @@ bool convertField(const RecordConverter& converter, const HostField& field, cons
 bool toBinaryRecord(RecordConverter& converter, std::string_view hostRecord, host::OwnedBytes& work,
                     std::uint32_t& length) {
     const auto hostLength = static_cast<std::uint32_t>(hostRecord.size());
-    work = host::OwnedBytes::make(hostLength, true);
+    work = host::OwnedBytes::make(std::max<std::uint32_t>(hostLength, 1), true);
     if (!work) {
         provider::showMessage(converter.messageOwner(), provider::OutOfMemory);
         return false;

@@ -124,8 +124,7 @@ bool DelimitedRecord::convertCharacterField(const HostField& field, const char* 
     if (quoted) out_.append('"');
     if (!out_.ensure(bytes + 1)) return true;
     std::uint32_t converted = 0;
-    if (converter_.tfSession->codePage().hostToPcText(source, out_.end(), bytes, out_.room() - 1, &converted) != 0)
-        return false;
+    if (!converter_.hostToPc(source, out_.end(), bytes, out_.room() - 1, &converted)) return false;
     const std::uint32_t length = std::max(bytes, converted);
     out_.end()[length] = '\0';
     if (display_) {

@@ -1,5 +1,6 @@
 #include "receive/dif_header.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 
@@ -35,7 +36,7 @@ bool writeDifHeader(const RecordConverter& converter, host::FileObject& file) {
     char header[HeaderSize];
     const int length =
         std::snprintf(header, sizeof(header), dif::HeaderTemplate, static_cast<long>(converter.fields.count()),
-                      static_cast<long>(converter.expectedCount) + 1);
+                      static_cast<long>(static_cast<unsigned long>(converter.expectedCount) + 1));
     if (!writeToFile(file, {header, static_cast<std::size_t>(length)}) || !writeToFile(file, dif::BeginTuple) ||
         converter.fields.isEmpty())
         return false;

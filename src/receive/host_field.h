@@ -66,6 +66,7 @@ private:
     static constexpr std::uint32_t NameOffset = 3;
     static constexpr std::uint32_t NameEnd = 32;
     static constexpr std::uint32_t PrecisionOffset = 33;
+    static_assert(PrecisionOffset < DescriptionSize);
 
     bool dropsPadNibble(std::uint32_t bytes) const;
 

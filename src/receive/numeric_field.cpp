@@ -130,10 +130,10 @@ private:
 // Sign position, then all digits with a point at its place: `width` positions.
 bool rawText(const HostField& field, const char* source, std::uint32_t width, std::int32_t decimals, char* text) {
     Digits digits(field, source);
-    const bool negative = digits.isNegative();
     const std::uint32_t point = decimals > 0 ? 1 : 0;
-    // Narrower than all digits: the first nibble is a pad.
+    // Narrower than all digits: the first nibble is a pad, and no digit of the value.
     if (width < digits.count() + 1 + point) digits.skip();
+    const bool negative = digits.isNegative();
     text[0] = negative ? '-' : ' ';
     const std::int32_t pointAt = decimals > 0 ? static_cast<std::int32_t>(width) - decimals - 1 : -1;
     for (std::uint32_t at = 1; at < width; ++at)

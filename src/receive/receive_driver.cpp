@@ -88,6 +88,10 @@ private:
     bool existingFileActionIs(std::int32_t action) const {
         return host::GetSetting(client_.settings, id::ExistingFileAction) == action;
     }
+    // Completed without data, where records would go on for ever.
+    bool isCompletion() const {
+        return client_.lastResult.returnCode == provider::Completed && client_.lastResult.dataLength == 0;
+    }
     bool goesOn() const { return client_.cancelRequested == 0; }
     void command(ProgressCommand code) { host::ProgressDialogCommand(client_.progressDialog, code); }
     provider::MessageOwner owner() const { return {client_.session, client_.settings, client_.ownerWindow}; }
@@ -192,7 +196,8 @@ bool ReceiveRun::sendOptions() {
 }
 
 bool ReceiveRun::sendQuery() {
-    if (!request::composeQueryClauses(client_, false, true) || !goesOn()) return false;
+    if (!request::sessionStands(client_) || !request::composeQueryClauses(client_, false, true) || !goesOn())
+        return false;
     command(ProgressCommand::TransferRequest);
     std::string_view statement;
     return request::composeSelectStatement(client_, statement) &&
@@ -246,10 +251,13 @@ bool ReceiveRun::openPcFile() {
 bool ReceiveRun::transferRecords() {
     provider::TransferFunctionSession& tf = *client_.tfSession;
     for (;; ++recordNumber_) {
+        if (!request::sessionStands(client_)) return false;
         host::SetSetting(client_.settings, id::JobRecordsReceived, recordNumber_);
         tf.tfRequest(provider::TF_GET_DATA, 0, 0, client_.lastResult, nullptr, client_.progressDialog);
         if (client_.lastResult.returnCode == provider::NoMoreData) return true;
-        if (!request::checkLastResult(client_, request::NoContext) || !transferRecord()) return false;
+        if (!request::checkLastResult(client_, request::NoContext)) return false;
+        if (isCompletion()) return true;
+        if (!transferRecord()) return false;
         if (toDisplay()) {
             if (!showRow()) return false;
         } else {

@@ -17,6 +17,7 @@ bool deliver(RecordConverter& converter, host::OwnedBytes work, std::uint32_t le
         record.longRecord = std::move(work);
         return true;
     }
+    if (converter.textDisplay) return true;  // a row of the display is no record
     char* buffer = converter.tfSession->dataBuffer();
     std::copy_n(work.data(), length, buffer);
     record.bytes = {buffer, length};

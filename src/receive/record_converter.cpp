@@ -52,16 +52,16 @@ bool RecordConverter::readHostFields(host::ProgressDialogHandle dialog, bool for
         if (fieldResult.returnCode == provider::NoMoreData) break;
         if (fieldResult.returnCode != provider::Success) {
             if (!tfSession->tfCheckResult(0, fieldResult, dialog)) break;
-        } else if (!addField(tfSession->returned(fieldResult), forSend)) {
+        } else if (!addField(tfSession->returned(fieldResult), forSend, dialog)) {
             break;
         }
     }
     return !fields.isEmpty();
 }
 
-bool RecordConverter::addField(std::string_view description, bool forSend) {
+bool RecordConverter::addField(std::string_view description, bool forSend, host::ProgressDialogHandle dialog) {
     if (description.size() < DescriptionSize) {
-        provider::showOwnText(messageOwner(), DescriptionTooShort);
+        provider::showOwnText(messageOwner(), DescriptionTooShort, dialog);
         return false;
     }
     description = description.substr(0, DescriptionSize);
@@ -74,6 +74,22 @@ bool RecordConverter::addField(std::string_view description, bool forSend) {
     }
     fields.append(std::move(field));
     return true;
+}
+
+bool RecordConverter::hostToPc(const char* source, char* destination, std::uint32_t length, std::uint32_t capacity,
+                               std::uint32_t* convertedLength) const {
+    return converted(tfSession->codePage().hostToPcText(source, destination, length, capacity, convertedLength));
+}
+
+bool RecordConverter::pcToHost(const char* source, char* destination, std::uint32_t length,
+                               std::uint32_t destinationLength) const {
+    return converted(tfSession->codePage().pcToHostText(source, destination, length, destinationLength));
+}
+
+bool RecordConverter::converted(std::uint32_t result) const {
+    if (result == 0) return true;
+    if (tfSession->codePage().lacksTables()) provider::showMessage(messageOwner(), provider::OutOfMemory);
+    return false;
 }
 
 }  // namespace receive

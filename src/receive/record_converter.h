@@ -56,6 +56,12 @@ struct RecordConverter {
     // there is at least one. The list ends where a description or memory for it fails, which has been reported.
     bool readHostFields(host::ProgressDialogHandle dialog, bool forSend);
 
+    // The conversions of text::CodePageState for a field. False when one fails; missing code tables have been reported,
+    // other failures are the emulator's converter's.
+    bool hostToPc(const char* source, char* destination, std::uint32_t length, std::uint32_t capacity,
+                  std::uint32_t* convertedLength) const;
+    bool pcToHost(const char* source, char* destination, std::uint32_t length, std::uint32_t destinationLength) const;
+
     provider::MessageOwner messageOwner() const { return {session, settings, mainWindow}; }
 
     host::SessionHandle session;
@@ -75,11 +81,12 @@ struct RecordConverter {
 
     // Send.
     std::uint32_t recordCount = 0;  // records found so far in a text-like PC file
-    host::OwnedBytes hostRecord;   // the record being built
-    host::OwnedBytes fieldBuffer;  // one field's text on its way to the host code page
+    host::OwnedBytes hostRecord;    // the record being built
+    host::OwnedBytes fieldBuffer;   // one field's text on its way to the host code page
 
 private:
-    bool addField(std::string_view description, bool forSend);
+    bool addField(std::string_view description, bool forSend, host::ProgressDialogHandle dialog);
+    bool converted(std::uint32_t result) const;
 };
 
 }  // namespace receive

@@ -61,7 +61,7 @@ std::string_view fileOfElement(std::string_view hostFiles, std::uint32_t number)
 }
 
 // One pass over the old text does for every number and both cases of the letter: no two qualifiers can overlap.
-bool replaceQualifiers(text::TextBuffer& text, std::uint32_t start, std::string_view hostFiles) {
+Replacement replaceQualifiers(text::TextBuffer& text, std::uint32_t start, std::string_view hostFiles) {
     const std::string_view old = text.view().substr(std::min(start, text.length()));
     text::TextBuffer replaced;
     std::size_t copied = 0;
@@ -70,18 +70,18 @@ bool replaceQualifiers(text::TextBuffer& text, std::uint32_t start, std::string_
         const std::uint32_t number = qualifierNumber(old.substr(at), length);
         const std::string_view file = number ? fileOfElement(hostFiles, number) : std::string_view();
         if (!file.empty()) {
-            if (!replaced.append(old.substr(copied, at - copied)) || !appendUpper(replaced, file)) return false;
+            if (!replaced.append(old.substr(copied, at - copied)) || !appendUpper(replaced, file))
+                return Replacement::NoMemory;
             copied = at + length;
         }
         at += file.empty() ? text::characterBytes(old.substr(at)) : length;
     }
-    if (copied == 0) return true;
-    if (!replaced.append(old.substr(copied))) return false;
-    // The old text is still needed when the new one does not fit, so the length is looked at first.
+    if (copied == 0) return Replacement::Replaced;
+    if (!replaced.append(old.substr(copied))) return Replacement::NoMemory;
     const std::uint32_t capacity = text.record()->capacity;
-    if (capacity != 0 && start + replaced.length() >= capacity) return false;
+    if (capacity != 0 && start + replaced.length() >= capacity) return Replacement::DoesNotFit;
     text.keepFirst(start);
-    return text.append(replaced.view());
+    return text.append(replaced.view()) ? Replacement::Replaced : Replacement::NoMemory;
 }
 
 }  // namespace request

@@ -13,7 +13,8 @@ std::string_view fileOfElement(std::string_view hostFiles, std::uint32_t number)
 
 // Replaces the correlation qualifiers "t1.", "T1.", "t2." ... by the name of the file they stand for, in capital
 // letters and with its point, in everything from `start` on. Plain text replacement, literals included; inserted names
-// are not searched again. False when the result does not fit the text (which is then unchanged) or there is no memory.
-bool replaceQualifiers(text::TextBuffer& text, std::uint32_t start, std::string_view hostFiles);
+// are not searched again. Only after Replaced may the text be used.
+enum class Replacement { Replaced, DoesNotFit, NoMemory };
+Replacement replaceQualifiers(text::TextBuffer& text, std::uint32_t start, std::string_view hostFiles);
 
 }  // namespace request

@@ -49,17 +49,25 @@ void appendGrouping(text::TextBuffer& request, const Clauses& clauses) {
 
 bool applyFileQualifiers(ZXFRPCSCLIENT& client, text::TextBuffer& text, std::uint32_t start) {
     if (!client.tfSession || !client.tfSession->tfIsAs400Mode()) return true;
-    return replaceQualifiers(text, start, client.hostFileName) || refuseLongStatement(client);
+    switch (replaceQualifiers(text, start, client.hostFileName)) {
+        case Replacement::Replaced:
+            return true;
+        case Replacement::DoesNotFit:
+            return refuseLongStatement(client);
+        default:
+            provider::showMessage(client.dialogOwner(), provider::OutOfMemory);
+            return false;
+    }
 }
 
 bool composeQueryClauses(ZXFRPCSCLIENT& client, bool stopAfterWhere, bool groupingOnly) {
     if (!client.requestText) {
-        provider::showMessage(client.messageOwner(), provider::OutOfMemory);
+        provider::showMessage(client.dialogOwner(), provider::OutOfMemory);
         return false;
     }
     const auto entry = client.sessionServices ? client.sessionServices->getTransferClauses() : nullptr;
     if (!entry) {
-        provider::showOwnText(client.messageOwner(), NoClauseSource);
+        provider::showOwnText(client.dialogOwner(), NoClauseSource, client.progressDialog);
         return false;
     }
     text::TextBuffer& request = *client.requestText;

@@ -1,5 +1,7 @@
 #include "request/select_statement.h"
 
+#include <algorithm>
+
 #include "host/setting_ids.h"
 #include "host/setting_values.h"
 #include "request/query_clauses.h"
@@ -80,14 +82,16 @@ std::int32_t queryRecordCount(ZXFRPCSCLIENT& client) {
     if (!composeCountStatement(client, statement)) return QueryFailed;
     sendStatement(client, statement, Direction::Receive, client.progressDialog);
     if (!checkLastResult(client, CountingRecords)) return QueryFailed;
+    // The statement stands where the count will; a provider that answers nothing counted nothing.
+    provider::TransferFunctionSession& tf = *client.tfSession;
+    std::fill_n(tf.dataBuffer(), 4, '\0');
     fetchCountRecord(client);
     if (!checkLastResult(client, CountingRecords)) return QueryFailed;
-    provider::TransferFunctionSession& tf = *client.tfSession;
     const std::int32_t count = bigEndian(tf.dataBuffer());
     if (reportsEndOfCount(tf)) fetchCountRecord(client);
     if (tf.tfIsAs400Mode()) tf.tfEndRequest();
     if (count >= 0) return count;
-    provider::showOwnText(client.messageOwner(), BadRecordCount);
+    provider::showOwnText(client.dialogOwner(), BadRecordCount, client.progressDialog);
     return QueryFailed;
 }
 

@@ -29,10 +29,16 @@ bool exchangeStatement(ZXFRPCSCLIENT& client, std::string_view statement, Direct
     return checkLastResult(client, SendingRequest);
 }
 
+bool sessionStands(ZXFRPCSCLIENT& client) {
+    if (client.tfSession->isStarted()) return true;
+    client.tfSession->tellInterruption(client.progressDialog);
+    return false;
+}
+
 char* requestBuffer(ZXFRPCSCLIENT& client) { return client.tfStart() ? client.tfSession->dataBuffer() : nullptr; }
 
 bool refuseLongStatement(const ZXFRPCSCLIENT& client) {
-    provider::showOwnText(client.messageOwner(), StatementTooLong);
+    provider::showOwnText(client.dialogOwner(), StatementTooLong, client.progressDialog);
     return false;
 }
 

@@ -30,6 +30,10 @@ bool checkLastResult(ZXFRPCSCLIENT& client, Context context);
 // sendStatement with the progress dialog, then checkLastResult for a request.
 bool exchangeStatement(ZXFRPCSCLIENT& client, std::string_view statement, Direction direction);
 
+// Whether the session still has the request that was opened: a stop that comes in through a message pump takes it away,
+// and what is sent then would go to a new session without it. False after the user has been told.
+bool sessionStands(ZXFRPCSCLIENT& client);
+
 // The shared buffer for composing; null after the failure has been reported.
 char* requestBuffer(ZXFRPCSCLIENT& client);
 

@@ -53,7 +53,7 @@ bool convertField(receive::RecordConverter& converter, const receive::HostField&
         case receive::Packed:
             return packedToHost(source, destination, bytes) || refuseNumber(converter, recordNumber, fieldNumber);
         default:
-            return converter.tfSession->codePage().pcToHostText(source, destination, bytes, bytes) == 0;
+            return converter.pcToHost(source, destination, bytes, bytes);
     }
 }
 

@@ -130,8 +130,7 @@ bool CharacterField::extract(std::string_view& rest, char* destination) {
         if (doubleByte) padMixedText(static_cast<std::uint32_t>(collected.stored()));
         sourceLength = std::max(sourceLength, collected.stored());
     }
-    return converter_.tfSession->codePage().pcToHostText(buffer_, destination, static_cast<std::uint32_t>(sourceLength),
-                                                         length_) == 0;
+    return converter_.pcToHost(buffer_, destination, static_cast<std::uint32_t>(sourceLength), length_);
 }
 
 // A field that may hold both kinds of text is taken for double-byte text by the first byte of its data.

@@ -143,7 +143,7 @@ bool SendRun::allocateReadBuffer() {
 }
 
 bool SendRun::sendRequest() {
-    if (!goesOn()) return false;
+    if (!request::sessionStands(client_) || !goesOn()) return false;
     command(ProgressCommand::TransferRequest);
     char* buffer = request::requestBuffer(client_);
     if (!buffer) return false;
@@ -172,6 +172,7 @@ bool SendRun::confirmReplacement() {
 }
 
 bool SendRun::readLayout() {
+    if (!request::sessionStands(client_)) return false;
     converter_ = host::Owned<receive::RecordConverter>::make(
         client_.session, client_.tfSession.get(), client_.transferContext.get(), client_.transferSettings.get(), 0, 0);
     if (!converter_) return fail(provider::OutOfMemory);
@@ -217,6 +218,7 @@ bool SendRun::showFileType() {
 bool SendRun::sendRecords() {
     const std::uint32_t readSize = settings::isTextLike(settings_.sendFileType) ? TextReadSize : hostLength_;
     for (;;) {
+        if (!request::sessionStands(client_)) return false;
         const std::int32_t count = client_.fileObject->read(readBuffer_.data(), readSize);
         if (count <= 0) return true;
         const std::uint32_t bytes = std::min(static_cast<std::uint32_t>(count), readSize);

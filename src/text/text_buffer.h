@@ -48,5 +48,7 @@ private:
 
     host::TextRecord record_;
 };
+// The emulator takes the address of one for that of the other.
+static_assert(sizeof(TextBuffer) == sizeof(host::TextRecord));
 
 }  // namespace text

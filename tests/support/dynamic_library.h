@@ -10,6 +10,8 @@ extern "C" {
 void* openLibrary(const char* path);
 /* Null when the library exports no such function. */
 void* findFunction(void* library, const char* exportName);
+/* The same by ordinal; null where libraries have none. */
+void* findOrdinal(void* library, unsigned ordinal);
 /* File name of the library under test, and the name under which it exports xferCleanup. */
 const char* libraryFileName(void);
 const char* xferCleanupExportName(void);

@@ -45,7 +45,7 @@ void TransferFixture::SetUp() {
     emulator::reset();
     scripted::reset();
     emulator::setUserInterface(&user);
-    ASSERT_TRUE(emulator::setUpPc({}));
+    ASSERT_TRUE(emulator::setUpPc(emulator::usualPc()));
     useProviders("scripted_families");
     session = emulator::newSession();
     set(setting::HostSystemName, "as400a");

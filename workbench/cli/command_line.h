@@ -15,7 +15,7 @@ struct CommandLine {
     std::vector<Assignment> options;  // what names and options stand for
     std::vector<Assignment> sets;     // --set, which has the last word
     emulator::Clauses clauses;
-    emulator::PcSetup pc;
+    emulator::PcSetup pc = emulator::usualPc();
     std::string filter;  // of browse
     bool fields = false;
     std::int32_t fileCount = 1;

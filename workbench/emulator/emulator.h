@@ -78,9 +78,15 @@ struct PcSetup {
     char listSeparator = ',';
 };
 
-// Fills the posix layer's PC from the code page data (on Windows: checks that the PC is so, and returns false when it
-// is not). False when a code page is not in the data.
+// Fills the posix layer's PC from the code page data. On Windows code pages and language are those of the machine, and
+// another PC is refused. False too when a code page is not in the data.
 bool setUpPc(const PcSetup& setup);
+
+// The PC that there is without setting one up: an English one; on Windows the one that the program runs on.
+PcSetup usualPc();
+
+// What the library gets for GetTickCount; null restores the real clock.
+void setTickCount(std::uint32_t (*clock)());
 
 // Where the code page data stands; otherwise $Z7X_CODE_PAGES, then beside the emulator library.
 void setCodePageDataFile(const std::string& path);

@@ -9,6 +9,7 @@
 #include "emulator/emulator.h"
 #include "emulator/faults.h"
 #include "emulator/messages.h"
+#include "emulator/platform_side.h"
 #include "emulator/user_interface.h"
 #include "host/runtime.h"
 
@@ -47,7 +48,7 @@ bool PcFile::openStream(const char* mode, const char* doing) {
     std::error_code ignored;
     // The C library opens a folder for reading and fails later, with a worse reason.
     if (files::is_directory(path, ignored)) return failNow(doing, systemReason(EISDIR));
-    stream_ = std::fopen(path.c_str(), mode);
+    stream_ = openNative(path, mode);
     return stream_ ? true : failNow(doing, systemReason(errno));
 }
 
@@ -137,7 +138,7 @@ std::uint32_t PcFile::size() {
 void* PcFile::readWhole() {
     const std::uint32_t length = size();
     if (!failure_.empty()) return nullptr;
-    std::FILE* stream = std::fopen(path().c_str(), "rb");
+    std::FILE* stream = openNative(path(), "rb");
     if (!stream) return fail("opened", systemReason(errno)), nullptr;
     void* block = host::AllocateObject(length, 0);
     if (!block) {

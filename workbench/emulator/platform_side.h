@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdio>
 #include <optional>
 #include <string>
 
@@ -11,11 +12,14 @@ std::string ownFolder();
 
 // The shell and the global memory of the PC now ask this emulator.
 void connectDesktop();
-// The PC as it is when nobody has set one up. Falls back to ASCII when there is no code page data.
+// The PC as it is when nobody has set one up.
 void resetPc();
 
 // The path of a library by bare name in the provider folder, or of a PC file of that name. Empty when there is neither.
 std::optional<std::string> findLibrary(const char* name);
+
+// Opens a path that nativePath gave, as std::fopen does.
+std::FILE* openNative(const std::string& nativePath, const char* mode);
 
 std::uint32_t loadedModules();
 void resetModules();

@@ -79,7 +79,11 @@ host::TextServicesHandle ZHST_CALL zhstGetTextServices(host::SessionHandle sessi
     return Call("GetTextServices", session).result(partOf(session, SessionPart::Session, SessionPart::TextServices));
 }
 
-void ZHST_CALL zhstAttachSession(host::SessionHandle session) { Call("AttachSession", session); }
+// From here on the library is certainly there, on platforms where the desktop is connected through it.
+void ZHST_CALL zhstAttachSession(host::SessionHandle session) {
+    Call("AttachSession", session);
+    connectDesktop();
+}
 
 void ZHST_CALL zhstRegisterCleanup(host::SessionHandle handle, std::uint32_t slot, host::CleanupCallback callback) {
     Call("RegisterCleanup", handle, slot, journalled::Address{reinterpret_cast<void*>(callback)});

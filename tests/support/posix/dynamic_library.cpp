@@ -12,6 +12,7 @@ void* openLibrary(const char* path) {
 }
 
 void* findFunction(void* library, const char* exportName) { return dlsym(library, exportName); }
+void* findOrdinal(void*, unsigned) { return nullptr; }
 const char* libraryFileName(void) { return Z7X_LIBRARY_FILE_NAME; }
 const char* xferCleanupExportName(void) { return "xferCleanup"; }
 void setDefaultEnvironment(const char* name, const char* value) { setenv(name, value, 0); }

@@ -14,6 +14,9 @@ void* openLibrary(const char* path) {
 void* findFunction(void* library, const char* exportName) {
     return reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(library), exportName));
 }
+void* findOrdinal(void* library, unsigned ordinal) {
+    return reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(library), MAKEINTRESOURCEA(ordinal)));
+}
 const char* libraryFileName(void) { return Z7X_LIBRARY_FILE_NAME; }
 const char* xferCleanupExportName(void) { return "_xferCleanup@4"; }
 void setDefaultEnvironment(const char* name, const char* value) {

@@ -1,3 +1,4 @@
+#include <cstdio>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -6,6 +7,7 @@
 #include "emulator/code_pages.h"
 #include "emulator/emulator.h"
 #include "emulator/path_services.h"
+#include "emulator/platform_side.h"
 #include "platform/platform.h"
 
 // PC file names on a file system that is particular about case and knows one separator. PC names are in the ANSI code
@@ -90,5 +92,7 @@ std::string nativePath(std::string_view pcName) {
     });
     return path.empty() ? "." : path.string();
 }
+
+std::FILE* openNative(const std::string& nativePath, const char* mode) { return std::fopen(nativePath.c_str(), mode); }
 
 }  // namespace emulator

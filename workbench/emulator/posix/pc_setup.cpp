@@ -54,11 +54,20 @@ bool setUpPc(const PcSetup& setup) {
     return true;
 }
 
+void setTickCount(std::uint32_t (*clock)()) {
+    platform::PcDesktop desktop = platform::pcDesktop();
+    desktop.tickCount = clock;
+    platform::setPcDesktop(desktop);
+}
+
+PcSetup usualPc() { return {}; }
+
+// Falls back to ASCII when there is no code page data.
 void resetPc() {
     platform::setPcDesktop({});
     connectDesktop();
-    if (setUpPc(PcSetup{})) return;
-    rememberPcSetup(PcSetup{});
+    if (setUpPc(usualPc())) return;
+    rememberPcSetup(usualPc());
     platform::setPcLocale(platform::PcLocale::ascii());
 }
 

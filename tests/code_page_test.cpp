@@ -1,0 +1,214 @@
+#include <ostream>
+
+#include "support/transfer_fixture.h"
+
+namespace {
+
+using hostfields::character;
+using hostfields::typed;
+using Strings = std::vector<std::string>;
+
+class CodePage : public TransferFixture {
+protected:
+    std::string received(FileType type, const Strings& fields, const Strings& records) {
+        hostFile.fields = fields;
+        hostFile.records = records;
+        set(setting::ReceiveFileType, type);
+        receive();
+        return pcFileBytes();
+    }
+    // The host record that a PC record becomes.
+    std::string sent(const Strings& fields, const std::string& pcRecord) {
+        hostFile.fields = fields;
+        hostFile.received.clear();
+        set(setting::CreateMode, 2);
+        set(setting::UseDescriptionFile, 1);
+        set(setting::SendDescriptionFile, "SENT.FDF");
+        writeFile(path("SENT.FDF"), "PCFDF\r\nPCFT 1\r\nPCFL T 1 10\r\n");
+        writePcFile(pcRecord + "\r\n");
+        send();
+        return hostFile.received.empty() ? "nothing" : hostFile.received[0];
+    }
+};
+
+TEST_F(CodePage, SingleByteInBothDirections) {
+    // Codes whose characters differ from page to page, and shift codes, which mean nothing in a single-byte page.
+    const struct {
+        std::int32_t page;
+        const char *host, *pc;
+    } rows[] = {{37, "4A 5A C1 63", "\xA2!A\xC4"},
+                {273, "4A 5A C1 5F",
+                 "\xC4\xDC"
+                 "A^"},
+                {500, "4A 5A C1 63", "[]A\xC4"},
+                {1140, "9F 5A C1 63", "\x80!A\xC4"},
+                {37, "0E 0F C1 40",
+                 "\x0E\x0F"
+                 "A "}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.page);
+        set(setting::HostCodePage, row.page);
+        EXPECT_EQ(received(AsciiText, {character("T", 4)}, {bytesOf(row.host)}), row.pc + std::string("\r\n"));
+        EXPECT_EQ(hexOf(sent({character("T", 4)}, row.pc)), row.host);
+    }
+}
+
+TEST_F(CodePage, OemComesBehindAnsiAndGoesBeforeIt) {
+    set(setting::ConvertToOem, 1);
+    // A-umlaut: C4 in page 1252, 8E in page 850.
+    EXPECT_EQ(received(AsciiText, {character("T", 2)}, {bytesOf("63 C1")}),
+              "\x8E"
+              "A\r\n");
+    EXPECT_EQ(hexOf(sent({character("T", 2)},
+                         "\x8E"
+                         "A")),
+              "63 C1");
+    set(setting::ConvertToOem, 0);
+    EXPECT_EQ(received(AsciiText, {character("T", 2)}, {bytesOf("63 C1")}),
+              "\xC4"
+              "A\r\n");
+}
+
+TEST_F(CodePage, ConverterThatFailsEndsTheTransferUnlessOemHidesIt) {
+    client();
+    emulator::Faults faults;
+    faults.failConversion = true;
+    emulator::setFaults(faults);
+    EXPECT_EQ(received(CommaSeparated, {character("T", 1)}, {hostText("A")}), "");
+    EXPECT_EQ(scripted::entries().back(), "TF_END_REQUEST");
+    set(setting::ConvertToOem, 1);
+    hostFile.records = {hostText("A"), hostText("B")};
+    receive();
+    EXPECT_EQ(number(setting::JobRecordsReceived), 3);
+}
+
+// Host page 43: a text may become longer on its way.
+TEST_F(CodePage, TextServicesOfPage43) {
+    set(setting::HostCodePage, 43);
+    const Strings fields = {character("A", 4), character("B", 2)};
+    const Strings records = {bytesOf("63 C1 63 C1 C2 C3")};
+    EXPECT_EQ(received(CommaSeparated, fields, records),
+              "\xC3\x84"
+              "A\xC3\x84"
+              "A,BC\r\n");
+    EXPECT_EQ(received(AsciiText, fields, records),
+              "\xC3\x84"
+              "A\xC3\x84"
+              "ABC\r\n");
+    EXPECT_EQ(received(BasicSequential, fields, {bytesOf("63 40 40 40 C2 63")}), "\"\xC3\x84\",\"B\xC3\x84\"\r\n");
+    EXPECT_TRUE(user.messages.empty());
+}
+
+// --- Double-byte pages --------------------------------------------------------------------------------------------
+
+struct Pc {
+    const char* name;
+    std::uint32_t ansi;
+    std::uint16_t language;
+    std::int32_t host;
+    const char* utf8;   // two characters of the page
+    const char* pc;     // their PC bytes
+    const char* blank;  // the double-byte blank that counts as one
+};
+
+void PrintTo(const Pc& pc, std::ostream* out) { *out << pc.name; }
+
+const Pc Pcs[] = {{"Japanese930", 932, 0x0411, 930, "日本", "\x93\xFA\x96\x7B", "\x81\x40"},
+                  {"Japanese939", 932, 0x0411, 939, "日本", "\x93\xFA\x96\x7B", "\x81\x40"},
+                  {"Korean933", 949, 0x0412, 933, "한국", "\xC7\xD1\xB1\xB9", "\xA1\xA1"},
+                  {"Simplified935", 936, 0x0804, 935, "中国", "\xD6\xD0\xB9\xFA", "\xA1\xA1"},
+                  {"Traditional937", 950, 0x0404, 937, "中國", "\xA4\xA4\xB0\xEA", "\xA1\x40"}};
+
+// The library works the user's double-byte blank out once, so each of these needs a process of its own.
+class DoubleByte : public CodePage, public testing::WithParamInterface<Pc> {
+protected:
+    void SetUp() override {
+        CodePage::SetUp();
+        emulator::PcSetup pc;
+        pc.ansiCodePage = pc.oemCodePage = GetParam().ansi;
+        pc.languageId = GetParam().language;
+        ASSERT_TRUE(emulator::setUpPc(pc));
+        set(setting::HostCodePage, GetParam().host);
+        text_ = hostText(GetParam().utf8, static_cast<std::uint32_t>(GetParam().host));
+        ASSERT_EQ(text_.size(), 6u);
+        ASSERT_EQ(text_[0], '\x0E');
+        ASSERT_EQ(text_[5], '\x0F');
+    }
+    std::string text_;  // 0E, two characters, 0F
+    const std::string pc_ = GetParam().pc;
+};
+
+TEST_P(DoubleByte, ReceivedInEveryType) {
+    const Strings fields = {typed(7, "A", 8), hostfields::zoned("N", 3), typed(8, "B", 6)};
+    const std::string record = text_ + "\x40\x40" + HostRecord().zoned(-12, 3).str() + text_;
+    const std::string four(4, ' '), two(2, ' ');
+    EXPECT_EQ(received(AsciiText, fields, {record}), pc_ + four + " -12" + pc_ + two + "\r\n");
+    EXPECT_EQ(received(BasicSequential, fields, {record}), "\"" + pc_ + "\",-12,\"" + pc_ + "\"\r\n");
+    EXPECT_EQ(received(CommaSeparated, fields, {record}), pc_ + ",-12," + pc_ + "\r\n");
+    EXPECT_EQ(received(TabDelimited, fields, {record}), pc_ + "\t-12\t" + pc_ + "\r\n");
+    EXPECT_EQ(hexOf(received(BasicRandom, fields, {record})), hexOf(pc_ + four + "01\xB2" + pc_ + two));
+    EXPECT_EQ(received(NoConversion, fields, {record}), record);
+    const std::string dif = received(Dif, fields, {record});
+    EXPECT_NE(dif.find("1,0\r\n\"" + pc_ + "\"\r\n0,-12\r\nV\r\n1,0\r\n\"" + pc_ + "\"\r\n-1,0\r\nEOD\r\n"),
+              std::string::npos);
+}
+
+TEST_P(DoubleByte, ShiftBytesGoAndUnknownPairsAreBlanks) {
+    const struct {
+        const char* what;
+        std::string host, pc;
+    } rows[] = {
+        {"pairs", text_, pc_ + "  "},
+        {"mixed", hostText("A") + text_ + hostText("B"), "A" + pc_ + "B  "},
+        {"no row", bytesOf("0E 00 00") + text_.substr(1), "  " + pc_ + "  "},
+        {"left open", text_.substr(0, 5), pc_ + " "},
+        {"half a pair", text_.substr(0, 3), pc_.substr(0, 2) + " "},
+        {"shifts only", bytesOf("0E 0F 0E 0F"), "    "},
+        {"double-byte blank", bytesOf("0E 40 40") + text_.substr(1), GetParam().blank + pc_ + "  "},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        const auto length = static_cast<std::uint16_t>(row.host.size());
+        EXPECT_EQ(hexOf(received(AsciiText, {character("T", length)}, {row.host})), hexOf(row.pc + "\r\n"));
+    }
+    // A field that ends within a pair does not touch its neighbour.
+    EXPECT_EQ(received(AsciiText, {character("T", 2), character("U", 2)},
+                       {bytesOf("0E") + text_.substr(1, 1) + hostText("UV")})
+                  .substr(2),
+              "UV\r\n");
+}
+
+TEST_P(DoubleByte, BlanksAtTheEndAreOfBothKinds) {
+    const std::string record = text_.substr(0, 5) + bytesOf("40 40 40 40 0F 40 40");
+    EXPECT_EQ(received(CommaSeparated, {character("T", 12)}, {record}), pc_ + "\r\n");
+    EXPECT_EQ(received(BasicSequential, {character("T", 12)}, {record}), "\"" + pc_ + "\"\r\n");
+    set(setting::TrimRecordBlanks, 1);
+    EXPECT_EQ(received(AsciiText, {character("T", 12)}, {record}), pc_ + "\r\n");
+}
+
+TEST_P(DoubleByte, SentAsShiftedText) {
+    const std::string blanks(4, '\x40');
+    EXPECT_EQ(hexOf(sent({character("T", 10)}, pc_ + "      ")), hexOf(text_ + blanks));
+    EXPECT_EQ(hexOf(sent({character("T", 10)}, "A" + pc_ + "B    ")),
+              hexOf(hostText("A") + text_ + hostText("B") + blanks.substr(0, 2)));
+}
+
+TEST_P(DoubleByte, EachFailingAllocationIsReportedOrHarmless) {
+    hostFile.fields = {character("T", 6)};
+    hostFile.records = {text_};
+    const auto prepare = [this] {
+        deleteClient();
+        std::filesystem::remove(pcFile());
+        user.messages.clear();
+    };
+    failEachAllocation(prepare, [this] {
+        if (!client()) return;
+        receive();
+        EXPECT_TRUE(pcFileBytes() == pc_ + "\r\n" || !user.messages.empty());
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Pages, DoubleByte, testing::ValuesIn(Pcs),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+}  // namespace

@@ -1,0 +1,303 @@
+#include "support/transfer_fixture.h"
+
+namespace {
+
+using hostfields::binary;
+using hostfields::character;
+using hostfields::hex;
+using hostfields::packed;
+using hostfields::typed;
+using hostfields::zoned;
+using scripted::Answer;
+using Strings = std::vector<std::string>;
+
+class ReceiveTypes : public TransferFixture {
+protected:
+    std::string received(FileType type, const Strings& fields, const Strings& records) {
+        hostFile.fields = fields;
+        hostFile.records = records;
+        set(setting::ReceiveFileType, type);
+        receive();
+        return pcFileBytes();
+    }
+    // Values of the last tuple.
+    static std::string lastTuple(const std::string& dif) {
+        const auto at = dif.rfind("BOT\r\n") + 5;
+        const auto end = dif.rfind("-1,0\r\nEOD\r\n");
+        return end == std::string::npos || end < at ? dif : dif.substr(at, end - at);
+    }
+};
+
+TEST_F(ReceiveTypes, OneRecordInEveryType) {
+    const Strings fields = {character("NAME", 10), zoned("AMT", 5, 2), binary("NUM", 2), packed("BAL", 5, 2),
+                            hex("KEY", 2)};
+    const std::string record =
+        HostRecord().text("AB,C \"D\"", 10).zoned(1250, 5).binary(-5, 2).packed(-12345, 5).hex("0AFF");
+    EXPECT_EQ(received(AsciiText, fields, {record}), "AB,C \"D\"    12.50    -5-123.450AFF\r\n");
+    EXPECT_EQ(received(BasicSequential, fields, {record}), "\"AB,C \"D\"\",12.5,-5,-123.45,\"0AFF\"\r\n");
+    EXPECT_EQ(received(CommaSeparated, fields, {record}), "\"AB,C \"\"D\"\"\",12.5,-5,-123.45,0AFF\r\n");
+    EXPECT_EQ(received(TabDelimited, fields, {record}), "\"AB,C \"\"D\"\"\"\t12.5\t-5\t-123.45\t0AFF\r\n");
+    EXPECT_EQ(hexOf(received(BasicRandom, fields, {record})),
+              hexOf("AB,C \"D\"  ") + " 30 31 32 35 30 FB FF 12 34 5B 0A FF");
+    EXPECT_EQ(hexOf(received(NoConversion, fields, {record})), hexOf(record));
+    EXPECT_EQ(lastTuple(received(Dif, fields, {record})),
+              "1,0\r\n\"AB,C \"\"D\"\"\"\r\n0,12.5\r\nV\r\n0,-5\r\nV\r\n0,-123.45\r\nV\r\n1,0\r\n\"0AFF\"\r\n");
+}
+
+TEST_F(ReceiveTypes, DifFileIsWholeByteForByte) {
+    EXPECT_EQ(
+        received(Dif, {character("NAME", 10), zoned("AMOUNT", 5, 2)}, {HostRecord().text("ACME", 10).zoned(1250, 5)}),
+        "TABLE\r\n0,1\r\n\"\"\r\nVECTORS\r\n0,2\r\n\"\"\r\nTUPLES\r\n0,2\r\n\"\"\r\nDATA\r\n0,0\r\n\"\"\r\n"
+        "-1,0\r\nBOT\r\n1,0\r\n\"NAME\"\r\n1,0\r\n\"AMOUNT\"\r\n"
+        "-1,0\r\nBOT\r\n1,0\r\n\"ACME\"\r\n0,12.5\r\nV\r\n-1,0\r\nEOD\r\n");
+    const std::string quoted = received(Dif, {character("A\"B", 1)}, {hostText("X"), hostText("Y")});
+    EXPECT_NE(quoted.find("1,0\r\n\"A\"\"B\"\r\n"), std::string::npos);
+    EXPECT_NE(quoted.find("TUPLES\r\n0,3\r\n"), std::string::npos);
+}
+
+TEST_F(ReceiveTypes, NamesKeepTwentyNineCharacters) {
+    const std::string name = "ABCDEFGHIJKLMNOPQRSTUVWXYZ1234";
+    const std::string file = received(Dif, {character(name, 1)}, {hostText("X")});
+    EXPECT_NE(file.find("\"" + name.substr(0, 29) + "\""), std::string::npos);
+}
+
+struct Text {
+    std::string host;  // of the first of two fields; the second is "Z"
+    const char *ascii, *basic, *comma, *tab, *dif;
+};
+
+TEST_F(ReceiveTypes, CharacterFields) {
+    emulator::PcSetup pc;
+    pc.listSeparator = ';';
+    ASSERT_TRUE(emulator::setUpPc(pc));
+    const Text rows[] = {
+        {hostText("ABC   "), "ABC   ", "\"ABC\"", "ABC", "ABC", "ABC"},
+        {hostText("  ABC "), "  ABC ", "\"  ABC\"", "  ABC", "  ABC", "  ABC"},
+        {hostText("      "), "      ", "\"\"", "", "", ""},
+        {hostText("A,B   "), "A,B   ", "\"A,B\"", "\"A,B\"", "A,B", "A,B"},
+        {hostText("A;B   "), "A;B   ", "\"A;B\"", "A;B", "A;B", "A;B"},
+        {hostText("A\tB   "), "A\tB   ", "\"A\tB\"", "A\tB", "\"A\tB\"", "A\tB"},
+        {hostText("A\"B   "), "A\"B   ", "\"A\"B\"", "\"A\"\"B\"", "\"A\"\"B\"", "A\"\"B"},
+        {hostText("\"\"\"\"\"\""), "\"\"\"\"\"\"", "\"\"\"\"\"\"\"\"", "\"\"\"\"\"\"\"\"\"\"\"\"\"\"",
+         "\"\"\"\"\"\"\"\"\"\"\"\"\"\"", "\"\"\"\"\"\"\"\"\"\"\"\""},
+        {hostText("AB") + '\0' + hostText("CD "), "AB CD ", "\"AB\"", "AB", "AB", "AB"},
+        {hostText("Ä"
+                  "Bé   "),
+         "\xC4"
+         "B\xE9   ",
+         "\"\xC4"
+         "B\xE9\"",
+         "\xC4"
+         "B\xE9",
+         "\xC4"
+         "B\xE9",
+         "\xC4"
+         "B\xE9"},
+    };
+    for (const Text& row : rows) {
+        SCOPED_TRACE(row.ascii);
+        const Strings fields = {character("T", 6), character("Z", 1)};
+        const Strings record = {row.host + hostText("Z")};
+        ASSERT_EQ(row.host.size(), 6u);
+        EXPECT_EQ(received(AsciiText, fields, record), row.ascii + std::string("Z\r\n"));
+        EXPECT_EQ(received(BasicSequential, fields, record), row.basic + std::string(",\"Z\"\r\n"));
+        EXPECT_EQ(received(CommaSeparated, fields, record), row.comma + std::string(";Z\r\n"));
+        EXPECT_EQ(received(TabDelimited, fields, record), row.tab + std::string("\tZ\r\n"));
+        EXPECT_EQ(lastTuple(received(Dif, fields, record)),
+                  "1,0\r\n\"" + std::string(row.dif) + "\"\r\n1,0\r\n\"Z\"\r\n");
+    }
+}
+
+TEST_F(ReceiveTypes, BinaryRecords) {
+    const struct {
+        std::string field;
+        const char *host, *pc;
+    } rows[] = {{zoned("F", 3), "F1F2D3", "31 32 B3"},   {zoned("F", 3), "F1F2B3", "31 32 B3"},
+                {zoned("F", 3), "F1F2F3", "31 32 33"},   {zoned("F", 3), "F1F2C3", "31 32 33"},
+                {packed("F", 5), "12345D", "12 34 5B"},  {packed("F", 5), "12345B", "12 34 5B"},
+                {packed("F", 5), "12345F", "12 34 53"},  {packed("F", 5), "12345C", "12 34 53"},
+                {binary("F", 2), "0001", "01 00"},       {binary("F", 4), "01020304", "04 03 02 01"},
+                {hex("F", 3), "0E0F00", "0E 0F 00"},     {character("F", 3), "C1C240", "41 42 20"},
+                {typed(9, "F", 3), "C1C240", "41 42 20"}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.host);
+        EXPECT_EQ(hexOf(received(BasicRandom, {row.field}, {bytesOf(row.host)})), row.pc);
+    }
+}
+
+TEST_F(ReceiveTypes, SourceMemberKeepsItsBlanksAndStaysBare) {
+    const Strings source = {HostRecord().text("A, \"B\"", 12)};
+    for (const FileType type : {CommaSeparated, TabDelimited, AsciiText}) {
+        EXPECT_EQ(received(type, {character("SRCDTA", 12)}, source), "A, \"B\"      \r\n");
+        EXPECT_EQ(received(type, {character("SRCDTA2", 12)}, source), "A, \"B\"      \r\n");
+    }
+    EXPECT_EQ(received(CommaSeparated, {character("SRCDT", 12)}, source), "\"A, \"\"B\"\"\"\r\n");
+    EXPECT_EQ(received(CommaSeparated, {character("SRCDTA", 11), character("X", 1)}, source), "\"A, \"\"B\"\"\",\r\n");
+}
+
+TEST_F(ReceiveTypes, TrimmingLooksAtTheRealEndOfTheRecord) {
+    const struct {
+        std::int32_t trim;
+        std::string host;
+        const char* pc;
+    } rows[] = {{0, hostText("AB    "), "AB    \r\n"},
+                {2, hostText("AB    "), "AB    \r\n"},
+                {1, hostText("AB    "), "AB\r\n"},
+                {1, hostText("      "), "\r\n"},
+                {1, hostText("A") + '\0' + hostText("B   "), "A B\r\n"},
+                {1, hostText("AB") + '\0' + hostText("   "), "AB \r\n"}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(hexOf(row.host));
+        set(setting::TrimRecordBlanks, row.trim);
+        EXPECT_EQ(received(AsciiText, {character("T", 6)}, {row.host}), row.pc);
+    }
+}
+
+TEST_F(ReceiveTypes, UnknownTypesAreText) {
+    for (const int code : {5, 6, 7, 8, 9, 11, 12, 13, 200, 255}) {
+        SCOPED_TRACE(code);
+        EXPECT_EQ(
+            received(CommaSeparated, {typed(static_cast<std::uint8_t>(code), "X", 16)}, {HostRecord().text("A,B", 16)}),
+            "\"A,B\"\r\n");
+    }
+    std::string longer(300, 'x');
+    EXPECT_EQ(received(CommaSeparated, {typed(9, "X", 300)}, {hostText(longer)}), longer + "\r\n");
+}
+
+// --- Lists and records that do not belong together ----------------------------------------------------------------
+
+TEST_F(ReceiveTypes, ListAndRecordOfDifferentLengths) {
+    const Strings fields = {character("A", 3), zoned("N", 3), character("B", 4)};
+    const struct {
+        const char* what;
+        std::string record;
+        const char *comma, *ascii;
+        std::string random;
+    } rows[] = {
+        {"whole", hostText("ABC123WXYZ"), "ABC,123,WXYZ\r\n", "ABC 123WXYZ\r\n", "ABC123WXYZ"},
+        {"longer", hostText("ABC123WXYZMORE"), "ABC,123,WXYZ\r\n", "ABC 123WXYZ\r\n", "ABC123WXYZ"},
+        {"text cut", hostText("ABC123WX"), "ABC,123,WX\r\n", "ABC 123WX\r\n", "ABC123WX"},
+        {"ends between", hostText("ABC123"), "ABC,123\r\n", "ABC 123\r\n", "ABC123"},
+        {"number cut", hostText("ABC12"), "ABC\r\n", "ABC\r\n", "ABC"},
+        {"first cut", hostText("AB"), "AB\r\n", "AB\r\n", "AB"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        EXPECT_EQ(received(CommaSeparated, fields, {row.record}), row.comma);
+        EXPECT_EQ(received(AsciiText, fields, {row.record}), row.ascii);
+        EXPECT_EQ(received(BasicRandom, fields, {row.record}), row.random);
+        EXPECT_EQ(received(NoConversion, fields, {row.record}), row.record);
+    }
+    EXPECT_TRUE(user.messages.empty());
+}
+
+TEST_F(ReceiveTypes, WithoutDescriptionsTheRecordsAreEmpty) {
+    EXPECT_EQ(received(CommaSeparated, {}, {hostText("ABC")}), "\r\n");
+    EXPECT_EQ(received(NoConversion, {}, {hostText("ABC")}), hostText("ABC"));
+}
+
+TEST_F(ReceiveTypes, TextLongerThanTheSharedBufferIsWrittenWhole) {
+    const std::string text(3000, 'A');
+    std::string digits;
+    for (int i = 0; i < 1000; ++i) digits += "5A";
+    EXPECT_EQ(
+        received(CommaSeparated, {character("A", 3000), hex("B", 1000)}, {hostText(text) + std::string(1000, '\x5A')}),
+        text + "," + digits + "\r\n");
+    // Short fields need more around them than a fixed share of their length.
+    for (const FileType type : {BasicSequential, CommaSeparated, TabDelimited, Dif}) {
+        SCOPED_TRACE(type);
+        Strings fields;
+        std::string values;
+        for (int i = 0; i < 400; ++i) {
+            fields.push_back(hex("H" + std::to_string(i), 1));
+            const std::string between = i == 0 ? "" : type == TabDelimited ? "\t" : ",";
+            values += type == Dif ? "1,0\r\n\"C1\"\r\n" : type == BasicSequential ? between + "\"C1\"" : between + "C1";
+        }
+        const std::string file = received(type, fields, {std::string(400, '\xC1')});
+        EXPECT_EQ(type == Dif ? lastTuple(file) : file, type == Dif ? values : values + "\r\n");
+    }
+    // Every byte a quote.
+    EXPECT_EQ(received(CommaSeparated, {character("A", 4096)}, {std::string(4096, '\x7F')}),
+              std::string(8194, '"') + "\r\n");
+    EXPECT_TRUE(user.messages.empty());
+}
+
+// --- Answers that are none ----------------------------------------------------------------------------------------
+
+TEST_F(ReceiveTypes, AnswersBeyondTheBufferEndTheTransferAndKeepWhatCameBefore) {
+    for (const std::uint32_t length : {4097u, 5000u, 0x10000u, 0x7FFFFFFFu, 0xFFFFFFFFu}) {
+        for (const FileType type : {CommaSeparated, BasicRandom, NoConversion}) {
+            SCOPED_TRACE(std::to_string(length) + ", type " + std::to_string(type));
+            user.messages.clear();
+            Answer tooLong = Answer::data(std::string(4096, '\xC1'));
+            tooLong.dataLength = length;
+            scripted::answerNext(provider::TF_GET_DATA, Answer::data(hostText("ALPHA")));
+            scripted::answerNext(provider::TF_GET_DATA, tooLong);
+            const std::string line = type == CommaSeparated ? "ALPHA\r\n"
+                                     : type == BasicRandom  ? "ALPHA"
+                                                            : hostText("ALPHA");
+            EXPECT_EQ(received(type, {character("A", 5)}, {}), line);
+            EXPECT_EQ(user.messages.size(), 1u) << "nothing is lost without a word";
+            expectIdle();
+        }
+    }
+}
+
+TEST_F(ReceiveTypes, NullDataAndShortDescriptionsDoNoHarm) {
+    const auto nullData = [](std::uint32_t length) {
+        Answer answer;
+        answer.place = scripted::Place::Null;
+        answer.dataLength = length;
+        return answer;
+    };
+    for (const std::uint32_t function : {provider::TF_SEND_REQUEST, provider::TF_GET_FIELD, provider::TF_GET_DATA}) {
+        for (const std::uint32_t length : {0u, 40u, 0xFFFFFFFFu}) {
+            for (const std::uint32_t code : {0u, 0x2001u, 0x3000u}) {
+                SCOPED_TRACE(std::to_string(function) + ", " + std::to_string(length) + ", " + std::to_string(code));
+                Answer answer = nullData(length);
+                answer.returnCode = code;
+                scripted::answerNext(function, answer);
+                received(CommaSeparated, {character("A", 5)}, {hostText("ALPHA")});
+                expectIdle();
+                EXPECT_EQ(received(CommaSeparated, {character("A", 5)}, {hostText("ALPHA")}), "ALPHA\r\n");
+            }
+        }
+    }
+}
+
+// --- Memory -------------------------------------------------------------------------------------------------------
+
+TEST_F(ReceiveTypes, EachFailingAllocationIsReportedOrHarmless) {
+    for (std::int32_t type = AsciiText; type <= Dif; ++type) {
+        SCOPED_TRACE("type " + std::to_string(type));
+        const std::string whole = received(static_cast<FileType>(type), {character("A", 5), hex("H", 1)},
+                                           {hostText("ALPHA") + "\x01", hostText("A\"B,C") + "\x02"});
+        set(setting::WriteDescriptionFile, 1);
+        set(setting::ReceiveDescriptionFile, "*.FDF");
+        const auto prepare = [this] {
+            std::filesystem::remove(pcFile());
+            user.messages.clear();
+        };
+        const auto transfer = [&] {
+            receive(1);
+            EXPECT_TRUE(pcFileBytes() == whole || !user.messages.empty());
+        };
+        failEachAllocation(prepare, transfer);
+    }
+}
+
+TEST_F(ReceiveTypes, EachFailingAllocationToTheScreen) {
+    client();
+    set(setting::ReceiveOutput, ToScreen);
+    hostFile.fields = {character("A", 5), hex("H", 1)};
+    hostFile.records = {hostText("ALPHA") + "\x01", hostText("BRAVO") + "\x02"};
+    for (const bool everyLater : {false, true})
+        failEachAllocation([this] { user.messages.clear(); },
+                           [this] {
+                               receive();
+                               EXPECT_TRUE(!user.messages.empty() || user.display.rows.size() == 2);
+                           },
+                           everyLater);
+}
+
+}  // namespace

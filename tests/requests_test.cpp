@@ -1,0 +1,276 @@
+#include "support/transfer_fixture.h"
+
+namespace {
+
+using Strings = std::vector<std::string>;
+
+class Requests : public TransferFixture {
+protected:
+    void SetUp() override {
+        TransferFixture::SetUp();
+        hostFile.fields = {hostfields::character("NAME", 5)};
+        hostFile.records = {hostText("ALPHA")};
+    }
+    // The statements that a transfer sends.
+    Strings sent() {
+        hostFile.statements.clear();
+        receive();
+        return hostFile.statements;
+    }
+    std::string query() {
+        const Strings statements = sent();
+        return statements.empty() ? "" : statements.back();
+    }
+    std::optional<std::string> designation(const std::string& name) {
+        set(setting::HostSystemName, name);
+        sent();
+        for (const auto& call : scripted::calls())
+            if (call.function == provider::TF_SEND_REQUEST) last_ = call.designation;
+        return last_;
+    }
+
+private:
+    std::optional<std::string> last_;
+};
+
+constexpr const char* AllZero = "OPTIONS IGNDECERR(N) TIMFMT(DDS) TIMSEP(' ') DATFMT(DDS) DATSEP(' ') ";
+
+struct Query {
+    const char* list;
+    emulator::Clauses clauses;
+    const char* count;
+    const char* text;   // with the IBM-style transfer function
+    const char* as400;  // with the AS/400 client; null: the same
+};
+
+emulator::Clauses clauses(const char* select, const char* where = "", const char* orderBy = "",
+                          const char* groupBy = "", const char* having = "", const char* join = "") {
+    emulator::Clauses made;
+    made.select = select;
+    made.where = where;
+    made.orderBy = orderBy;
+    made.groupBy = groupBy;
+    made.having = having;
+    made.join = join;
+    return made;
+}
+
+const Query Queries[] = {
+    {"QGPL/CUST", {}, "SELECT COUNT(*) FROM QGPL/CUST", "SELECT *  FROM QGPL/CUST ", nullptr},
+    {"QGPL/CUST", clauses("   "), "SELECT COUNT(*) FROM QGPL/CUST", "SELECT *  FROM QGPL/CUST ", nullptr},
+    {"QGPL/CUST", clauses("CUSTNO, NAME", "BAL > 100", "NAME"), "SELECT COUNT(*) FROM QGPL/CUST  where BAL > 100",
+     "SELECT CUSTNO, NAME FROM QGPL/CUST  where BAL > 100 order by NAME", nullptr},
+    {"QGPL/CUST", clauses(" A ", " B = 1 ", " C ", " D ", " E > 0 "), "SELECT COUNT(*) FROM QGPL/CUST  where B = 1",
+     "SELECT A FROM QGPL/CUST  where B = 1 group by D having E > 0 order by C", nullptr},
+    {"QGPL/CUST", clauses("", "", "C", "", "E > 0"), "SELECT COUNT(*) FROM QGPL/CUST",
+     "SELECT *  FROM QGPL/CUST  having E > 0 order by C", nullptr},
+    {"A B", clauses("", "", "", "", "", "t1.K = t2.K  "), "SELECT COUNT(*) FROM A B where t1.K = t2.K",
+     "SELECT *  FROM A B where t1.K = t2.K  ", "SELECT *  FROM A B where A.K = B.K  "},
+    {"A B", clauses("", "", "", "", "", "   "), "SELECT COUNT(*) FROM A B", "SELECT *  FROM A B ", nullptr},
+    {"QGPL/CUST QGPL/ORD", clauses("t1.CUSTNO,T2.AMT", "t2.AMT > 0", "T2.AMT", "", "", "t1.CUSTNO = t2.CUSTNO"),
+     "SELECT COUNT(*) FROM QGPL/CUST QGPL/ORD where t1.CUSTNO = t2.CUSTNO and (t2.AMT > 0)",
+     "SELECT t1.CUSTNO,T2.AMT FROM QGPL/CUST QGPL/ORD where t1.CUSTNO = t2.CUSTNO and (t2.AMT > 0) order by T2.AMT",
+     "SELECT CUST.CUSTNO,ORD.AMT FROM QGPL/CUST QGPL/ORD where CUST.CUSTNO = ORD.CUSTNO and (ORD.AMT > 0) order by "
+     "ORD.AMT"},
+    // Members, files without a library, small letters, and names that look like a qualifier themselves.
+    {"LIB/FILE(MBR),cust", clauses("t1.A,t2.B"), "SELECT COUNT(*) FROM LIB/FILE(MBR),cust",
+     "SELECT t1.A,t2.B FROM LIB/FILE(MBR),cust ", "SELECT FILE.A,CUST.B FROM LIB/FILE(MBR),cust "},
+    {"L/PART2 L/CUST1", clauses("", "t1.A = t2.A"), "SELECT COUNT(*) FROM L/PART2 L/CUST1  where t1.A = t2.A",
+     "SELECT *  FROM L/PART2 L/CUST1  where t1.A = t2.A", "SELECT *  FROM L/PART2 L/CUST1  where PART2.A = CUST1.A"},
+    {"A B C D E F G H I X/TEN", clauses("t10.Z,t1.Z"), "SELECT COUNT(*) FROM A B C D E F G H I X/TEN",
+     "SELECT t10.Z,t1.Z FROM A B C D E F G H I X/TEN ", "SELECT TEN.Z,A.Z FROM A B C D E F G H I X/TEN "},
+    {"L/CUST", clauses("", "A = 't1.x'"), "SELECT COUNT(*) FROM L/CUST  where A = 't1.x'",
+     "SELECT *  FROM L/CUST  where A = 't1.x'", "SELECT *  FROM L/CUST  where A = 'CUST.x'"},
+};
+
+TEST_F(Requests, QueriesOfTheUsersClauses) {
+    set(setting::RecordProgress, 1);
+    for (const bool as400 : {false, true}) {
+        for (const Query& row : Queries) {
+            SCOPED_TRACE(std::string(row.list) + ": " + row.text + (as400 ? " (AS/400)" : ""));
+            useTransport(as400 ? 30 : 2);
+            set(setting::HostFileName, row.list);
+            emulator::setClauses(session, row.clauses);
+            const Strings statements = sent();
+            ASSERT_EQ(statements.size(), 3u);
+            if (as400) {
+                const std::string end = " FOR FETCH ONLY";
+                const std::string& count = statements[0];
+                EXPECT_EQ(count.substr(count.size() - end.size()), end);
+                EXPECT_EQ(statements[2], row.as400 ? row.as400 : row.text);
+            } else {
+                EXPECT_EQ(statements[0], row.count);
+                EXPECT_EQ(statements[1], AllZero);
+                EXPECT_EQ(statements[2], row.text);
+            }
+        }
+    }
+    useTransport(30);
+    set(setting::HostFileName, "QGPL/CUST");
+    emulator::setClauses(session, clauses("", "BAL > 100", "NAME"));
+    EXPECT_EQ(sent()[0], "SELECT COUNT(*) FROM QGPL/CUST  where BAL > 100 FOR FETCH ONLY");
+}
+
+TEST_F(Requests, CountIsAskedForOnlyWhenItIsNeeded) {
+    set(setting::RecordProgress, 2);
+    EXPECT_EQ(sent().size(), 2u);
+    set(setting::ReceiveFileType, Dif);
+    EXPECT_EQ(sent().size(), 3u);
+    // Some providers want the fetch behind the count, and the AS/400 client the end of the request.
+    const struct {
+        std::int32_t transport;
+        std::ptrdiff_t fetches, ends;
+    } rows[] = {{2, 1, 0}, {8, 2, 0}, {5, 2, 0}, {30, 2, 1}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.transport);
+        useTransport(row.transport);
+        const auto before = scripted::calls().size();
+        receive();
+        std::ptrdiff_t fetches = 0, ends = 0;
+        bool counting = false;
+        for (auto i = before; i < scripted::calls().size(); ++i) {
+            const auto& call = scripted::calls()[i];
+            if (call.function == provider::TF_SEND_REQUEST) counting = call.request.rfind("SELECT COUNT", 0) == 0;
+            fetches += counting && call.function == provider::TF_GET_DATA;
+            ends += counting && call.function == provider::TF_END_REQUEST;
+        }
+        EXPECT_EQ(fetches, row.fetches);
+        EXPECT_EQ(ends, row.ends);
+    }
+}
+
+TEST_F(Requests, DesignationOfTheHostSystem) {
+    EXPECT_EQ(designation("as400a"), "SYSTEM(AS400A  )");
+    EXPECT_EQ(designation("ABCDEFGH"), "SYSTEM(ABCDEFGH)");
+    EXPECT_EQ(designation("ABCDEFGHIJ"), "SYSTEM(ABCDEFGH)");
+    EXPECT_EQ(designation("APPN.SYS1"), "SYSTEM(APPN.SYS)");
+    EXPECT_EQ(designation(""), std::nullopt);
+    useTransport(8);
+    EXPECT_EQ(designation("APPN.SYS1"), "SYSTEM(YS1     )");
+    EXPECT_EQ(designation("SYS1"), "SYSTEM(SYS1    )");
+    for (const char* nothing : {"APPN.", "APPN.S"}) EXPECT_EQ(designation(nothing), std::nullopt) << nothing;
+}
+
+TEST_F(Requests, DesignationAccompaniesRequestsAndFieldsButNoRecords) {
+    receive();
+    for (const auto& call : scripted::calls()) {
+        const bool designated = call.function == provider::TF_SEND_REQUEST || call.function == provider::TF_GET_FIELD;
+        EXPECT_EQ(call.designation.has_value(), designated) << scripted::functionName(call.function);
+    }
+}
+
+// --- The options ------------------------------------------------------------------------------------------------
+
+struct Options {
+    std::int32_t decimalErrors, timeFormat, timeSeparator, dateFormat, dateSeparator;
+    const char* sequence;
+    const char* text;
+};
+
+const Options OptionRows[] = {
+    {1, 4, 1, 8, 7, "*HEX", "IGNDECERR(Y) TIMFMT(ISO) TIMSEP(':') DATFMT(USA) DATSEP('/') SRTSEQ(*HEX) "},
+    {2, 1, 2, 1, 1, "*JOB", "IGNDECERR(Y) TIMFMT(DFT) TIMSEP(',') DATFMT(DFT) DATSEP(DFT) "},
+    {0, 2, 3, 2, 2, "QUSRSYS/SEQ1",
+     "IGNDECERR(N) TIMFMT(EUR) TIMSEP(DFT) DATFMT(DMY) DATSEP(',') SRTSEQ('QUSRSYS/SEQ1') "},
+    {-1, 3, 4, 3, 3, "*job", "IGNDECERR(Y) TIMFMT(HMS) TIMSEP(DFT) DATFMT(EUR) DATSEP('-') SRTSEQ(*job) "},
+    {0, 5, 5, 4, 4, "", "IGNDECERR(N) TIMFMT(JIS) TIMSEP(NUL) DATFMT(ISO) DATSEP(DFT) "},
+    {0, 6, 6, 5, 5, "", "IGNDECERR(N) TIMFMT(USA) TIMSEP('.') DATFMT(JIS) DATSEP(NUL) "},
+    {0, 7, 7, 6, 6, "", "IGNDECERR(N) TIMFMT(DFT) TIMSEP(DFT) DATFMT(JUL) DATSEP('.') "},
+    {0, -1, -1, 7, 8, "", "IGNDECERR(N) TIMFMT(DFT) TIMSEP(DFT) DATFMT(MDY) DATSEP(DFT) "},
+    {0, 0x7FFFFFFF, 99, 9, -1, "", "IGNDECERR(N) TIMFMT(DFT) TIMSEP(DFT) DATFMT(YMD) DATSEP(DFT) "},
+    {0, 0, 0, 10, 0, "*LANGIDSHR", "IGNDECERR(N) TIMFMT(DDS) TIMSEP(' ') DATFMT(DFT) DATSEP(' ') SRTSEQ(*LANGIDSHR) "},
+    {0, 0, 0, -1, 0, "", "IGNDECERR(N) TIMFMT(DDS) TIMSEP(' ') DATFMT(DFT) DATSEP(' ') "},
+};
+
+TEST_F(Requests, OptionsAsText) {
+    EXPECT_EQ(sent()[0], AllZero);
+    for (const Options& row : OptionRows) {
+        SCOPED_TRACE(row.text);
+        set(setting::IgnoreDecimalErrors, row.decimalErrors);
+        set(setting::TimeFormat, row.timeFormat);
+        set(setting::TimeSeparator, row.timeSeparator);
+        set(setting::DateFormat, row.dateFormat);
+        set(setting::DateSeparator, row.dateSeparator);
+        set(setting::SortSequence, row.sequence);
+        EXPECT_EQ(sent()[0], std::string("OPTIONS ") + row.text);
+    }
+    const std::string longest(300, 'S');
+    set(setting::SortSequence, longest + "CUT");
+    EXPECT_NE(sent()[0].find(" SRTSEQ('" + longest + "') "), std::string::npos);
+}
+
+TEST_F(Requests, OptionsAsABlockEndAtTheFirstZeroByteOrTheirEnd) {
+    useTransport(30);
+    std::string buffer;
+    hostFile.intercept = [&](const scripted::Call& call) -> std::optional<scripted::Answer> {
+        if (call.request.rfind("OPTIONS", 0) == 0) buffer.assign(static_cast<const char*>(call.buffer), 32);
+        return std::nullopt;
+    };
+    const struct {
+        std::int32_t values[6];  // decimal errors, time format, its separator, date format, its separator, decimals
+        const char* sequence;
+        const char* block;  // from offset 8
+        std::size_t length;
+    } rows[] = {
+        {{0, 1, 2, 3, 4, 5}, "*LANGIDSHR", "00 01 02 03 04 05 01", 8},
+        {{1, 2, 3, 4, 0, 6}, "*LANGIDUNQ", "01 02 03 04 00 06 02", 12},
+        {{1, 2, 3, 4, 5, 6}, "*HEX", "01 02 03 04 05 06 00", 14},
+        {{1, 2, 3, 4, 5, 6}, "*JOB", "01 02 03 04 05 06 00", 14},
+        {{1, 2, 3, 4, 5, 6}, "", "01 02 03 04 05 06 00", 14},
+        {{1, 2, 3, 4, 5, 6}, "*LANGIDSHR", "01 02 03 04 05 06 01", 15},
+        {{1, 2, 3, 4, 5, 6}, "*job", "01 02 03 04 05 06 03 2A 6A 6F 62 00", 19},
+        {{-1, 0x105, 3, 4, 5, 7}, "L/S", "FF 05 03 04 05 07 03 4C 2F 53 00", 18},
+        {{0x100, 2, 3, 4, 5, 6}, "L/S", "00 02 03 04 05 06 03 4C 2F 53 00", 8},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.block);
+        const std::uint32_t ids[] = {setting::IgnoreDecimalErrors, setting::TimeFormat,
+                                     setting::TimeSeparator,       setting::DateFormat,
+                                     setting::DateSeparator,       setting::DecimalSeparatorMode};
+        for (int i = 0; i < 6; ++i) set(ids[i], row.values[i]);
+        set(setting::SortSequence, row.sequence);
+        const Strings statements = sent();
+        ASSERT_FALSE(statements.empty());
+        EXPECT_EQ(hexOf(buffer.substr(0, 8)), hexOf("OPTIONS "));
+        EXPECT_EQ(hexOf(buffer.substr(8, (std::string(row.block).size() + 1) / 3)), row.block);
+        EXPECT_EQ(statements[0].size(), row.length);
+    }
+}
+
+// --- Room -------------------------------------------------------------------------------------------------------
+
+// What does not fit goes with its keyword; the shorter parts behind it are there.
+TEST_F(Requests, ClauseWithoutRoomLeavesNoKeyword) {
+    emulator::setClauses(session, clauses("", std::string(4090, 'w').c_str(), "NAME"));
+    EXPECT_EQ(query(), "SELECT *  FROM QGPL/CUST  order by NAME");
+    emulator::setClauses(session, clauses("", "A = 1", "NAME", std::string(5000, 'g').c_str()));
+    EXPECT_EQ(query(), "SELECT *  FROM QGPL/CUST  where A = 1 order by NAME");
+}
+
+TEST_F(Requests, StatementWithoutRoomIsRefusedWithAMessage) {
+    emulator::setClauses(session, clauses(std::string(4096, 's').c_str()));
+    const Strings statements = sent();
+    ASSERT_EQ(statements.size(), 1u) << "the options only";
+    EXPECT_EQ(user.messages.size(), 1u);
+    EXPECT_FALSE(pcFileExists());
+    // The clauses fit, but not "SELECT COUNT(*)" and " FOR FETCH ONLY" around them.
+    emulator::setClauses(session, clauses("", std::string(4050, 'w').c_str()));
+    set(setting::RecordProgress, 1);
+    useTransport(30);
+    user.messages.clear();
+    EXPECT_TRUE(sent().empty());
+    EXPECT_EQ(user.messages.size(), 1u);
+    emulator::setClauses(session, {});
+    user.messages.clear();
+    EXPECT_EQ(query(), "SELECT *  FROM QGPL/CUST ");
+}
+
+TEST_F(Requests, HostWithoutClausesCannotReceiveAndSaysSo) {
+    emulator::Clauses none;
+    none.absent = true;
+    emulator::setClauses(session, none);
+    EXPECT_TRUE(sent().empty());
+    EXPECT_EQ(user.messages.size(), 1u);
+}
+
+}  // namespace

@@ -1,0 +1,37 @@
+#include <windows.h>
+
+#include <cwchar>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "emulator/emulator.h"
+#include "emulator/path_services.h"
+#include "emulator/platform_side.h"
+
+// PC file names are the operating system's own; only their code page is not: the standard library takes UTF-8.
+
+namespace emulator {
+namespace {
+
+namespace files = std::filesystem;
+
+files::path widened(std::string_view pcName) {
+    const int length = static_cast<int>(pcName.size());
+    std::wstring wide(static_cast<std::size_t>(MultiByteToWideChar(CP_ACP, 0, pcName.data(), length, nullptr, 0)), 0);
+    MultiByteToWideChar(CP_ACP, 0, pcName.data(), length, wide.data(), static_cast<int>(wide.size()));
+    return wide;
+}
+
+}  // namespace
+
+std::string nativePath(std::string_view pcName) {
+    const files::path path = widened(currentDirectory()) / widened(pcName);
+    return path.empty() ? "." : path.string();
+}
+
+std::FILE* openNative(const std::string& nativePath, const char* mode) {
+    return _wfopen(files::path(nativePath).c_str(), files::path(mode).c_str());
+}
+
+}  // namespace emulator
