@@ -68,6 +68,11 @@ void TransferFixture::SetUp() {
 }
 
 void TransferFixture::TearDown() {
+    // Deleting the client still talks to the provider, when the locals these hold on to are gone.
+    hostFile.intercept = nullptr;
+    user.onMessage = nullptr;
+    user.onPump = nullptr;
+    user.onProgressCommand = nullptr;
     emulator::setFaults({});
     expectNothingLeft();
     scripted::reset();
