@@ -44,8 +44,8 @@ bool takeHexEnd(const HostField& field, bool quoted, std::string_view rest, std:
 }
 
 ConvertedField convertHex(const HostField& field, std::string_view text, char* destination) {
-    const std::int32_t type = field.transferSettings().sendFileType;
-    const bool quoted = (type == settings::BasicSequential || type == settings::Dif) && text.starts_with('"');
+    // The writer quotes these digits for two types only; spreadsheet programs quote them in comma-separated files too.
+    const bool quoted = !isFixed(field) && text.starts_with('"');
     const std::uint32_t bytes = field.fieldLength().bytes;
     const std::uint32_t count = 2 * bytes;
     std::string_view digits = text.substr(quoted ? 1 : 0);

@@ -52,6 +52,7 @@ void setUpPc(const CommandLine& line, const fs::path& folder) {
     }
     emulator::setProviderFolder(line.providerFolder.empty() ? (folder / "providers").string() : line.providerFolder);
     process::setEnvironment("Z7X_HOST_DATA", line.hostData.empty() ? (folder / "sample.db").string() : line.hostData);
+    process::setEnvironment("Z7X_PC_CODE_PAGE", std::to_string(line.pc.ansiCodePage));
 }
 
 host::SessionHandle openSession(const CommandLine& line, const PcText& pcText) {
@@ -64,6 +65,8 @@ host::SessionHandle openSession(const CommandLine& line, const PcText& pcText) {
         *clause = pcText.toPc(*clause);
     }
     emulator::setClauses(session, clauses);
+    process::setEnvironment("Z7X_HOST_CODE_PAGE",
+                            std::to_string(emulator::number(session, host::setting::HostCodePage)));
     return session;
 }
 
