@@ -4,11 +4,13 @@
 # for byte. EMULATOR runs Windows programs.
 set -eu
 native=$1 bin=$2 folder=$4
-export Z7X_SCRIPT=$3
+script=$3
 shift 4
 rm -rf "$folder"
 mkdir -p "$folder"
 cd "$folder"
+# A DIF file begins with the number of its records, which is asked for first.
+awk '/^GET_DATA/ && !asked { print "GET_DATA 0 0 hex:00000003"; asked = 1 } { print }' "$script" >counted.script
 providers=$(dirname "$native")/scripted
 [ -d "$providers" ] || { echo "$providers is missing: build the tests of the native build first"; exit 1; }
 
@@ -16,6 +18,9 @@ receive() {
     "$@" -q --set TransportType=2 --set RouterKind=1
 }
 for type in text basic csv random none tab dif; do
+    Z7X_SCRIPT=$script
+    [ $type != dif ] || Z7X_SCRIPT=$folder/counted.script
+    export Z7X_SCRIPT
     for system in native windows; do
         mkdir -p "$system"
         if [ $system = native ]; then

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "host/session.h"
+#include "platform/platform.h"
 #include "support/transfer_fixture.h"
 
 namespace {
@@ -347,7 +348,8 @@ TEST_F(ReceiveDriver, ClosingTheDisplayEndsTheTransfer) {
 TEST_F(ReceiveDriver, SpreadsheetOpensTheClosedFile) {
     set(setting::ReceiveOutput, ToSpreadsheet);
     set(setting::PcFileName, path("CUST.DIF"));
-    const std::string opened = path("cust.dif");
+    std::string opened = path("CUST.DIF");
+    platform::CharLowerA(opened.data());
     using Call = std::pair<std::string, std::string>;
     receive();
     EXPECT_EQ(user.shellCalls, std::vector<Call>({{opened, ""}}));
