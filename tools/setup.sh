@@ -27,8 +27,23 @@ install_packages() {
     # Package lists that are there may do when the update cannot reach its servers.
     "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq >&2 ||
         echo "apt-get update failed; trying with the lists there are" >&2
-    "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -qq -y --no-install-recommends "${missing[@]}" >&2
+    "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -qq -y --no-install-recommends \
+        "${APT_OPTIONS[@]}" "${missing[@]}" >&2
 }
 
+APT_OPTIONS=()
 BUILD_PACKAGES=(g++ cmake ninja-build libcli11-dev libsqlite3-dev libicu-dev tzdata)
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev)
+WINDOWS_PACKAGES=(g++-mingw-w64-i686 googletest wine wine32:i386 locales)
+
+# The Windows tool chain, and Wine for 32-bit programs. Fails, having said why, on a machine that has no way to get them.
+install_windows_packages() {
+    local root=()
+    [ "$(id -u)" -eq 0 ] || root=(sudo)
+    if ! dpkg --print-foreign-architectures | grep -qx i386; then
+        "${root[@]}" dpkg --add-architecture i386 || return 1
+    fi
+    # Both architectures from the release itself: packages that the two take from different archives do not fit together.
+    local APT_OPTIONS=(-t "$(. /etc/os-release && echo "$VERSION_CODENAME")")
+    install_packages "${WINDOWS_PACKAGES[@]}"
+}
