@@ -32,6 +32,8 @@ public:
     bool tfStart();
     void tfStop();
     bool isStarted() const { return started_; }
+    // A provider call is on the stack, or the provider is being bound.
+    bool isWaiting() const { return inProviderCall_ || starting_; }
 
     // One exchange: `length` bytes of the shared buffer go to the provider, its answer into `result`. Starts an idle
     // session first; NotStarted when that fails. `designation` may be null; `dialog` (0: none) is kept alive while the

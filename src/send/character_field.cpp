@@ -95,14 +95,16 @@ public:
     bool extract(std::string_view& rest, char* destination);
 
 private:
-    bool isDoubleByte(std::string_view rest) const;
+    bool beginsWithPair(std::string_view rest) const;
     void prefill(bool doubleByte);
     void padMixedText(std::uint32_t stored);
     bool collect(std::string_view& rest, CollectedText& collected);
     void takeDelimited(std::string_view& rest, CollectedText& collected) const;
     void takeFixed(std::string_view& rest);
     bool isSourceSend() const { return settings_.hostFileType == host::value::SourceFile; }
-    bool isLongTextKept() const { return converter_.tfSession->codePage().isCodePage43(); }
+    bool isLongTextKept() const {
+        return converter_.tfSession->codePage().isCodePage43() && settings_.sendFileType != settings::BasicSequential;
+    }
 
     RecordConverter& converter_;
     const settings::TransferSettings& settings_;
@@ -114,7 +116,8 @@ private:
 bool CharacterField::extract(std::string_view& rest, char* destination) {
     if (settings_.sendFileType == settings::Dif && !isSourceSend() && !takeDifPiece(rest, receive::dif::StringHead))
         return refuseDifValue(converter_);
-    const bool doubleByte = isDoubleByte(rest);
+    const bool pairFirst = beginsWithPair(rest);
+    const bool doubleByte = type_ == receive::DoubleByteOnly || (type_ == receive::DoubleByteOpen && pairFirst);
     prefill(doubleByte);
     std::size_t sourceLength = length_;
     if (isSourceSend()) {
@@ -124,7 +127,7 @@ bool CharacterField::extract(std::string_view& rest, char* destination) {
         takeFixed(rest);
     } else {
         // Double-byte text leaves room for the two shift bytes of the host.
-        const std::uint32_t shiftBytes = doubleByte ? std::min(length_, 2u) : 0;
+        const std::uint32_t shiftBytes = doubleByte && pairFirst ? std::min(length_, 2u) : 0;
         CollectedText collected(buffer_, isLongTextKept() ? converter_.fieldBuffer.size() : length_ - shiftBytes);
         if (!collect(rest, collected)) return refuseDifValue(converter_);
         if (doubleByte) padMixedText(static_cast<std::uint32_t>(collected.stored()));
@@ -133,10 +136,9 @@ bool CharacterField::extract(std::string_view& rest, char* destination) {
     return converter_.pcToHost(buffer_, destination, static_cast<std::uint32_t>(sourceLength), length_);
 }
 
-// A field that may hold both kinds of text is taken for double-byte text by the first byte of its data.
-bool CharacterField::isDoubleByte(std::string_view rest) const {
-    if (type_ == receive::DoubleByteOnly) return true;
-    if (type_ != receive::DoubleByteOpen || settings_.sendFileType == settings::AsciiText) return false;
+// Whether the first byte of the field's data is that of a double-byte character.
+bool CharacterField::beginsWithPair(std::string_view rest) const {
+    if (settings_.sendFileType == settings::AsciiText) return false;
     const bool quoted = settings_.sendFileType == settings::BasicSequential || settings_.sendFileType == settings::Dif;
     const std::size_t first = quoted ? 1 : 0;
     return first < rest.size() && text::isLeadByte(rest[first]);
@@ -166,7 +168,8 @@ bool CharacterField::collect(std::string_view& rest, CollectedText& collected) {
         case settings::Dif: {
             if (!rest.starts_with('"')) return false;
             skipCharacter(rest);
-            return takeQuoted(rest, ClosingQuote::BeforeLineEnd, collected) && (takeLineEnd(rest) || rest.empty());
+            takeQuoted(rest, ClosingQuote::BeforeLineEnd, collected);
+            return takeLineEnd(rest) || rest.empty();
         }
         default:
             takeDelimited(rest, collected);

@@ -4,22 +4,31 @@
 
 namespace send {
 
-bool DecimalText::read(std::string_view text, const NumberGrammar& grammar) {
-    bool ended = false;
-    for (const char character : text) {
-        if (character == ' ') {
-            ended = ended || (!grammar.blanksInside && (digitSeen_ || pointSeen_));
-        } else if (character == grammar.separator) {
-            if (pointSeen_ || ended) return false;
-            pointSeen_ = true;
-        } else if (character == '-') {
-            if (negative_ || digitSeen_ || pointSeen_) return false;
-            negative_ = true;
-        } else if (character != grammar.thousands || character == '\0') {
-            const auto digit = static_cast<std::uint8_t>(character - '0');
-            if (digit > grammar.largestDigit || ended || !put(digit)) return false;
-        }
+bool DecimalText::read(std::string_view text, const NumberGrammar& grammar, std::size_t pointAt) {
+    for (std::size_t at = 0; at < text.size(); ++at)
+        if (!(at == pointAt ? putPoint() : putCharacter(text[at], grammar))) return false;
+    return true;
+}
+
+bool DecimalText::putCharacter(char character, const NumberGrammar& grammar) {
+    if (character == ' ') {
+        ended_ = ended_ || (!grammar.blanksInside && (digitSeen_ || pointSeen_));
+        return true;
     }
+    if (character == grammar.separator) return putPoint();
+    if (character == '-') {
+        if (digitSeen_ || pointSeen_ || (negative_ && !grammar.signsInside)) return false;
+        negative_ = true;
+        return true;
+    }
+    if (character == grammar.thousands && character != '\0') return true;
+    const auto digit = static_cast<std::uint8_t>(character - '0');
+    return digit <= grammar.largestDigit && !ended_ && put(digit);
+}
+
+bool DecimalText::putPoint() {
+    if (pointSeen_ || ended_) return false;
+    pointSeen_ = true;
     return true;
 }
 

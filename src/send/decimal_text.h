@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -10,6 +11,7 @@ struct NumberGrammar {
     char separator;             // decimal point
     char thousands;             // skipped wherever it stands; 0 = none
     bool blanksInside;          // blanks between digits are skipped
+    bool signsInside;           // further "-" in front of the digits are places without a digit
     std::uint8_t largestDigit;  // 9, or 15 where the characters behind '9' stand for nibbles above 9
 };
 
@@ -17,8 +19,9 @@ struct NumberGrammar {
 // missing; nothing at all is a zero.
 class DecimalText {
 public:
-    // False when the text is no number.
-    bool read(std::string_view text, const NumberGrammar& grammar);
+    // False when the text is no number. The character at `pointAt` is the decimal point, whatever it is.
+    static constexpr std::size_t NoFixedPoint = static_cast<std::size_t>(-1);
+    bool read(std::string_view text, const NumberGrammar& grammar, std::size_t pointAt = NoFixedPoint);
 
     bool isNegative() const { return negative_; }
     bool hasPoint() const { return pointSeen_; }
@@ -38,6 +41,8 @@ private:
     // The longest host number, 255 packed bytes, has 509 digits.
     static constexpr std::int32_t Capacity = 512;
 
+    bool putCharacter(char character, const NumberGrammar& grammar);
+    bool putPoint();
     bool put(std::uint8_t digit);
 
     std::uint8_t digits_[Capacity];  // without leading zeros of the integer part
@@ -46,6 +51,7 @@ private:
     bool negative_ = false;
     bool digitSeen_ = false;
     bool pointSeen_ = false;
+    bool ended_ = false;  // a blank stood behind the number
 };
 
 }  // namespace send

@@ -12,16 +12,16 @@ namespace {
 
 using receive::HostField;
 
-// The text up to the delimiter or the end of the record. In BasicSequential files a comma delimits too, unless it is
-// the decimal separator.
-std::string_view delimitedText(const settings::TransferSettings& settings, std::string_view text) {
+// The text up to the delimiter or the end of the record. In BasicSequential files a comma delimits too, unless the text
+// is a number and the comma its decimal separator.
+std::string_view delimitedText(const settings::TransferSettings& settings, std::string_view text, bool isNumber) {
     char delimiters[2] = {settings.listSeparator, settings.listSeparator};
     if (settings.sendFileType == settings::TabDelimited) {
         delimiters[0] = delimiters[1] = '\t';
     } else if (settings.sendFileType == settings::Dif) {
         delimiters[0] = '\r';
         delimiters[1] = '\n';
-    } else if (settings.sendFileType == settings::BasicSequential && settings.decimalSeparator != ',') {
+    } else if (settings.sendFileType == settings::BasicSequential && !(isNumber && settings.decimalSeparator == ',')) {
         delimiters[1] = ',';
     }
     std::size_t end = 0;
@@ -38,7 +38,7 @@ bool isFixed(const HostField& field) { return field.transferSettings().sendFileT
 bool takeHexEnd(const HostField& field, bool quoted, std::string_view rest, std::size_t& consumed) {
     if (isFixed(field) || (quoted && rest.empty())) return true;
     if (quoted && rest[0] != '"') return false;
-    const std::string_view between = delimitedText(field.transferSettings(), rest);
+    const std::string_view between = delimitedText(field.transferSettings(), rest, false);
     consumed += between.size();
     return quoted || text::trimmed(between).empty();
 }
@@ -64,28 +64,30 @@ ConvertedField convertHex(const HostField& field, std::string_view text, char* d
 
 NumberGrammar grammarOf(const HostField& field) {
     const char separator = field.transferSettings().decimalSeparator;
-    if (field.type() != receive::Binary) return {separator, '\0', false, 15};
-    return {separator, separator == ',' ? '.' : ',', true, 9};
+    if (field.type() != receive::Binary) return {separator, '\0', false, true, 15};
+    return {separator, separator == ',' ? '.' : ',', true, false, 9};
 }
 
-bool isDigitPlace(char character) {
-    return character == ' ' || character == '-' || (character >= '0' && character <= '?');
+// Whether the character in the decimal place is a mark, whatever it looks like. A blank is one in front of digits only.
+bool isMark(std::string_view text, std::size_t at) {
+    if (text[at] == ' ') return !text::trimmed(text.substr(at)).empty() && !text::trimmed(text.substr(0, at)).empty();
+    return text[at] != '-' && (text[at] < '0' || text[at] > '?');
 }
 
-// A fixed text has its decimal point in a fixed place, where any mark will do. A number without one is taken as whole,
-// and then has to end in front of that place: behind it nobody can tell 10 from 0.10.
+// A fixed text has its decimal point in a fixed place, where any mark will do. A number without a mark there is taken
+// as it reads, and then has to end in front of that place, or behind a point of its own and in front of the text's last
+// position: otherwise nobody can tell 10 from 0.10, or what was cut off.
 bool readFixed(const HostField& field, std::string_view text, std::uint32_t width, DecimalText& number) {
-    NumberGrammar grammar = grammarOf(field);
     const std::int32_t decimals = field.fieldLength().decimals;
-    const std::int64_t pointAt = static_cast<std::int64_t>(width) - decimals - 1;
-    const bool pointInText = decimals > 0 && pointAt >= 0 && pointAt < static_cast<std::int64_t>(text.size());
-    if (pointInText && !isDigitPlace(text[static_cast<std::size_t>(pointAt)])) {
-        grammar.separator = text[static_cast<std::size_t>(pointAt)];
-        if (grammar.separator == grammar.thousands) grammar.thousands = '\0';
-    }
-    if (!number.read(text, grammar)) return false;
-    return !pointInText || number.hasPoint() || number.isZero() ||
-           text::trimmedEnd(text).size() <= static_cast<std::size_t>(pointAt);
+    const std::int64_t place = static_cast<std::int64_t>(width) - decimals - 1;
+    if (field.type() == receive::Binary || decimals <= 0 || place < 0 ||
+        place >= static_cast<std::int64_t>(text.size()))
+        return number.read(text, grammarOf(field));
+    const auto pointAt = static_cast<std::size_t>(place);
+    if (isMark(text, pointAt)) return number.read(text, grammarOf(field), pointAt);
+    if (!number.read(text, grammarOf(field))) return false;
+    const std::size_t length = text::trimmedEnd(text).size();
+    return number.isZero() || length < (number.hasPoint() ? width : pointAt + 1);
 }
 
 bool store(const HostField& field, const DecimalText& number, char* destination) {
@@ -114,7 +116,7 @@ ConvertedField convertFixedNumber(const HostField& field, std::string_view text,
 }
 
 ConvertedField convertDelimitedNumber(const HostField& field, std::string_view text, char* destination) {
-    text = delimitedText(field.transferSettings(), text);
+    text = delimitedText(field.transferSettings(), text, true);
     DecimalText number;
     if (!number.read(text, grammarOf(field)) || !store(field, number, destination)) return {};
     return {field.fieldLength().bytes, text.size()};

@@ -5,8 +5,8 @@
 namespace send {
 
 bool placeRecord(ZXFRPCSCLIENT& client, std::string_view record, char fill) {
-    char* buffer = request::requestBuffer(client);
-    if (!buffer) return false;
+    if (!request::sessionStands(client)) return false;
+    char* buffer = client.tfSession->dataBuffer();
     char* end = std::copy(record.begin(), record.end(), buffer);
     std::fill(end, buffer + provider::BufferSize, fill);
     return true;

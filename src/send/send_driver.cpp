@@ -143,11 +143,10 @@ bool SendRun::allocateReadBuffer() {
 }
 
 bool SendRun::sendRequest() {
-    if (!request::sessionStands(client_) || !goesOn()) return false;
+    if (!goesOn()) return false;
     command(ProgressCommand::TransferRequest);
-    char* buffer = request::requestBuffer(client_);
-    if (!buffer) return false;
-    request::StatementWriter statement(buffer);
+    if (!request::sessionStands(client_)) return false;
+    request::StatementWriter statement(client_.tfSession->dataBuffer());
     statement.append(client_.requestText->view());
     if (!statement.fits()) return request::refuseLongStatement(client_);
     request::sendStatement(client_, statement.text(), request::Direction::Send, client_.progressDialog);

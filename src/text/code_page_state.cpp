@@ -88,7 +88,7 @@ std::uint32_t CodePageState::hostToPcText(const char* source, char* destination,
     if (dbcsTablesLoaded_) return dbcsHostToPc(length, destination);
     if (isCodePage43_) {
         const auto convert = sessionServices_ ? sessionServices_->hostTextToPc() : nullptr;
-        if (!convert) return 0;
+        if (!convert) return ConversionFailed;
         const std::uint32_t converted =
             std::min(convert(textServicesHandle_, source, length, destination, capacity, 2), capacity);
         if (converted < length) std::fill(destination + converted, destination + length, PcBlank);
@@ -106,7 +106,8 @@ std::uint32_t CodePageState::pcToHostText(const char* source, char* destination,
     if (dbcsTablesLoaded_) return dbcsPcToHost(std::min(length, destinationLength), source, destination);
     if (isCodePage43_) {
         const auto convert = sessionServices_ ? sessionServices_->pcTextToHost() : nullptr;
-        if (convert) convert(textServicesHandle_, source, length, destination, destinationLength, 1, 2);
+        if (!convert) return ConversionFailed;
+        convert(textServicesHandle_, source, length, destination, destinationLength, 1, 2);
         return 0;
     }
     length = std::min(length, destinationLength);
