@@ -50,7 +50,7 @@ std::uint32_t nameFile(const ZXFRPCSCLIENT& client, std::string_view filter, Hos
     } else if (slash + 1 == filter.size()) {
         char library[LibraryName + 2];
         text::copyCut(filter.substr(0, slash), library, LibraryName + 1);
-        std::strcat(library, "/");
+        text::copyCut("/", library + std::strlen(library), 2);
         setName(client, entry, library, FileTexts[client.demoIndex]);
     } else if (client.demoIndex == 0 && text::findCharacter(filter, '(') != std::string_view::npos) {
         text::copyCut(filter, entry.name, sizeof(entry.name));

@@ -72,7 +72,7 @@ void* putData(const Answer& answer, const Exchange& exchange) {
     const Place place = placeOf(answer, exchange.function);
     auto* const shared = static_cast<char*>(exchange.buffer);
     if (place == Place::SharedBuffer) {
-        std::memcpy(shared, answer.bytes.data(), std::min<std::size_t>(answer.bytes.size(), exchange.bufferSize));
+        std::copy_n(answer.bytes.data(), std::min<std::size_t>(answer.bytes.size(), exchange.bufferSize), shared);
         return shared;
     }
     if (script().switches.scrambleBuffer && exchange.function == provider::TF_SEND_REQUEST)

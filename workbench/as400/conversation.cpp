@@ -148,6 +148,7 @@ Answer Conversation::putData(std::span<const std::uint8_t> record) {
 Answer Conversation::end() {
     struct Discard {
         Work& work;
+        // NOLINTNEXTLINE(bugprone-exception-escape): the destructors it runs end their work without throwing.
         ~Discard() { work.emplace<std::monostate>(); }
     } discard{work_};
     if (auto* upload = std::get_if<Upload>(&work_)) upload->finish();

@@ -35,7 +35,7 @@ private:
     void listTables(std::string_view filter);
     void listLibraries(std::string_view pattern);
     void listFiles(std::string_view library, std::string_view pattern);
-    void listMembers(std::string_view library, std::string_view file);
+    void listMembers(std::string_view library, std::string_view name);
     void listColumns(std::string_view filter);
     void addEntry(std::string_view name, std::string_view text, std::size_t leastNameLength);
     void addField(const Field& field, std::string_view qualifier, std::string_view type);
