@@ -75,7 +75,9 @@ const Number Numbers[] = {
     {binary("N", 4), "80000000", "-2147483648", "-2147483648"},
     {binary("N", 4), "7FFFFFFF", " 2147483647", "2147483647"},
     {hex("N", 3), "0AFF00", "0AFF00", "0AFF00"},
-    // A negative zero is a zero.
+    // A negative zero is a zero; a pad nibble is no digit of it.
+    {packed("N", 4), "10000D", "    0", "0"},
+    {packed("N", 4, 2), "10000D", "   .00", "0"},
     {zoned("N", 3), "F0F0D0", "   0", "0"},
     {zoned("N", 4, 2), "F0F0F0D0", "   .00", "0"},
     {packed("N", 3), "000D", "   0", "0"},

@@ -6,6 +6,7 @@
 #include "host/setting_values.h"
 #include "platform/platform.h"
 #include "provider/message_box.h"
+#include "provider/transports.h"
 
 namespace provider {
 namespace {
@@ -38,31 +39,6 @@ enum Message : std::uint32_t {
 
 constexpr std::uint32_t ReplacementTextTable = 22;
 constexpr std::uint32_t ReplacementText = 202;
-
-// What a transport type asks for when the router kind is 1. Transport 30 passes the router check, but no library of
-// this kind serves it.
-enum class Transport { Ibm, Emulator, Appc, Unserved, Unknown };
-
-Transport transportOf(std::int32_t transportType) {
-    switch (transportType) {
-        case 2:
-        case 4:
-            return Transport::Ibm;
-        case 8:
-        case 9:
-        case 14:
-        case 15:
-            return Transport::Emulator;
-        case 5:
-        case 7:
-        case 13:
-            return Transport::Appc;
-        case host::value::TransportAs400:
-            return Transport::Unserved;
-        default:
-            return Transport::Unknown;
-    }
-}
 
 }  // namespace
 

@@ -5,6 +5,7 @@
 #include "platform/platform.h"
 #include "provider/return_codes.h"
 #include "provider/transfer_function_session.h"
+#include "provider/transports.h"
 #include "text/double_byte.h"
 
 // The one place where the result of an exchange is judged and told.
@@ -29,21 +30,6 @@ constexpr char NotCompletedTemplate[] =
     "File transfer not completed.\nReceived approximately %1 records of %2.\n\n"
     "Refer to job log on host system %3.\nJob name %4, user profile %5, job number %6";
 constexpr std::uint32_t NotCompletedCapacity = 1500;
-
-bool isOwnProviderTransport(std::int32_t transportType) {
-    switch (transportType) {
-        case 5:
-        case 7:
-        case 8:
-        case 9:
-        case 13:
-        case 14:
-        case 15:
-            return true;
-        default:
-            return false;
-    }
-}
 
 // Transports whose own error texts are shown alone; a narrower list than the one above.
 bool showsOwnTextAlone(std::int32_t transportType) {

@@ -4,6 +4,7 @@
 
 #include "host/setting_ids.h"
 #include "host/setting_values.h"
+#include "provider/transports.h"
 #include "request/query_clauses.h"
 #include "request/statement_exchange.h"
 #include "request/statement_writer.h"
@@ -40,18 +41,7 @@ void fetchCountRecord(ZXFRPCSCLIENT& client) {
 
 // Providers that report the end of the count's single record have to be asked for it.
 bool reportsEndOfCount(const provider::TransferFunctionSession& tf) {
-    switch (tf.transportType()) {
-        case 5:
-        case 7:
-        case 8:
-        case 9:
-        case 13:
-        case 14:
-        case 15:
-            return true;
-        default:
-            return tf.tfIsAs400Mode();
-    }
+    return provider::isOwnProviderTransport(tf.transportType()) || tf.tfIsAs400Mode();
 }
 
 }  // namespace
