@@ -33,11 +33,20 @@ else
     export LC_MESSAGES=en_US.UTF-8 LC_CTYPE=en_GB.UTF-8
 fi
 
+# Wine's server ends soon after its last program, and a program that starts in just that moment loses it: it is asked to
+# stay for a while. Nothing happens when it runs already.
+wineserver -p60 >/dev/null 2>&1 || true
+
 # What the first program starts in the background keeps its output open and lives on for a while: by way of files, nobody
 # waits for the end of that.
 output=$(mktemp -d "$folder/output.XXXXXX")
 status=0
 wine "$@" >"$output/1" 2>"$output/2" || status=$?
+# Should it be lost all the same, the program has not run.
+if [ "$status" -ne 0 ] && grep -q '^wine client error' "$output/2"; then
+    status=0
+    wine "$@" >"$output/1" 2>"$output/2" || status=$?
+fi
 cat "$output/1"
 cat "$output/2" >&2
 rm -rf "$output"

@@ -28,8 +28,9 @@ std::size_t lines(const std::string& text) {
     return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
 }
 
+// What `text` has behind its last line end but one.
 std::string lastLine(std::string text) {
-    while (!text.empty() && (text.back() == '\n' || text.back() == '\r')) text.pop_back();
+    if (!text.empty()) text.pop_back();
     return text.substr(text.rfind('\n') + 1);
 }
 
@@ -56,8 +57,12 @@ protected:
         return {status >= 0 && (status & 0xFF) == 0 ? status >> 8 & 0xFF : -1, contents(folder_ / "stdout.txt"),
                 contents(folder_ / "stderr.txt")};
     }
-    void write(const std::string& name, const std::string& text) const {
-        std::ofstream(folder_ / name, std::ios::binary) << text;
+    // Ends with `status`, and says `text` on the error output.
+    Outcome expect(int status, const std::string& arguments, const std::string& text) const {
+        const Outcome outcome = run(arguments);
+        EXPECT_EQ(outcome.status, status) << arguments;
+        EXPECT_NE(outcome.errors.find(text), std::string::npos) << arguments << "\n" << outcome.errors;
+        return outcome;
     }
     std::string read(const std::string& name) const { return contents(folder_ / name); }
 
@@ -82,14 +87,8 @@ TEST_F(Cli, WrongUsageIsStatusTwoAndLeavesStandardOutputAlone) {
         {"receive A/B --journal no/such/folder/j.txt", "no/such/folder"},
         {"send a.csv", "HOSTFILE"},
         {"send a.csv A/B --create always", "always"},
-        {"browse A/B --files 0", "files"},
-    };
-    for (const auto& [arguments, word] : cases) {
-        const Outcome outcome = run(arguments);
-        EXPECT_EQ(outcome.status, 2) << arguments;
-        EXPECT_EQ(outcome.output, "") << arguments;
-        EXPECT_NE(outcome.errors.find(word), std::string::npos) << arguments << "\n" << outcome.errors;
-    }
+        {"browse A/B --files 0", "files"}};
+    for (const auto& [arguments, word] : cases) EXPECT_EQ(expect(2, arguments, word).output, "") << arguments;
 }
 
 TEST_F(Cli, HelpAndVersionSucceedOnStandardOutput) {
@@ -103,43 +102,38 @@ TEST_F(Cli, HelpAndVersionSucceedOnStandardOutput) {
 }
 
 TEST_F(Cli, DemonstrationIsATableOfTwentyThreeRows) {
-    const Outcome outcome = run("demo");
-    EXPECT_EQ(outcome.status, 0);
+    const Outcome outcome = expect(0, "demo", "complete: 23 records");
     EXPECT_EQ(lines(outcome.output), 2u + 23u) << outcome.output;
     EXPECT_EQ(outcome.output.find("LAST "), 0u);
-    EXPECT_NE(lastLine(outcome.errors).find("complete: 23 records"), std::string::npos) << outcome.errors;
     // Pages are turned without a user whatever their size.
     EXPECT_EQ(run("demo --set DisplayRowsPerPage=1").output, outcome.output);
     EXPECT_EQ(run("demo --quiet").errors, "");
-}
-
-TEST_F(Cli, SimulatedTransferClaimsNoFile) {
-    const Outcome outcome = run("receive A/B x.csv --set ConnectionType=3");
-    EXPECT_EQ(outcome.status, 0);
-    EXPECT_NE(outcome.errors.find("nothing was transferred"), std::string::npos) << outcome.errors;
+    expect(0, "receive A/B x.csv --set ConnectionType=3", "nothing was transferred");
     EXPECT_FALSE(fs::exists(folder_ / "x.csv"));
 }
 
 TEST_F(Cli, TallyCountsWhatIsInTheFile) {
-    const Outcome outcome = run("receive WORLD/COUNTRY countries.csv");
+    const Outcome outcome = run("receive WORLD/COUNTRY countries.csv --journal journal.txt");
     ASSERT_EQ(outcome.status, 0) << outcome.errors;
-    const std::string file = read("countries.csv");
+    const std::string file = read("countries.csv"), records = std::to_string(lines(file)) + " records";
     std::string bytes = std::to_string(file.size());
     if (bytes.size() > 3) bytes.insert(bytes.size() - 3, ",");
-    EXPECT_EQ(outcome.errors,
-              "z7xfer: complete: " + std::to_string(lines(file)) + " records, " + bytes + " bytes, countries.csv\n");
+    const std::string tally = "z7xfer: complete: " + records + ", " + bytes + " bytes, countries.csv\n";
+    EXPECT_EQ(outcome.errors, tally);
     EXPECT_EQ(outcome.output, "");
+    const std::string journal = read("journal.txt");
+    const std::size_t opened = journal.find("FileObject.openForWriting() = 1");
+    ASSERT_NE(opened, std::string::npos);
+    EXPECT_LT(journal.find("GetStringSetting("), opened);
+    EXPECT_GT(journal.rfind("FileObject.close()"), opened);
     // The same data, and nothing but data, on standard output.
     for (const char* arguments : {"receive WORLD/COUNTRY", "receive WORLD/COUNTRY - --quiet"}) {
         EXPECT_TRUE(run(arguments).output == file) << arguments;
     }
     // A DIF file has a trailer behind its records.
-    const Outcome dif = run("receive WORLD/COUNTRY countries.dif --type dif");
-    EXPECT_NE(dif.errors.find("complete: " + std::to_string(lines(file)) + " records"), std::string::npos)
-        << dif.errors;
+    expect(0, "receive WORLD/COUNTRY countries.dif --type dif", "complete: " + records);
     // An appended file is twice as long, its tally is not.
-    const Outcome appended = run("receive WORLD/COUNTRY countries.csv --set ExistingFileAction=2");
-    EXPECT_EQ(appended.errors, outcome.errors);
+    EXPECT_EQ(run("receive WORLD/COUNTRY countries.csv --set ExistingFileAction=2").errors, tally);
     EXPECT_EQ(read("countries.csv").size(), 2 * file.size());
 }
 
@@ -148,9 +142,7 @@ TEST_F(Cli, EmptySourceIsToldAsZeroRecords) {
     EXPECT_EQ(plain.status, 0);
     EXPECT_EQ(lastLine(plain.errors), "z7xfer: complete: 0 records, 0 bytes, empty.csv");
     // With a count the library ends before it opens the file.
-    const Outcome counted = run("receive QGPL/EMPTY counted.csv --count");
-    EXPECT_EQ(counted.status, 1);
-    EXPECT_NE(counted.errors.find("z7xfer: message "), std::string::npos);
+    const Outcome counted = expect(1, "receive QGPL/EMPTY counted.csv --count", "z7xfer: message ");
     EXPECT_EQ(lastLine(counted.errors), "z7xfer: failed: 0 records, counted.csv was not written");
     EXPECT_FALSE(fs::exists(folder_ / "counted.csv"));
 }
@@ -165,44 +157,32 @@ TEST_F(Cli, FailuresCarryTheirMessageAndStatusOne) {
         {"receive WORLD/COUNTRY no/folder/x.csv", "z7xfer: message 0: "},
         {"receive WORLD/COUNTRY x.csv --set TransportType=10", "no reason was given"},
         {"send nowhere.csv QGPL/CUST", "z7xfer: message 0: "},
-        {"receive WORLD/COUNTRY x.csv --set 40= --answer 0", "HostSystemName"},
-    };
+        {"receive WORLD/COUNTRY x.csv --set 40= --answer 0", "HostSystemName"}};
     for (const auto& [arguments, text] : cases) {
-        const Outcome outcome = run(arguments);
-        EXPECT_EQ(outcome.status, 1) << arguments;
-        EXPECT_NE(outcome.errors.find(text), std::string::npos) << arguments << "\n" << outcome.errors;
-        EXPECT_NE(lastLine(outcome.errors).find("before any record"), std::string::npos) << outcome.errors;
+        const std::string last = lastLine(expect(1, arguments, text).errors);
+        EXPECT_NE(last.find("before any record"), std::string::npos) << last;
     }
 }
 
 TEST_F(Cli, SettingsFileIsBehindTheCommandLine) {
-    write("wide.set", "# types\n\nReceiveFileType = 5\r\npcfilename=from-file.txt\n");
-    write("bad.set", "120=5\nReceiveFileType=wide\n");
+    std::ofstream(folder_ / "wide.set", std::ios::binary)
+        << "# types\n\nReceiveFileType = 5\r\npcfilename=from-file.txt\n";
+    std::ofstream(folder_ / "bad.set") << "120=5\nReceiveFileType=wide\n";
     ASSERT_EQ(run("receive WORLD/COUNTRY tab.txt --type tab").status, 0);
     ASSERT_EQ(run("receive WORLD/COUNTRY text.txt --type text").status, 0);
     const std::string tab = read("tab.txt"), text = read("text.txt");
     ASSERT_NE(tab, text);
-
-    EXPECT_EQ(run("receive WORLD/COUNTRY --settings wide.set").status, 0);
-    EXPECT_TRUE(read("from-file.txt") == tab) << "the file's settings are used";
-    EXPECT_EQ(run("receive WORLD/COUNTRY --settings wide.set --type text").status, 0);
-    EXPECT_TRUE(read("from-file.txt") == text) << "an option is stronger than the file";
-    EXPECT_EQ(run("receive WORLD/COUNTRY --settings wide.set --type csv --set 120=0 --set PcFileName=set.txt").status,
-              0);
-    EXPECT_TRUE(read("set.txt") == text) << "--set is stronger than an option";
-
-    const Outcome bad = run("receive WORLD/COUNTRY x.csv --settings bad.set");
-    EXPECT_EQ(bad.status, 1);
-    EXPECT_NE(bad.errors.find("bad.set:2: ReceiveFileType takes a number"), std::string::npos) << bad.errors;
-}
-
-TEST_F(Cli, JournalHoldsTheServiceCallsInOrder) {
-    ASSERT_EQ(run("receive WORLD/COUNTRY x.csv --journal journal.txt").status, 0);
-    const std::string journal = read("journal.txt");
-    const std::size_t opened = journal.find("FileObject.openForWriting() = 1");
-    ASSERT_NE(opened, std::string::npos);
-    EXPECT_LT(journal.find("GetStringSetting("), opened);
-    EXPECT_GT(journal.rfind("FileObject.close()"), opened);
+    const struct {
+        const char *options, *file;
+        const std::string& expected;
+    } cases[] = {{"", "from-file.txt", tab},
+                 {" --type text", "from-file.txt", text},
+                 {" --type csv --set 120=0 --set PcFileName=set.txt", "set.txt", text}};
+    for (const auto& row : cases) {
+        EXPECT_EQ(run(std::string("receive WORLD/COUNTRY --settings wide.set") + row.options).status, 0);
+        EXPECT_TRUE(read(row.file) == row.expected) << row.options;
+    }
+    expect(1, "receive WORLD/COUNTRY x.csv --settings bad.set", "bad.set:2: ReceiveFileType takes a number");
 }
 
 TEST_F(Cli, BrowseListsOneEntryALine) {
