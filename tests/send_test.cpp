@@ -138,6 +138,8 @@ TEST_F(Send, FixedNumbersTakeTheirWidth) {
         {zoned52, "- 12.50", "F0 F1 F2 F5 D0"},
         {zoned52, "123.45", "F1 F2 F3 F4 F5"},
         {zoned52, "123/45", "F1 F2 F3 F4 F5"},
+        {zoned52, "012 50", "F0 F1 F2 F5 F0"},
+        {hf::zoned("N", 3, 3), "0.125", "refused"},  // four positions: the last digit is cut off
         {zoned52, "-12.5", "F0 F1 F2 F5 D0"},
         {zoned52, "       ", "F0 F0 F0 F0 F0"},
         {zoned52, "     10", "refused"},
@@ -148,6 +150,7 @@ TEST_F(Send, FixedNumbersTakeTheirWidth) {
         {hf::packed("N", 4), "-1234", "01 23 4D"},
         {hf::binary("N", 2), "    -5", "FF FB"},
         {hf::binary("N", 2, 2), "  -1.25", "FF 83"},
+        {hf::binary("N", 2, 2), "   1A50", "refused"},
         {hf::binary("N", 4), "           ", "00 00 00 00"},
         {hf::hex("H", 2), "F140", "F1 40"},
         {hf::hex("H", 2), "F1", "refused"},
@@ -204,6 +207,23 @@ TEST_F(Send, FieldsOfEachType) {
     EXPECT_EQ(hexOf(sendFile("1,2.5,\"F7\",F8\r\n").at(0)), "F0 F1 F0 F2 F5 F7 F8");
     set(setting::DecimalSeparatorMode, 2);
     EXPECT_EQ(hexOf(sendFile("1;2,5;\"F7\";40\r\n").at(0)), "F0 F1 F0 F2 F5 F7 40");
+    hostFile.fields = {hf::hex("H", 1), hf::character("A", 3), number};
+    EXPECT_EQ(hexOf(sendFile("\"F7\",\"ABC\",12\r\n").at(0)), "F7 C1 C2 C3 F1 F2");
+}
+
+TEST_F(Send, ListingsFromThePumpAreTurnedAway) {
+    HostCatalogEntry entry{};
+    int asked = 0;
+    user.onPump = [&] {
+        ++asked;
+        EXPECT_EQ(library.pcsGetFirstHostFilename(session, "QGPL/", &entry), 3u);
+        EXPECT_EQ(library.pcsGetNextHostFilename(session, &entry), 3u);
+    };
+    std::string lines;  // more than one read, between which the dialog processes messages
+    for (int i = 0; i < 1000; ++i) lines += "AAA\r\n";
+    EXPECT_EQ(sendFile(lines).size(), 1000u);
+    EXPECT_GT(asked, 0);
+    for (const auto& statement : hostFile.statements) EXPECT_NE(statement.rfind("EXTRACT", 0), 0u) << statement;
 }
 
 TEST_F(Send, LinesEndAtAnyMarkAndNoneIsLost) {
