@@ -10,13 +10,6 @@ using Strings = std::vector<std::string>;
 
 class CodePage : public TransferFixture {
 protected:
-    std::string received(FileType type, const Strings& fields, const Strings& records) {
-        hostFile.fields = fields;
-        hostFile.records = records;
-        set(setting::ReceiveFileType, type);
-        receive();
-        return pcFileBytes();
-    }
     // The host record that a PC record becomes.
     std::string sent(const Strings& fields, const std::string& pcRecord) {
         hostFile.fields = fields;
@@ -32,48 +25,37 @@ protected:
 };
 
 TEST_F(CodePage, SingleByteInBothDirections) {
-    // Codes whose characters differ from page to page, and shift codes, which mean nothing in a single-byte page.
+    // Codes whose characters differ from page to page, and shift codes, which mean nothing in a single-byte page. The
+    // session stays the same, also behind a double-byte page.
     const struct {
         std::int32_t page;
-        const char *host, *pc;
-    } rows[] = {{37, "4A 5A C1 63", "\xA2!A\xC4"},
-                {273, "4A 5A C1 5F",
-                 "\xC4\xDC"
-                 "A^"},
-                {500, "4A 5A C1 63", "[]A\xC4"},
-                {1140, "9F 5A C1 63", "\x80!A\xC4"},
-                {37, "0E 0F C1 40",
-                 "\x0E\x0F"
-                 "A "}};
+        const char* host;
+        std::string pc;
+    } rows[] = {{37, "4A 5A C1 63", "\xA2!A\xC4"},   {273, "4A 5A 5F C1", "\xC4\xDC^A"},
+                {500, "4A 5A C1 63", "[]A\xC4"},     {939, "C1 E9 C2 C3", "AZBC"},
+                {1140, "9F 5A C1 63", "\x80!A\xC4"}, {37, "0E 0F E9 40", "\x0E\x0FZ "}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.page);
         set(setting::HostCodePage, row.page);
-        EXPECT_EQ(received(AsciiText, {character("T", 4)}, {bytesOf(row.host)}), row.pc + std::string("\r\n"));
+        EXPECT_EQ(received(AsciiText, {character("T", 4)}, {bytesOf(row.host)}), row.pc + "\r\n");
         EXPECT_EQ(hexOf(sent({character("T", 4)}, row.pc)), row.host);
     }
+    set(setting::HostCodePage, 939);
+    EXPECT_EQ(received(AsciiText, {character("T", 4)}, {bytesOf("C1 0E 0F C2")}), "AB  \r\n") << "shift codes again";
 }
 
 TEST_F(CodePage, OemComesBehindAnsiAndGoesBeforeIt) {
-    set(setting::ConvertToOem, 1);
     // A-umlaut: C4 in page 1252, 8E in page 850.
-    EXPECT_EQ(received(AsciiText, {character("T", 2)}, {bytesOf("63 C1")}),
-              "\x8E"
-              "A\r\n");
-    EXPECT_EQ(hexOf(sent({character("T", 2)},
-                         "\x8E"
-                         "A")),
-              "63 C1");
+    set(setting::ConvertToOem, 1);
+    EXPECT_EQ(received(AsciiText, {character("T", 2)}, {bytesOf("63 E9")}), "\x8EZ\r\n");
+    EXPECT_EQ(hexOf(sent({character("T", 2)}, "\x8EZ")), "63 E9");
     set(setting::ConvertToOem, 0);
-    EXPECT_EQ(received(AsciiText, {character("T", 2)}, {bytesOf("63 C1")}),
-              "\xC4"
-              "A\r\n");
+    EXPECT_EQ(received(AsciiText, {character("T", 2)}, {bytesOf("63 E9")}), "\xC4Z\r\n");
 }
 
 TEST_F(CodePage, ConverterThatFailsEndsTheTransferUnlessOemHidesIt) {
     client();
-    emulator::Faults faults;
-    faults.failConversion = true;
-    emulator::setFaults(faults);
+    setFault(&emulator::Faults::failConversion, true);
     EXPECT_EQ(received(CommaSeparated, {character("T", 1)}, {hostText("A")}), "");
     EXPECT_EQ(scripted::entries().back(), "TF_END_REQUEST");
     set(setting::ConvertToOem, 1);
@@ -86,16 +68,12 @@ TEST_F(CodePage, ConverterThatFailsEndsTheTransferUnlessOemHidesIt) {
 TEST_F(CodePage, TextServicesOfPage43) {
     set(setting::HostCodePage, 43);
     const Strings fields = {character("A", 4), character("B", 2)};
-    const Strings records = {bytesOf("63 C1 63 C1 C2 C3")};
-    EXPECT_EQ(received(CommaSeparated, fields, records),
-              "\xC3\x84"
-              "A\xC3\x84"
-              "A,BC\r\n");
-    EXPECT_EQ(received(AsciiText, fields, records),
-              "\xC3\x84"
-              "A\xC3\x84"
-              "ABC\r\n");
-    EXPECT_EQ(received(BasicSequential, fields, {bytesOf("63 40 40 40 C2 63")}), "\"\xC3\x84\",\"B\xC3\x84\"\r\n");
+    const std::string umlaut = "\xC3\x84";
+    const std::string record = bytesOf("63 C1 63 C1 C2 C3");
+    EXPECT_EQ(received(CommaSeparated, fields, {record}), umlaut + "A" + umlaut + "A,BC\r\n");
+    EXPECT_EQ(received(AsciiText, fields, {record}), umlaut + "A" + umlaut + "ABC\r\n");
+    EXPECT_EQ(received(BasicSequential, fields, {bytesOf("63 40 40 40 C2 63")}),
+              "\"" + umlaut + "\",\"B" + umlaut + "\"\r\n");
     EXPECT_TRUE(user.messages.empty());
 }
 
@@ -124,9 +102,7 @@ class DoubleByte : public CodePage, public testing::WithParamInterface<Pc> {
 protected:
     void SetUp() override {
         CodePage::SetUp();
-        emulator::PcSetup pc;
-        pc.ansiCodePage = pc.oemCodePage = GetParam().ansi;
-        pc.languageId = GetParam().language;
+        const emulator::PcSetup pc = {GetParam().ansi, GetParam().ansi, GetParam().language, '.', ','};
         if (!emulator::setUpPc(pc)) GTEST_SKIP() << "on another PC";
         set(setting::HostCodePage, GetParam().host);
         text_ = hostText(GetParam().utf8, static_cast<std::uint32_t>(GetParam().host));
@@ -187,25 +163,19 @@ TEST_P(DoubleByte, BlanksAtTheEndAreOfBothKinds) {
 }
 
 TEST_P(DoubleByte, SentAsShiftedText) {
-    const std::string blanks(4, '\x40');
-    EXPECT_EQ(hexOf(sent({character("T", 10)}, pc_ + "      ")), hexOf(text_ + blanks));
-    EXPECT_EQ(hexOf(sent({character("T", 10)}, "A" + pc_ + "B    ")),
-              hexOf(hostText("A") + text_ + hostText("B") + blanks.substr(0, 2)));
+    EXPECT_EQ(hexOf(sent({character("T", 10)}, pc_ + "      ")), hexOf(text_ + hostText("    ")));
+    EXPECT_EQ(hexOf(sent({character("T", 10)}, "A" + pc_ + "B    ")), hexOf(hostText("A") + text_ + hostText("B  ")));
 }
 
 TEST_P(DoubleByte, EachFailingAllocationIsReportedOrHarmless) {
     hostFile.fields = {character("T", 6)};
     hostFile.records = {text_};
-    const auto prepare = [this] {
-        deleteClient();
-        std::filesystem::remove(pcFile());
-        user.messages.clear();
-    };
-    failEachAllocation(prepare, [this] {
+    const auto transfer = [this] {
         if (!client()) return;
         receive();
         EXPECT_TRUE(pcFileBytes() == pc_ + "\r\n" || !user.messages.empty());
-    });
+    };
+    failEachAllocation(transfer, [this] { deleteClient(); });
 }
 
 INSTANTIATE_TEST_SUITE_P(Pages, DoubleByte, testing::ValuesIn(Pcs),

@@ -6,14 +6,15 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <tuple>
+
+#include "support/host_record.h"
 
 namespace codepages {
 namespace {
 
-const char* dataFile() {
-    const char* path = std::getenv("Z7X_CODE_PAGES");
-    return path ? path : "codepages.dat";
-}
+// The tests' program says where it is.
+const char* dataFile() { return std::getenv("Z7X_CODE_PAGES"); }
 
 class CodePages : public testing::Test {
 protected:
@@ -32,59 +33,52 @@ std::uint16_t lookUp(const std::vector<std::uint8_t>& table, unsigned pair) {
 }
 
 TEST_F(CodePages, KnownBytesOfHostsAndPcs) {
-    const struct {
-        std::uint32_t page;
-        const char *text, *bytes;
-    } cases[] = {
-        {37, "Az09 ?", "\xC1\xA9\xF0\xF9\x40\x6F"},
-        {37, "[]!|@$#\"\n", "\xBA\xBB\x5A\x4F\x7C\x5B\x7B\x7F\x25"},
-        {500, "[]!|@$", "\x4A\x5A\x4F\xBB\x7C\x5B"},
-        {273, "[]!|@$", "\x63\xFC\x4F\xBB\xB5\x5B"},
-        {273, "ÄÖÜäöüß§", "\x4A\xE0\x5A\xC0\x6A\xD0\xA1\x7C"},
-        {1047, "[]^", "\xAD\xBD\x5F"},
-        {285, "£", "\x5B"},
-        {1140, "€", "\x9F"},
-        {1141, "€", "\x9F"},
-        {930, "aｱ亜\u3000b", "\x62\x81\x0E\x48\x67\x40\x40\x0F\x63"},
-        {939, "aあい", "\x81\x0E\x44\x81\x44\x82\x0F"},
-        {850, "éÄ", "\x82\x8E"},
-        {437, "µ", "\xE6"},
-        {858, "€", "\xD5"},
-        {1252, "€éÿ\u0081\x1A\x7F", "\x80\xE9\xFF\x81\x1A\x7F"},
-        {437, "\x1A\x1C\x7F", "\x1A\x1C\x7F"},
-        {932, "aｱあ\u3000", "a\xB1\x82\xA0\x81\x40"},
-        {949, "가\u3000", "\xB0\xA1\xA1\xA1"},
-        {936, "啊\u3000€", "\xB0\xA1\xA1\xA1\x80"},
-        {950, "一\u3000", "\xA4\x40\xA1\x40"},
+    const std::tuple<std::uint32_t, const char*, const char*> cases[] = {
+        {37, "Az09 ?[]!|@$#\"\n", "C1 A9 F0 F9 40 6F BA BB 5A 4F 7C 5B 7B 7F 25"},
+        {500, "[]!|@$", "4A 5A 4F BB 7C 5B"},
+        {273, "[]!|@$ÄÖÜäöüß§", "63 FC 4F BB B5 5B 4A E0 5A C0 6A D0 A1 7C"},
+        {1047, "[]^", "AD BD 5F"},
+        {285, "£", "5B"},
+        {1140, "€", "9F"},
+        {1141, "€", "9F"},
+        {930, "aｱ亜\u3000b", "62 81 0E 48 67 40 40 0F 63"},
+        {939, "aあい", "81 0E 44 81 44 82 0F"},
+        {850, "éÄ", "82 8E"},
+        {437, "µ\x1A\x1C\x7F", "E6 1A 1C 7F"},
+        {858, "€", "D5"},
+        {1252, "€éÿ\u0081\x1A\x7F", "80 E9 FF 81 1A 7F"},
+        {932, "aｱあ\u3000", "61 B1 82 A0 81 40"},
+        {949, "가\u3000", "B0 A1 A1 A1"},
+        {936, "啊\u3000€", "B0 A1 A1 A1 80"},
+        {950, "一\u3000", "A4 40 A1 40"},
     };
     for (const auto& [number, text, bytes] : cases) {
         SCOPED_TRACE(std::to_string(number) + " " + text);
         ASSERT_NE(find(number), nullptr);
         bool lossy = true;
-        EXPECT_EQ(find(number)->encode(text, &lossy), bytes);
+        EXPECT_EQ(hexOf(find(number)->encode(text, &lossy)), bytes);
         EXPECT_FALSE(lossy);
-        EXPECT_EQ(find(number)->decode(bytes), text);
+        EXPECT_EQ(find(number)->decode(bytesOf(bytes)), text);
     }
 }
 
 TEST_F(CodePages, WhatAPageLacksIsReplaced) {
-    const struct {
-        std::uint32_t page;
-        std::string text, bytes;
-    } lossyCases[] = {
+    const std::tuple<std::uint32_t, const char*, const char*> cases[] = {
         {37, "a€b", "\x81\x6F\x82"},
         {1252, "aあ", "a?"},
         {37, "\xF0\x9F\x98\x80.", "\x6F\x4B"},  // beyond U+FFFF: one sign, one substitute
         {37, "\xE3\x81.\x80", "\x6F\x4B\x6F"},  // malformed
         {930, "\x0E", "\x6F"},                  // a shift is never text
     };
-    for (const auto& [number, text, bytes] : lossyCases) {
+    for (const auto& [number, text, bytes] : cases) {
         bool lossy = false;
         EXPECT_EQ(find(number)->encode(text, &lossy), bytes) << number << " " << text;
         EXPECT_TRUE(lossy);
     }
     EXPECT_EQ(find(939)->decode("\x0E\x44\x81\x44\x0F\x81\x0E\x44"), "あ\uFFFDa\uFFFD");
     EXPECT_EQ(find(932)->decode("\x82\xA0\x82"), "あ\uFFFD");
+    EXPECT_EQ(hostToPc(*find(37), *find(1251))[0x42], '?');   // a with circumflex
+    EXPECT_EQ(pcToHost(*find(1251), *find(37))[0xC0], 0x6F);  // Cyrillic A
 }
 
 TEST_F(CodePages, SingleBytesReturn) {
@@ -104,16 +98,12 @@ TEST_F(CodePages, SingleBytesReturn) {
         EXPECT_EQ(toPc[0x40], ' ');
         EXPECT_EQ(toPc[0x6F], '?');
     }
-    EXPECT_EQ(hostToPc(*find(37), *find(1251))[0x42], '?');   // a with circumflex
-    EXPECT_EQ(pcToHost(*find(1251), *find(37))[0xC0], 0x6F);  // Cyrillic A
 }
 
 TEST_F(CodePages, PairsReturn) {
-    // `unlike`: host pairs that come back as another one, because the PC has one character for both.
-    const struct {
-        std::uint32_t host, pc, blank;
-        int atLeast, unlike;
-    } cases[] = {
+    // Host page, PC page, the PC's blank, pairs at the least, and `unlike`: host pairs that come back as another one,
+    // because the PC has one character for both.
+    const std::tuple<std::uint32_t, std::uint32_t, std::uint32_t, int, int> cases[] = {
         {930, 932, 0x8140, 9000, 0}, {939, 932, 0x8140, 9000, 0},    {933, 949, 0xA1A1, 8000, 0},
         {935, 936, 0xA1A1, 9000, 1}, {937, 950, 0xA140, 19000, 220}, {1388, 936, 0xA1A1, 22000, 1},
     };
@@ -140,16 +130,16 @@ TEST_F(CodePages, PairsReturn) {
 
 TEST_F(CodePages, CodeTablesKeepTheirLayout) {
     const CodePage &host = *find(930), &pc = *find(932);
-    const auto single = codeTable(1, host, pc);
+    const auto single = codeTable(1, host, pc), toPc = codeTable(6, host, pc), toHost = codeTable(5, host, pc);
     ASSERT_EQ(single.size(), 2824u);
-    EXPECT_EQ(single[8 + 'A'], 0xC1);
-    EXPECT_EQ(single[776 + 0xC1], 'A');
-    EXPECT_EQ(single[8 + 0xB1], 0x81);  // half-width katakana
-    EXPECT_EQ(single[776 + 0x81], 0xB1);
-    EXPECT_EQ(lookUp(codeTable(6, host, pc), 0x4481), 0x82A0);
-    EXPECT_EQ(lookUp(codeTable(5, host, pc), 0x82A0), 0x4481);
-    EXPECT_EQ(lookUp(codeTable(6, host, pc), 0x4041), 0x2020);  // in a row, but no character
-    EXPECT_EQ(lookUp(codeTable(5, host, pc), 0x8740), 0);       // a circled digit, which 930 lacks
+    for (const auto& [pcByte, hostByte] : {std::pair{0x41, 0xC1}, {0xB1, 0x81}}) {  // and half-width katakana
+        EXPECT_EQ(single[std::size_t(8 + pcByte)], hostByte);
+        EXPECT_EQ(single[std::size_t(776 + hostByte)], pcByte);
+    }
+    EXPECT_EQ(lookUp(toPc, 0x4481), 0x82A0);
+    EXPECT_EQ(lookUp(toHost, 0x82A0), 0x4481);
+    EXPECT_EQ(lookUp(toPc, 0x4041), 0x2020);  // in a row, but no character
+    EXPECT_EQ(lookUp(toHost, 0x8740), 0);     // a circled digit, which 930 lacks
     // 1388 has more first bytes than rows: real characters come before user-defined ones, up to the last.
     EXPECT_NE(codeTable(6, *find(1388), *find(936))[25 + 0xCD], 255);
     EXPECT_TRUE(codeTable(2, host, pc).empty());
@@ -165,17 +155,13 @@ TEST_F(CodePages, PcTables) {
     EXPECT_EQ(western.oemToAnsi[0x82], 0xE9);
     EXPECT_EQ(western.oemToAnsi[0xB3], '?');  // a line of a frame
     EXPECT_EQ(western.oemToAnsi[0x1B], 0x1B);
-    for (const auto& [byte, lead] : {std::pair{0x80, false},
-                                     {0x81, true},
-                                     {0x9F, true},
-                                     {0xA0, false},
-                                     {0xDF, false},
-                                     {0xE0, true},
-                                     {0xFC, true},
-                                     {0xFD, false}}) {
-        EXPECT_EQ(japanese.leadBytes[std::size_t(byte)], lead) << byte;
-        EXPECT_FALSE(western.leadBytes[std::size_t(byte)]);
-        EXPECT_EQ(japanese.ansiToOem[std::size_t(byte)], byte);
+    for (std::size_t byte = 0; byte < 256; ++byte) {
+        const bool lead = (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC);
+        EXPECT_EQ(japanese.leadBytes[byte], lead) << byte;
+        EXPECT_FALSE(western.leadBytes[byte]) << byte;
+    }
+    for (const std::size_t byte : {0x80, 0x81, 0x9F, 0xA0, 0xDF, 0xE0, 0xFC, 0xFD}) {
+        EXPECT_EQ(japanese.ansiToOem[byte], byte);
     }
 }
 
@@ -191,26 +177,26 @@ TEST_F(CodePages, Page43ChangesTheLength) {
 TEST_F(CodePages, DamagedDataIsRefused) {
     std::ifstream whole(dataFile(), std::ios::binary);
     const std::string good{std::istreambuf_iterator<char>(whole), {}};
-    const auto refused = [](const std::string& bytes, const std::string& reason) {
-        static int count = 0;
-        const std::string path = "damaged" + std::to_string(++count) + ".dat";  // each its own: a path is read once
+    const auto withByte = [&good](std::size_t at, char value) { return std::string(good).replace(at, 1, 1, value); };
+    std::vector<std::pair<std::string, const char*>> cases = {
+        {good + "X", "longer"},
+        {withByte(0, 'X'), "not a code page data file"},
+        {withByte(8, 9), "version 9"},
+        {withByte(19, 1), "list of pages"},    // count
+        {withByte(20 + 11, 1), "at page 37"},  // offset of the first body
+        {withByte(20 + 13, 1), "at page 37"},  // its length
+    };
+    for (const std::size_t length : {0, 7, 8, 19, 20, 300}) cases.emplace_back(good.substr(0, length), "cut short");
+    for (const std::size_t length : {good.size() / 2, good.size() - 1})
+        cases.emplace_back(good.substr(0, length), "cut short");
+    std::string error, path = "damaged";
+    for (const auto& [bytes, reason] : cases) {
+        path += "_";  // each its own: a path is read once
         std::ofstream(path, std::ios::binary) << bytes;
-        std::string error;
         EXPECT_FALSE(load(path, &error)) << reason;
         EXPECT_NE(error.find(reason), std::string::npos) << error;
         std::filesystem::remove(path);
-    };
-    for (const std::size_t length : {std::size_t{0}, std::size_t{7}, std::size_t{8}, std::size_t{19}, std::size_t{20},
-                                     std::size_t{300}, good.size() / 2, good.size() - 1})
-        refused(good.substr(0, length), "cut short");
-    refused(good + "X", "longer");
-    const auto withByte = [&good](std::size_t at, char value) { return std::string(good).replace(at, 1, 1, value); };
-    refused(withByte(0, 'X'), "not a code page data file");
-    refused(withByte(8, 9), "version 9");
-    refused(withByte(19, 1), "list of pages");    // count
-    refused(withByte(20 + 11, 1), "at page 37");  // offset of the first body
-    refused(withByte(20 + 13, 1), "at page 37");  // its length
-    std::string error;
+    }
     EXPECT_FALSE(load("no/such/file", &error));
     EXPECT_NE(error.find("no/such/file"), std::string::npos);
     EXPECT_NE(find(37), nullptr);  // what was loaded stays

@@ -7,13 +7,8 @@ namespace {
 
 using scripted::Family;
 
-class ProviderBinding : public TransferFixture {
+class ProviderBinding : public TwoRecords {
 protected:
-    void SetUp() override {
-        TransferFixture::SetUp();
-        hostFile.fields = {hostfields::character("NAME", 5)};
-        hostFile.records = {hostText("ALPHA"), hostText("GAMMA")};
-    }
     // A new session of the same kind, so that rows of a table do not see one another.
     void startOver() {
         TearDown();
@@ -21,11 +16,6 @@ protected:
         user.messages.clear();
     }
     std::uint32_t sessionWindow() { return host::GetSessionWindow(host::GetSessionSettings(session)); }
-    std::string messageText(std::uint32_t table, std::uint32_t index) {
-        char text[300] = "";
-        host::LoadMessageText(session, table, index, text, sizeof text);
-        return text;
-    }
 };
 
 struct Refusal {
@@ -111,20 +101,13 @@ TEST_F(ProviderBinding, SaysWhatIsWrongWithALibraryAndHoldsNothing) {
     }
 }
 
-TEST_F(ProviderBinding, DisabledMessagesAreNotShown) {
+TEST_F(ProviderBinding, DisabledMessageIsNotShownAndTheLibraryMayComeLater) {
     emulator::disableMessage(4400);
-    useProviders("broken/nothing");
-    receive();
-    EXPECT_TRUE(user.messages.empty());
-}
-
-TEST_F(ProviderBinding, WorksAgainOnceTheLibraryIsThere) {
     useProviders("broken/router_only");
     receive();
+    EXPECT_TRUE(user.messages.empty());
     useProviders("scripted_families");
-    receive();
-    EXPECT_EQ(user.messageIds(), std::vector<std::uint32_t>{4400});
-    EXPECT_EQ(pcFileBytes(), "ALPHA\r\nGAMMA\r\n");
+    expectReceived();
 }
 
 struct Binding {
@@ -158,11 +141,9 @@ TEST_F(ProviderBinding, EachTransportReachesItsFamilyAndLeavesIt) {
         useTransport(row.transport, row.routerKind);
         client();
         emulator::clearJournal();
-        receive();
-
+        expectReceived();
         EXPECT_EQ(number(setting::RouterKind), row.routerKindAfter);
         EXPECT_EQ(journalCount(row.load), 1u);
-        EXPECT_EQ(pcFileBytes(), "ALPHA\r\nGAMMA\r\n");
         ASSERT_FALSE(scripted::calls().empty());
         EXPECT_EQ(scripted::calls().front().function, provider::TF_RESET);
         for (const auto& call : scripted::calls()) {
@@ -176,17 +157,14 @@ TEST_F(ProviderBinding, EachTransportReachesItsFamilyAndLeavesIt) {
             EXPECT_EQ(scripted::lastConstruction().session, session);
             EXPECT_EQ(scripted::lastConstruction().window, sessionWindow());
         }
-        const auto before = static_cast<std::ptrdiff_t>(scripted::entries().size());
-        deleteClient();
-        EXPECT_EQ(std::vector<std::string>(scripted::entries().begin() + before, scripted::entries().end()), row.atEnd);
+        EXPECT_EQ(entriesOf([this] { deleteClient(); }), row.atEnd);
         EXPECT_EQ(emulator::openObjects().modules, 0u);
     }
 }
 
 TEST_F(ProviderBinding, CleanUpEntryOfTheIbmLibraryMayBeMissing) {
     useProviders("broken/without_delete");
-    receive();
-    EXPECT_EQ(pcFileBytes(), "ALPHA\r\nGAMMA\r\n");
+    expectReceived();
     deleteClient();
     EXPECT_EQ(scripted::entries().back(), "TF_END_DATA");
     EXPECT_TRUE(user.messages.empty());

@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <numeric>
+#include <sstream>
 
 #include "host/session.h"
 #include "platform/platform.h"
@@ -12,6 +14,14 @@ using Ids = std::vector<std::uint32_t>;
 
 std::uint32_t ticks = 0;
 
+// The parts between the bars.
+std::vector<std::string> steps(const std::string& text) {
+    std::vector<std::string> parts;
+    std::istringstream in(text);
+    for (std::string part; std::getline(in, part, '|');) parts.push_back(part);
+    return parts;
+}
+
 class ReceiveDriver : public TransferFixture {
 protected:
     void SetUp() override {
@@ -20,22 +30,36 @@ protected:
         give(3);
         emulator::setTickCount([] { return ticks += 100; });
     }
+    // How many rows there are whenever the user is asked for the next page.
+    std::vector<std::size_t> stops(std::int32_t rowsPerPage) {
+        set(setting::DisplayRowsPerPage, rowsPerPage);
+        std::vector<std::size_t> stops;
+        user.onPump = [&] {
+            if (!user.display.ended) stops.push_back(user.display.rows.size());
+            user.readOn();
+        };
+        receive(1);
+        user.onPump = nullptr;
+        return stops;
+    }
+    // 1, 2, 3 ...
+    static std::vector<std::size_t> each(std::size_t rows) {
+        std::vector<std::size_t> numbers(rows);
+        std::iota(numbers.begin(), numbers.end(), 1u);
+        return numbers;
+    }
     void give(std::size_t records) { hostFile.records.assign(records, hostText("AB")); }
+    static void expectEnded(const std::vector<std::string>& entries) {
+        ASSERT_GE(entries.size(), 2u);
+        EXPECT_EQ(entries[entries.size() - 2], "TF_END_DATA");
+        EXPECT_EQ(entries.back(), "TF_END_REQUEST");
+    }
     static std::string lines(std::size_t count) {
         std::string text;
         for (std::size_t i = 0; i < count; ++i) text += "AB\r\n";
         return text;
     }
-    std::string text(std::uint32_t index) {
-        char buffer[80] = "";
-        host::LoadMessageText(session, 7, index, buffer, sizeof buffer);
-        return buffer;
-    }
-    std::vector<std::string> entriesOf(const std::function<void()>& transfer) {
-        const auto before = static_cast<std::ptrdiff_t>(scripted::entries().size());
-        transfer();
-        return {scripted::entries().begin() + before, scripted::entries().end()};
-    }
+    std::string text(std::uint32_t index) const { return messageText(7, index, 80); }
 };
 
 TEST_F(ReceiveDriver, StepsOfATransferToAFile) {
@@ -43,51 +67,18 @@ TEST_F(ReceiveDriver, StepsOfATransferToAFile) {
     set(setting::WriteDescriptionFile, 1);
     set(setting::ReceiveDescriptionFile, "*.FDF");
     receive(1);
-    expectInOrder({"SetSetting(*, 772 *, 0)",
-                   "SetSetting(*, 773 *, 0)",
-                   "SetStringSetting(*, 774 *\"*\"",
-                   "SetStringSetting(*, 775 *\"*\"",
-                   "SetStringSetting(*, 776 *\"*\"",
-                   "ProgressDialogCreate(*, 1, 1, 0)",
-                   "ProgressDialogSetPcName(",
-                   "ProgressDialogSetHostName(*, \"QGPL/CUST\"",
-                   "ProgressDialogCommand(*, 23)",
-                   "ProgressDialogCommand(*, 24)",
-                   "provider TF_SEND_REQUEST",
-                   "provider TF_GET_DATA",
-                   "SetSetting(*, 773 *, 3)",
-                   "SetSetting(*, 449 *, 1)",
-                   "ProgressDialogSetTotal(*, 3, 1)",
-                   "ProgressDialogCommand(*, 26)",
-                   "provider TF_SEND_REQUEST",
-                   "ProgressDialogCommand(*, 16)",
-                   "ProgressDialogCommand(*, 27)",
-                   "provider TF_SEND_REQUEST",
-                   "ProgressDialogCommand(*, 25)",
-                   "ProgressDialogCommand(*, 28)",
-                   "provider TF_GET_FIELD",
-                   "provider TF_GET_FIELD",
-                   "ProgressDialogCommand(*, 32)",
-                   "ProgressDialogCommand(*, 0)",
-                   "FileObject.openForWriting(",
-                   "FileObject.openedName(",
-                   "CreateFileObject(",
-                   "FileObject.write(\"PCFDF",
-                   "SetSetting(*, 772 *, 1)",
-                   "provider TF_GET_DATA",
-                   "FileObject.write(\"AB\\r\\n\", 4)",
-                   "SetSetting(*, 448 *, 1)",
-                   "ProgressDialogCommand(*, 16)",
-                   "SetSetting(*, 772 *, 2)",
-                   "provider TF_GET_DATA",
-                   "SetSetting(*, 772 *, 4)",
-                   "provider TF_GET_DATA",
-                   "SetSetting(*, 448 *, 3)",
-                   "ProgressDialogCommand(*, 4)",
-                   "ProgressDialogCommand(*, 1)",
-                   "FileObject.close(",
-                   "FileObject.destroy(",
-                   "ProgressDialogDestroy("});
+    expectInOrder(steps(
+        "set 772=0|set 773=0|SetStringSetting(*, 774 *\"*\"|SetStringSetting(*, 775 *\"*\"|SetStringSetting(*, 776 "
+        "*\"*\"|"
+        "ProgressDialogCreate(*, 1, 1, 0)|ProgressDialogSetPcName(|ProgressDialogSetHostName(*, \"QGPL/CUST\"|command "
+        "23|"
+        "command 24|provider TF_SEND_REQUEST|provider TF_GET_DATA|set 773=3|set 449=1|ProgressDialogSetTotal(*, 3, 1)|"
+        "command 26|provider TF_SEND_REQUEST|command 16|command 27|provider TF_SEND_REQUEST|command 25|"
+        "command 28|provider TF_GET_FIELD|provider TF_GET_FIELD|command 32|command 0|FileObject.openForWriting(|"
+        "FileObject.openedName(|CreateFileObject(|FileObject.write(\"PCFDF|set 772=1|"
+        "provider TF_GET_DATA|FileObject.write(\"AB\\r\\n\", 4)|set 448=1|command 16|set 772=2|"
+        "provider TF_GET_DATA|set 772=4|provider TF_GET_DATA|set 448=3|command 4|command 1|"
+        "FileObject.close(|FileObject.destroy(|ProgressDialogDestroy("));
     EXPECT_EQ(journalCount("provider TF_END"), 0u) << "a request at its end is not ended again";
     EXPECT_EQ(number(setting::JobRecordsReceived), 4);
     EXPECT_EQ(number(setting::ProgressCount), 3);
@@ -101,8 +92,7 @@ TEST_F(ReceiveDriver, TypeAndModeOfTheProgress) {
         set(setting::ReceiveFileType, type);
         emulator::clearJournal();
         receive(1);
-        expectInOrder(
-            {"ProgressDialogCommand(*, " + std::to_string(commands[type]) + ")", "ProgressDialogCommand(*, 0)"});
+        expectInOrder({"command " + std::to_string(commands[type]), "command 0"});
     }
     user.progressModes.clear();
     set(setting::ReceiveFileType, AsciiText);
@@ -168,7 +158,7 @@ TEST_F(ReceiveDriver, EmptyFileIsToldOnlyWhenItWasCounted) {
         ASSERT_EQ(user.messages.size(), 1u);
         EXPECT_EQ(user.messages[0].id, host::MessageId(7, 416));
         EXPECT_EQ(user.messages[0].helpId, 124u);
-        expectInOrder({"ProgressDialogHide(", "ShowMessage(", "ProgressDialogShow(", "ProgressDialogCommand(*, 1)"});
+        expectInOrder({"ProgressDialogHide(", "ShowMessage(", "ProgressDialogShow(", "command 1"});
         EXPECT_FALSE(pcFileExists());
     }
     hostFile.count = 0xFFFFFFFF;  // less than nothing
@@ -179,28 +169,18 @@ TEST_F(ReceiveDriver, EmptyFileIsToldOnlyWhenItWasCounted) {
 // The user cancels in the Nth call of a function; the records of before stay.
 TEST_F(ReceiveDriver, CancelAtEachCheck) {
     receive();
+    const std::string whole[] = {"TF_SEND_REQUEST", "TF_SEND_REQUEST", "TF_GET_FIELD",
+                                 "TF_GET_FIELD",    "TF_GET_DATA",     "TF_GET_DATA"};
     const struct {
         std::uint32_t function;
         int nth;
-        std::vector<std::string> entries;
+        std::size_t entries;  // of a whole transfer, then its end
         std::size_t records;  // 99: no file
-    } rows[] = {
-        {provider::TF_SEND_REQUEST, 1, {"TF_SEND_REQUEST", "TF_END_REQUEST"}, 99},
-        {provider::TF_SEND_REQUEST, 2, {"TF_SEND_REQUEST", "TF_SEND_REQUEST", "TF_END_REQUEST"}, 99},
-        {provider::TF_GET_FIELD,
-         1,
-         {"TF_SEND_REQUEST", "TF_SEND_REQUEST", "TF_GET_FIELD", "TF_GET_FIELD", "TF_END_REQUEST"},
-         99},
-        {provider::TF_GET_DATA,
-         1,
-         {"TF_SEND_REQUEST", "TF_SEND_REQUEST", "TF_GET_FIELD", "TF_GET_FIELD", "TF_GET_DATA", "TF_END_REQUEST"},
-         1},
-        {provider::TF_GET_DATA,
-         2,
-         {"TF_SEND_REQUEST", "TF_SEND_REQUEST", "TF_GET_FIELD", "TF_GET_FIELD", "TF_GET_DATA", "TF_GET_DATA",
-          "TF_END_REQUEST"},
-         2},
-    };
+    } rows[] = {{provider::TF_SEND_REQUEST, 1, 1, 99},
+                {provider::TF_SEND_REQUEST, 2, 2, 99},
+                {provider::TF_GET_FIELD, 1, 4, 99},
+                {provider::TF_GET_DATA, 1, 5, 1},
+                {provider::TF_GET_DATA, 2, 6, 2}};
     for (const auto& row : rows) {
         SCOPED_TRACE(std::string(scripted::functionName(row.function)) + " " + std::to_string(row.nth));
         std::filesystem::remove(pcFile());
@@ -211,7 +191,9 @@ TEST_F(ReceiveDriver, CancelAtEachCheck) {
         };
         const auto entries = entriesOf([this] { receive(); });
         hostFile.intercept = nullptr;
-        EXPECT_EQ(entries, row.entries);
+        std::vector<std::string> expected(whole, whole + row.entries);
+        expected.push_back("TF_END_REQUEST");
+        EXPECT_EQ(entries, expected);
         EXPECT_EQ(pcFileExists(), row.records != 99);
         EXPECT_EQ(pcFileBytes(), row.records == 99 ? "" : lines(row.records));
         EXPECT_TRUE(user.messages.empty());
@@ -230,16 +212,12 @@ TEST_F(ReceiveDriver, RequestIsEndedWhenItWasLeftOrTheClientWantsIt) {
 }
 
 TEST_F(ReceiveDriver, WriteThatFailsKeepsWhatWasWritten) {
-    emulator::Faults faults;
-    faults.failWriteAfterBytes = 9;
-    emulator::setFaults(faults);
+    setFault(&emulator::Faults::failWriteAfterBytes, 9);
     const auto entries = entriesOf([this] { receive(); });
     emulator::setFaults({});
     EXPECT_EQ(pcFileBytes(), lines(2));
     EXPECT_EQ(user.messages.size(), 1u) << "the file object tells it";
-    ASSERT_GE(entries.size(), 2u);
-    EXPECT_EQ(entries[entries.size() - 2], "TF_END_DATA");
-    EXPECT_EQ(entries.back(), "TF_END_REQUEST");
+    expectEnded(entries);
     receive();
     EXPECT_EQ(pcFileBytes(), lines(3));
 }
@@ -257,12 +235,10 @@ TEST_F(ReceiveDriver, RefusedWindowsAndFiles) {
                 {"no display", &Faults::refuseTextDisplay, ToScreen, 4436}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
-        Faults faults;
-        faults.*row.fault = true;
         set(setting::ReceiveOutput, row.output);
         user.messages.clear();
         client();
-        emulator::setFaults(faults);
+        setFault(row.fault, true);
         receive(1);
         emulator::setFaults({});
         EXPECT_EQ(user.messageIds(), Ids{row.message});
@@ -285,48 +261,37 @@ TEST_F(ReceiveDriver, ColumnsAreAsWideAsTextOrName) {
         hostfields::packed("P", 5),           hostfields::binary("B", 2),   hostfields::typed(9, "T", 4)};
     hostFile.records = {HostRecord().text("a", 3).zoned(-125, 5).hex("0AFF").packed(42, 5).binary(7, 2).text("x", 4)};
     receive();
-    const auto& columns = user.display.columns;
-    ASSERT_EQ(columns.size(), 6u);
-    const std::uint32_t widths[] = {20, 8, 4, 6, 6, 4}, alignments[] = {0, 2, 2, 2, 2, 0};
-    for (std::uint32_t i = 0; i < 6; ++i) {
-        EXPECT_EQ(columns.at(i).width, widths[i]) << i;
-        EXPECT_EQ(columns.at(i).alignment, alignments[i]) << i;
-    }
-    EXPECT_EQ(columns.at(0).title, "ABCDEFGHIJKLMNOPQRST");
+    const struct {
+        const char* cell;
+        std::uint32_t width, alignment;
+    } expected[] = {{"a  ", 20, 0},   {"  -1.25", 8, 2}, {"0AFF", 4, 2},
+                    {"    42", 6, 2}, {"     7", 6, 2},  {"x   ", 4, 0}};
+    ASSERT_EQ(user.display.columns.size(), 6u);
     ASSERT_EQ(user.display.rows.size(), 1u);
-    const std::map<std::uint32_t, std::string> row = {{0, "a  "},    {1, "  -1.25"}, {2, "0AFF"},
-                                                      {3, "    42"}, {4, "     7"},  {5, "x   "}};
-    EXPECT_EQ(user.display.rows[0], row);
+    ASSERT_EQ(user.display.rows[0].size(), 6u);
+    for (std::uint32_t i = 0; i < 6; ++i) {
+        EXPECT_EQ(user.display.columns.at(i).width, expected[i].width) << i;
+        EXPECT_EQ(user.display.columns.at(i).alignment, expected[i].alignment) << i;
+        EXPECT_EQ(user.display.rows[0].at(i), expected[i].cell);
+    }
+    EXPECT_EQ(user.display.columns.at(0).title, "ABCDEFGHIJKLMNOPQRST");
     EXPECT_EQ(user.display.title, text(418).substr(0, 39));
 }
 
 TEST_F(ReceiveDriver, DisplayStopsBehindEachFullPage) {
     set(setting::ReceiveOutput, ToScreen);
-    const struct {
-        std::int32_t rowsPerPage;
-        std::vector<std::size_t> stops;
-    } rows[] = {{20, {20, 40}}, {1, {}}, {0, {}}, {-5, {}}, {45, {45}}, {46, {0}}};
+    const std::pair<std::int32_t, std::vector<std::size_t>> rows[] = {{20, {20, 40}}, {1, each(45)}, {0, each(45)},
+                                                                      {-5, each(45)}, {45, {45}},    {46, {}}};
     give(45);
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.rowsPerPage);
-        set(setting::DisplayRowsPerPage, row.rowsPerPage);
-        std::vector<std::size_t> stops;
-        user.onPump = [&] {
-            if (!user.display.rows.empty() && !user.display.ended) {
-                stops.push_back(user.display.rows.size());
-                EXPECT_EQ(user.display.statuses.back(), text(432));
-            }
-            user.readOn();
-        };
-        receive();
-        if (row.stops == std::vector<std::size_t>{0}) {
-            EXPECT_TRUE(stops.empty());
-        } else if (row.stops.empty()) {
-            EXPECT_EQ(stops.size(), 45u);
-        } else {
-            EXPECT_EQ(stops, row.stops);
-        }
-        EXPECT_EQ(user.display.statuses.back(), text(418).substr(0, 39));
+    for (const auto& [rowsPerPage, expected] : rows) {
+        SCOPED_TRACE(rowsPerPage);
+        user.display.statuses.clear();
+        auto seen = stops(rowsPerPage);
+        std::erase(seen, 0u);  // the exchange processes messages before there are rows
+        EXPECT_EQ(seen, expected);
+        const auto& statuses = user.display.statuses;
+        EXPECT_EQ(static_cast<std::size_t>(std::count(statuses.begin(), statuses.end(), text(432))), expected.size());
+        EXPECT_EQ(statuses.back(), text(418).substr(0, 39));
         EXPECT_FALSE(user.display.open);
     }
 }
@@ -335,11 +300,9 @@ TEST_F(ReceiveDriver, ClosingTheDisplayEndsTheTransfer) {
     set(setting::ReceiveOutput, ToScreen);
     set(setting::DisplayRowsPerPage, 2);
     user.onPump = [] { emulator::closeDisplay(); };
-    receive();
+    const auto entries = entriesOf([this] { receive(); });
     EXPECT_EQ(user.display.rows.size(), 2u);
-    const auto& entries = scripted::entries();
-    EXPECT_EQ(entries[entries.size() - 2], "TF_END_DATA");
-    EXPECT_EQ(entries.back(), "TF_END_REQUEST");
+    expectEnded(entries);
     EXPECT_FALSE(pcFileExists());
 }
 
@@ -382,21 +345,11 @@ TEST_F(ReceiveDriver, DifAsksAboutAnExistingFileInItsOwnWay) {
 TEST_F(ReceiveDriver, DemonstrationTableStopsBehindEachPage) {
     set(setting::ConnectionType, 3);
     set(setting::ReceiveOutput, ToScreen);
-    const std::map<std::int32_t, std::vector<std::size_t>> stopsOf = {{10, {10, 20}}, {23, {23}}, {24, {}}, {12, {12}}};
-    for (const std::int32_t size : {10, 23, 24, 12, 1, 0}) {
-        SCOPED_TRACE(size);
-        set(setting::DisplayRowsPerPage, size);
-        std::vector<std::size_t> stops;
-        user.onPump = [&] {
-            if (!user.display.ended) stops.push_back(user.display.rows.size());
-            user.readOn();
-        };
-        receive(1);
-        if (size > 1) {
-            EXPECT_EQ(stops, stopsOf.at(size));
-        } else {
-            EXPECT_EQ(stops.size(), 23u);
-        }
+    const std::pair<std::int32_t, std::vector<std::size_t>> rows[] = {{10, {10, 20}}, {23, {23}},    {24, {}},
+                                                                      {12, {12}},     {1, each(23)}, {0, each(23)}};
+    for (const auto& [rowsPerPage, expected] : rows) {
+        SCOPED_TRACE(rowsPerPage);
+        EXPECT_EQ(stops(rowsPerPage), expected);
         ASSERT_EQ(user.display.rows.size(), 23u);
     }
     const char* titles[] = {"LAST", "FIRST", "STREET", "CITY", "STATE", "ZIPCODE"};
@@ -410,7 +363,9 @@ TEST_F(ReceiveDriver, DemonstrationTableStopsBehindEachPage) {
     user.onPump = [] { emulator::closeDisplay(); };
     receive();
     EXPECT_EQ(user.display.rows.size(), 5u);
-    EXPECT_TRUE(scripted::calls().empty());
+    library.xferCleanup(session);
+    EXPECT_TRUE(scripted::entries().empty());
+    EXPECT_EQ(emulator::openObjects().modules, 0u) << "nothing is bound";
 }
 
 TEST_F(ReceiveDriver, DemonstrationSimulatesFiveSteps) {
@@ -421,8 +376,8 @@ TEST_F(ReceiveDriver, DemonstrationSimulatesFiveSteps) {
     EXPECT_EQ(user.progressTotalAmount, 2340u);
     EXPECT_EQ(user.progressUnit, 1u);
     EXPECT_EQ(number(setting::TransferDirection), 1);
-    expectInOrder({"SetSetting(*, 448 *, 468)", "PumpMessages(", "SetSetting(*, 448 *, 936)", "PumpMessages(",
-                   "SetSetting(*, 448 *, 1404)", "SetSetting(*, 448 *, 1872)", "SetSetting(*, 448 *, 2340)"});
+    expectInOrder({"set 448=468", "PumpMessages(", "set 448=936", "PumpMessages(", "set 448=1404", "set 448=1872",
+                   "set 448=2340"});
 
     user.onPump = [this] {
         if (number(setting::ProgressCount) == 1404) library.pcsCancelTransfer(client());
@@ -443,8 +398,8 @@ TEST_F(ReceiveDriver, DemonstrationOfASendCountsTheBytesOfTheFile) {
     EXPECT_EQ(user.progressTotalAmount, 1001u);
     EXPECT_EQ(user.progressUnit, 2u);
     EXPECT_EQ(number(setting::TransferDirection), 0);
-    expectInOrder({"ProgressDialogCommand(*, 33)", "SetSetting(*, 448 *, 200)", "SetSetting(*, 448 *, 400)",
-                   "SetSetting(*, 448 *, 600)", "SetSetting(*, 448 *, 800)", "SetSetting(*, 448 *, 1000)"});
+    expectInOrder({"command 33", "set 448=200", "set 448=400", "set 448=600", "set 448=800", "set 448=1000"});
+    EXPECT_TRUE(hostFile.statements.empty());
 }
 
 }  // namespace

@@ -13,13 +13,6 @@ using Strings = std::vector<std::string>;
 
 class ReceiveTypes : public TransferFixture {
 protected:
-    std::string received(FileType type, const Strings& fields, const Strings& records) {
-        hostFile.fields = fields;
-        hostFile.records = records;
-        set(setting::ReceiveFileType, type);
-        receive();
-        return pcFileBytes();
-    }
     // Values of the last tuple.
     static std::string lastTuple(const std::string& dif) {
         const auto at = dif.rfind("BOT\r\n") + 5;
@@ -53,12 +46,9 @@ TEST_F(ReceiveTypes, DifFileIsWholeByteForByte) {
     const std::string quoted = received(Dif, {character("A\"B", 1)}, {hostText("X"), hostText("Y")});
     EXPECT_NE(quoted.find("1,0\r\n\"A\"\"B\"\r\n"), std::string::npos);
     EXPECT_NE(quoted.find("TUPLES\r\n0,3\r\n"), std::string::npos);
-}
-
-TEST_F(ReceiveTypes, NamesKeepTwentyNineCharacters) {
-    const std::string name = "ABCDEFGHIJKLMNOPQRSTUVWXYZ1234";
-    const std::string file = received(Dif, {character(name, 1)}, {hostText("X")});
-    EXPECT_NE(file.find("\"" + name.substr(0, 29) + "\""), std::string::npos);
+    // Names keep 29 characters.
+    const std::string cut = received(Dif, {character("ABCDEFGHIJKLMNOPQRSTUVWXYZ1234", 1)}, {hostText("X")});
+    EXPECT_NE(cut.find("\"ABCDEFGHIJKLMNOPQRSTUVWXYZ123\""), std::string::npos);
 }
 
 struct Text {
@@ -67,9 +57,7 @@ struct Text {
 };
 
 TEST_F(ReceiveTypes, CharacterFields) {
-    emulator::PcSetup pc;
-    pc.listSeparator = ';';
-    ASSERT_TRUE(emulator::setUpPc(pc));
+    useListSeparator(';');
     const Text rows[] = {
         {hostText("ABC   "), "ABC   ", "\"ABC\"", "ABC", "ABC", "ABC"},
         {hostText("  ABC "), "  ABC ", "\"  ABC\"", "  ABC", "  ABC", "  ABC"},
@@ -81,18 +69,7 @@ TEST_F(ReceiveTypes, CharacterFields) {
         {hostText("\"\"\"\"\"\""), "\"\"\"\"\"\"", "\"\"\"\"\"\"\"\"", "\"\"\"\"\"\"\"\"\"\"\"\"\"\"",
          "\"\"\"\"\"\"\"\"\"\"\"\"\"\"", "\"\"\"\"\"\"\"\"\"\"\"\""},
         {hostText("AB") + '\0' + hostText("CD "), "AB CD ", "\"AB\"", "AB", "AB", "AB"},
-        {hostText("Ä"
-                  "Bé   "),
-         "\xC4"
-         "B\xE9   ",
-         "\"\xC4"
-         "B\xE9\"",
-         "\xC4"
-         "B\xE9",
-         "\xC4"
-         "B\xE9",
-         "\xC4"
-         "B\xE9"},
+        {hostText("Äré   "), "\xC4r\xE9   ", "\"\xC4r\xE9\"", "\xC4r\xE9", "\xC4r\xE9", "\xC4r\xE9"},
     };
     for (const Text& row : rows) {
         SCOPED_TRACE(row.ascii);
@@ -188,12 +165,9 @@ TEST_F(ReceiveTypes, ListAndRecordOfDifferentLengths) {
         EXPECT_EQ(received(BasicRandom, fields, {row.record}), row.random);
         EXPECT_EQ(received(NoConversion, fields, {row.record}), row.record);
     }
-    EXPECT_TRUE(user.messages.empty());
-}
-
-TEST_F(ReceiveTypes, WithoutDescriptionsTheRecordsAreEmpty) {
     EXPECT_EQ(received(CommaSeparated, {}, {hostText("ABC")}), "\r\n");
     EXPECT_EQ(received(NoConversion, {}, {hostText("ABC")}), hostText("ABC"));
+    EXPECT_TRUE(user.messages.empty());
 }
 
 TEST_F(ReceiveTypes, TextLongerThanTheSharedBufferIsWrittenWhole) {
@@ -244,18 +218,13 @@ TEST_F(ReceiveTypes, AnswersBeyondTheBufferEndTheTransferAndKeepWhatCameBefore) 
 }
 
 TEST_F(ReceiveTypes, NullDataAndShortDescriptionsDoNoHarm) {
-    const auto nullData = [](std::uint32_t length) {
-        Answer answer;
-        answer.place = scripted::Place::Null;
-        answer.dataLength = length;
-        return answer;
-    };
     for (const std::uint32_t function : {provider::TF_SEND_REQUEST, provider::TF_GET_FIELD, provider::TF_GET_DATA}) {
         for (const std::uint32_t length : {0u, 40u, 0xFFFFFFFFu}) {
             for (const std::uint32_t code : {0u, 0x2001u, 0x3000u}) {
                 SCOPED_TRACE(std::to_string(function) + ", " + std::to_string(length) + ", " + std::to_string(code));
-                Answer answer = nullData(length);
-                answer.returnCode = code;
+                Answer answer = Answer::code(code);
+                answer.place = scripted::Place::Null;
+                answer.dataLength = length;
                 scripted::answerNext(function, answer);
                 received(CommaSeparated, {character("A", 5)}, {hostText("ALPHA")});
                 expectIdle();
@@ -268,21 +237,16 @@ TEST_F(ReceiveTypes, NullDataAndShortDescriptionsDoNoHarm) {
 // --- Memory -------------------------------------------------------------------------------------------------------
 
 TEST_F(ReceiveTypes, EachFailingAllocationIsReportedOrHarmless) {
+    set(setting::WriteDescriptionFile, 1);
+    set(setting::ReceiveDescriptionFile, "*.FDF");
     for (std::int32_t type = AsciiText; type <= Dif; ++type) {
         SCOPED_TRACE("type " + std::to_string(type));
         const std::string whole = received(static_cast<FileType>(type), {character("A", 5), hex("H", 1)},
                                            {hostText("ALPHA") + "\x01", hostText("A\"B,C") + "\x02"});
-        set(setting::WriteDescriptionFile, 1);
-        set(setting::ReceiveDescriptionFile, "*.FDF");
-        const auto prepare = [this] {
-            std::filesystem::remove(pcFile());
-            user.messages.clear();
-        };
-        const auto transfer = [&] {
+        failEachAllocation([&] {
             receive(1);
             EXPECT_TRUE(pcFileBytes() == whole || !user.messages.empty());
-        };
-        failEachAllocation(prepare, transfer);
+        });
     }
 }
 
@@ -291,13 +255,10 @@ TEST_F(ReceiveTypes, EachFailingAllocationToTheScreen) {
     set(setting::ReceiveOutput, ToScreen);
     hostFile.fields = {character("A", 5), hex("H", 1)};
     hostFile.records = {hostText("ALPHA") + "\x01", hostText("BRAVO") + "\x02"};
-    for (const bool everyLater : {false, true})
-        failEachAllocation([this] { user.messages.clear(); },
-                           [this] {
-                               receive();
-                               EXPECT_TRUE(!user.messages.empty() || user.display.rows.size() == 2);
-                           },
-                           everyLater);
+    failEachAllocation([this] {
+        receive();
+        EXPECT_TRUE(!user.messages.empty() || user.display.rows.size() == 2);
+    });
 }
 
 }  // namespace

@@ -4,83 +4,58 @@ namespace {
 
 using Strings = std::vector<std::string>;
 
-class Requests : public TransferFixture {
+class Requests : public TwoRecords {
 protected:
-    void SetUp() override {
-        TransferFixture::SetUp();
-        hostFile.fields = {hostfields::character("NAME", 5)};
-        hostFile.records = {hostText("ALPHA")};
-    }
     // The statements that a transfer sends.
-    Strings sent() {
+    const Strings& sent() {
         hostFile.statements.clear();
         receive();
         return hostFile.statements;
     }
     std::string query() {
-        const Strings statements = sent();
-        return statements.empty() ? "" : statements.back();
-    }
-    std::optional<std::string> designation(const std::string& name) {
-        set(setting::HostSystemName, name);
         sent();
-        for (const auto& call : scripted::calls())
-            if (call.function == provider::TF_SEND_REQUEST) last_ = call.designation;
-        return last_;
+        return hostFile.statements.empty() ? "" : hostFile.statements.back();
     }
-
-private:
-    std::optional<std::string> last_;
 };
 
 constexpr const char* AllZero = "OPTIONS IGNDECERR(N) TIMFMT(DDS) TIMSEP(' ') DATFMT(DDS) DATSEP(' ') ";
 
+emulator::Clauses clauses(const char* select, const char* where = "", const char* orderBy = "",
+                          const char* groupBy = "", const char* having = "", const char* join = "") {
+    return {select, where, orderBy, groupBy, having, join, false};
+}
+
+// What a statement has before and behind the list of files.
 struct Query {
     const char* list;
     emulator::Clauses clauses;
     const char* count;
-    const char* text;   // with the IBM-style transfer function
-    const char* as400;  // with the AS/400 client; null: the same
+    const char *fields, *text;                  // with the IBM-style transfer function
+    const char *as400Fields, *as400 = nullptr;  // with the AS/400 client; null: the same
 };
 
-emulator::Clauses clauses(const char* select, const char* where = "", const char* orderBy = "",
-                          const char* groupBy = "", const char* having = "", const char* join = "") {
-    emulator::Clauses made;
-    made.select = select;
-    made.where = where;
-    made.orderBy = orderBy;
-    made.groupBy = groupBy;
-    made.having = having;
-    made.join = join;
-    return made;
-}
-
 const Query Queries[] = {
-    {"QGPL/CUST", {}, "SELECT COUNT(*) FROM QGPL/CUST", "SELECT *  FROM QGPL/CUST ", nullptr},
-    {"QGPL/CUST", clauses("   "), "SELECT COUNT(*) FROM QGPL/CUST", "SELECT *  FROM QGPL/CUST ", nullptr},
-    {"QGPL/CUST", clauses("CUSTNO, NAME", "BAL > 100", "NAME"), "SELECT COUNT(*) FROM QGPL/CUST  where BAL > 100",
-     "SELECT CUSTNO, NAME FROM QGPL/CUST  where BAL > 100 order by NAME", nullptr},
-    {"QGPL/CUST", clauses(" A ", " B = 1 ", " C ", " D ", " E > 0 "), "SELECT COUNT(*) FROM QGPL/CUST  where B = 1",
-     "SELECT A FROM QGPL/CUST  where B = 1 group by D having E > 0 order by C", nullptr},
-    {"QGPL/CUST", clauses("", "", "C", "", "E > 0"), "SELECT COUNT(*) FROM QGPL/CUST",
-     "SELECT *  FROM QGPL/CUST  having E > 0 order by C", nullptr},
-    {"A B", clauses("", "", "", "", "", "t1.K = t2.K  "), "SELECT COUNT(*) FROM A B where t1.K = t2.K",
-     "SELECT *  FROM A B where t1.K = t2.K  ", "SELECT *  FROM A B where A.K = B.K  "},
-    {"A B", clauses("", "", "", "", "", "   "), "SELECT COUNT(*) FROM A B", "SELECT *  FROM A B ", nullptr},
+    {"QGPL/CUST", {}, "", "* ", " ", "* "},
+    {"QGPL/CUST", clauses("   "), "", "* ", " ", "* "},
+    {"QGPL/CUST", clauses("CUSTNO, NAME", "BAL > 100", "NAME"), "  where BAL > 100", "CUSTNO, NAME",
+     "  where BAL > 100 order by NAME", "CUSTNO, NAME"},
+    {"QGPL/CUST", clauses(" A ", " B = 1 ", " C ", " D ", " E > 0 "), "  where B = 1", "A",
+     "  where B = 1 group by D having E > 0 order by C", "A"},
+    {"QGPL/CUST", clauses("", "", "C", "", "E > 0"), "", "* ", "  having E > 0 order by C", "* "},
+    {"A B", clauses("", "", "", "", "", "t1.K = t2.K  "), " where t1.K = t2.K", "* ", " where t1.K = t2.K  ", "* ",
+     " where A.K = B.K  "},
+    {"A B", clauses("", "", "", "", "", "   "), "", "* ", " ", "* "},
     {"QGPL/CUST QGPL/ORD", clauses("t1.CUSTNO,T2.AMT", "t2.AMT > 0", "T2.AMT", "", "", "t1.CUSTNO = t2.CUSTNO"),
-     "SELECT COUNT(*) FROM QGPL/CUST QGPL/ORD where t1.CUSTNO = t2.CUSTNO and (t2.AMT > 0)",
-     "SELECT t1.CUSTNO,T2.AMT FROM QGPL/CUST QGPL/ORD where t1.CUSTNO = t2.CUSTNO and (t2.AMT > 0) order by T2.AMT",
-     "SELECT CUST.CUSTNO,ORD.AMT FROM QGPL/CUST QGPL/ORD where CUST.CUSTNO = ORD.CUSTNO and (ORD.AMT > 0) order by "
-     "ORD.AMT"},
+     " where t1.CUSTNO = t2.CUSTNO and (t2.AMT > 0)", "t1.CUSTNO,T2.AMT",
+     " where t1.CUSTNO = t2.CUSTNO and (t2.AMT > 0) order by T2.AMT", "CUST.CUSTNO,ORD.AMT",
+     " where CUST.CUSTNO = ORD.CUSTNO and (ORD.AMT > 0) order by ORD.AMT"},
     // Members, files without a library, small letters, and names that look like a qualifier themselves.
-    {"LIB/FILE(MBR),cust", clauses("t1.A,t2.B"), "SELECT COUNT(*) FROM LIB/FILE(MBR),cust",
-     "SELECT t1.A,t2.B FROM LIB/FILE(MBR),cust ", "SELECT FILE.A,CUST.B FROM LIB/FILE(MBR),cust "},
-    {"L/PART2 L/CUST1", clauses("", "t1.A = t2.A"), "SELECT COUNT(*) FROM L/PART2 L/CUST1  where t1.A = t2.A",
-     "SELECT *  FROM L/PART2 L/CUST1  where t1.A = t2.A", "SELECT *  FROM L/PART2 L/CUST1  where PART2.A = CUST1.A"},
-    {"A B C D E F G H I X/TEN", clauses("t10.Z,t1.Z"), "SELECT COUNT(*) FROM A B C D E F G H I X/TEN",
-     "SELECT t10.Z,t1.Z FROM A B C D E F G H I X/TEN ", "SELECT TEN.Z,A.Z FROM A B C D E F G H I X/TEN "},
-    {"L/CUST", clauses("", "A = 't1.x'"), "SELECT COUNT(*) FROM L/CUST  where A = 't1.x'",
-     "SELECT *  FROM L/CUST  where A = 't1.x'", "SELECT *  FROM L/CUST  where A = 'CUST.x'"},
+    {"LIB/FILE(MBR),cust", clauses("t1.A,t2.B"), "", "t1.A,t2.B", " ", "FILE.A,CUST.B"},
+    {"L/PART2 L/CUST1", clauses("", "t1.A = t2.A"), "  where t1.A = t2.A", "* ", "  where t1.A = t2.A", "* ",
+     "  where PART2.A = CUST1.A"},
+    {"A B C D E F G H I X/TEN", clauses("t10.Z,t1.Z"), "", "t10.Z,t1.Z", " ", "TEN.Z,A.Z"},
+    {"L/CUST", clauses("", "A = 't1.x'"), "  where A = 't1.x'", "* ", "  where A = 't1.x'", "* ",
+     "  where A = 'CUST.x'"},
 };
 
 TEST_F(Requests, QueriesOfTheUsersClauses) {
@@ -91,17 +66,17 @@ TEST_F(Requests, QueriesOfTheUsersClauses) {
             useTransport(as400 ? 30 : 2);
             set(setting::HostFileName, row.list);
             emulator::setClauses(session, row.clauses);
-            const Strings statements = sent();
+            const Strings& statements = sent();
             ASSERT_EQ(statements.size(), 3u);
+            const std::string from = std::string(" FROM ") + row.list;
             if (as400) {
                 const std::string end = " FOR FETCH ONLY";
                 const std::string& count = statements[0];
                 EXPECT_EQ(count.substr(count.size() - end.size()), end);
-                EXPECT_EQ(statements[2], row.as400 ? row.as400 : row.text);
+                EXPECT_EQ(statements[2], "SELECT " + (row.as400Fields + from) + (row.as400 ? row.as400 : row.text));
             } else {
-                EXPECT_EQ(statements[0], row.count);
-                EXPECT_EQ(statements[1], AllZero);
-                EXPECT_EQ(statements[2], row.text);
+                EXPECT_EQ(statements, (Strings{"SELECT COUNT(*)" + from + row.count, AllZero,
+                                               "SELECT " + (row.fields + from) + row.text}));
             }
         }
     }
@@ -140,22 +115,33 @@ TEST_F(Requests, CountIsAskedForOnlyWhenItIsNeeded) {
 }
 
 TEST_F(Requests, DesignationOfTheHostSystem) {
-    EXPECT_EQ(designation("as400a"), "SYSTEM(AS400A  )");
-    EXPECT_EQ(designation("ABCDEFGH"), "SYSTEM(ABCDEFGH)");
-    EXPECT_EQ(designation("ABCDEFGHIJ"), "SYSTEM(ABCDEFGH)");
-    EXPECT_EQ(designation("APPN.SYS1"), "SYSTEM(APPN.SYS)");
-    EXPECT_EQ(designation(""), std::nullopt);
-    useTransport(8);
-    EXPECT_EQ(designation("APPN.SYS1"), "SYSTEM(YS1     )");
-    EXPECT_EQ(designation("SYS1"), "SYSTEM(SYS1    )");
-    for (const char* nothing : {"APPN.", "APPN.S"}) EXPECT_EQ(designation(nothing), std::nullopt) << nothing;
-}
-
-TEST_F(Requests, DesignationAccompaniesRequestsAndFieldsButNoRecords) {
-    receive();
-    for (const auto& call : scripted::calls()) {
-        const bool designated = call.function == provider::TF_SEND_REQUEST || call.function == provider::TF_GET_FIELD;
-        EXPECT_EQ(call.designation.has_value(), designated) << scripted::functionName(call.function);
+    const struct {
+        std::int32_t transport;
+        const char* name;
+        std::optional<std::string> designation;
+    } rows[] = {{2, "as400a", "SYSTEM(AS400A  )"},
+                {2, "ABCDEFGH", "SYSTEM(ABCDEFGH)"},
+                {2, "ABCDEFGHIJ", "SYSTEM(ABCDEFGH)"},
+                {2, "APPN.SYS1", "SYSTEM(APPN.SYS)"},
+                {2, "", {}},
+                {8, "APPN.SYS1", "SYSTEM(YS1     )"},
+                {8, "SYS1", "SYSTEM(SYS1    )"},
+                {8, "APPN.", {}},
+                {8, "APPN.S", {}}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        useTransport(row.transport);
+        set(setting::HostSystemName, row.name);
+        const auto before = scripted::calls().size();
+        receive();
+        ASSERT_GT(scripted::calls().size(), before);
+        for (auto i = before; i < scripted::calls().size(); ++i) {
+            const auto& call = scripted::calls()[i];
+            const bool designated =
+                call.function == provider::TF_SEND_REQUEST || call.function == provider::TF_GET_FIELD;
+            EXPECT_EQ(call.designation, designated ? row.designation : std::nullopt)
+                << scripted::functionName(call.function);
+        }
     }
 }
 
@@ -248,20 +234,24 @@ TEST_F(Requests, ClauseWithoutRoomLeavesNoKeyword) {
 }
 
 TEST_F(Requests, StatementWithoutRoomIsRefusedWithAMessage) {
-    emulator::setClauses(session, clauses(std::string(4096, 's').c_str()));
-    const Strings statements = sent();
-    ASSERT_EQ(statements.size(), 1u) << "the options only";
-    EXPECT_EQ(user.messages.size(), 1u);
-    EXPECT_FALSE(pcFileExists());
-    // The clauses fit, but not "SELECT COUNT(*)" and " FOR FETCH ONLY" around them.
-    emulator::setClauses(session, clauses("", std::string(4050, 'w').c_str()));
-    set(setting::RecordProgress, 1);
-    useTransport(30);
-    user.messages.clear();
-    EXPECT_TRUE(sent().empty());
-    EXPECT_EQ(user.messages.size(), 1u);
+    const struct {
+        emulator::Clauses clauses;
+        std::int32_t transport, progress;
+        std::size_t statements;
+    } rows[] = {{clauses(std::string(4096, 's').c_str()), 2, 0,
+                 1},  // the options only
+                      // The clauses fit, but not "SELECT COUNT(*)" and " FOR FETCH ONLY" around them.
+                {clauses("", std::string(4050, 'w').c_str()), 30, 1, 0}};
+    for (const auto& row : rows) {
+        emulator::setClauses(session, row.clauses);
+        set(setting::RecordProgress, row.progress);
+        useTransport(row.transport);
+        user.messages.clear();
+        EXPECT_EQ(sent().size(), row.statements);
+        EXPECT_EQ(user.messages.size(), 1u);
+        EXPECT_FALSE(pcFileExists());
+    }
     emulator::setClauses(session, {});
-    user.messages.clear();
     EXPECT_EQ(query(), "SELECT *  FROM QGPL/CUST ");
 }
 

@@ -1,23 +1,17 @@
+#include <algorithm>
+
 #include "support/transfer_fixture.h"
 
 namespace {
 
 using scripted::Answer;
 
-class Session : public TransferFixture {
+class Session : public TwoRecords {
 protected:
-    void SetUp() override {
-        TransferFixture::SetUp();
-        hostFile.fields = {hostfields::character("NAME", 5)};
-        hostFile.records = {hostText("ALPHA"), hostText("GAMMA")};
-    }
     static bool bound() { return emulator::openObjects().modules != 0; }
-    static std::size_t entered(const std::string& entry) {
-        std::size_t count = 0;
-        for (const auto& name : scripted::entries()) count += name == entry;
-        return count;
+    static auto entered(const std::string& entry) {
+        return std::count(scripted::entries().begin(), scripted::entries().end(), entry);
     }
-    static constexpr const char* Received = "ALPHA\r\nGAMMA\r\n";
 };
 
 TEST_F(Session, ChangedSettingsReleaseTheProviderAtOnce) {
@@ -28,9 +22,8 @@ TEST_F(Session, ChangedSettingsReleaseTheProviderAtOnce) {
     set(setting::TransportType, 9);
     EXPECT_FALSE(bound());
     EXPECT_EQ(scripted::entries().back(), "E32TF_Cleanup");
-    receive();
+    expectReceived();
     EXPECT_EQ(scripted::calls().back().family, scripted::Family::Requestor);
-    EXPECT_EQ(pcFileBytes(), Received);
     set(setting::RouterKind, 2);
     EXPECT_FALSE(bound());
     receive();
@@ -59,28 +52,23 @@ TEST_F(Session, ChangesOfAConnectionCountAtItsEnd) {
         EXPECT_TRUE(bound());
         set(setting::ConnectionChanging, 0);
         EXPECT_EQ(bound(), !row.stops);
-        receive();
-        EXPECT_EQ(pcFileBytes(), Received);
+        expectReceived();
         library.xferCleanup(session);
     }
 }
 
 TEST_F(Session, ConversationLivesFromRequestToStop) {
     receive();
-    std::vector<std::uint32_t> conversations;
-    for (const auto& call : scripted::calls()) conversations.push_back(call.conversation);
-    EXPECT_EQ(conversations.front(), 0u);
-    EXPECT_EQ(conversations.back(), 1u);
+    EXPECT_EQ(scripted::calls().front().conversation, 0u);
+    EXPECT_EQ(scripted::calls().back().conversation, 1u);
     library.xferCleanup(session);
-    EXPECT_EQ(entered("TF_END_DATA"), 1u);
-    EXPECT_EQ(entered("E32TF_Cleanup"), 1u);
+    EXPECT_EQ(entered("TF_END_DATA"), 1);
+    EXPECT_EQ(entered("E32TF_Cleanup"), 1);
 }
 
 // After a failed write the conversation is over, and so a stop has nothing to tell the provider.
 TEST_F(Session, StopWithoutAConversationIsSilent) {
-    emulator::Faults faults;
-    faults.failWriteAfterBytes = 3;
-    emulator::setFaults(faults);
+    setFault(&emulator::Faults::failWriteAfterBytes, 3);
     // Behind the end of the data the provider gives no conversation any more.
     hostFile.intercept = [](const scripted::Call& call) -> std::optional<Answer> {
         if (call.function != provider::TF_END_REQUEST) return std::nullopt;
@@ -88,10 +76,10 @@ TEST_F(Session, StopWithoutAConversationIsSilent) {
         return std::nullopt;
     };
     receive();
-    EXPECT_EQ(entered("TF_END_DATA"), 1u);
+    EXPECT_EQ(entered("TF_END_DATA"), 1);
     library.xferCleanup(session);
-    EXPECT_EQ(entered("TF_END_DATA"), 1u);
-    EXPECT_EQ(entered("E32TF_Cleanup"), 0u);
+    EXPECT_EQ(entered("TF_END_DATA"), 1);
+    EXPECT_EQ(entered("E32TF_Cleanup"), 0);
     EXPECT_FALSE(bound());
 }
 
@@ -114,7 +102,6 @@ TEST_F(Session, StopDuringAProviderCallWaitsForItsEnd) {
             SCOPED_TRACE(std::string(stop.name) + " during " + scripted::functionName(function));
             library.xferCleanup(session);
             useTransport(2);
-            const auto before = static_cast<std::ptrdiff_t>(scripted::entries().size());
             std::size_t behind = 0;
             Answer answer = function == provider::TF_GET_FIELD  ? Answer::data(hostFile.fields[0])
                             : function == provider::TF_GET_DATA ? Answer::data(hostText("ALPHA"))
@@ -127,20 +114,17 @@ TEST_F(Session, StopDuringAProviderCallWaitsForItsEnd) {
             scripted::answerNext(function, answer);
             receive();
             ASSERT_GT(behind, 0u);
-            // What follows is the stop: the end of the conversation when there is one, else nothing, then no more of
-            // it.
-            const std::vector<std::string> entries(scripted::entries().begin() + before, scripted::entries().end());
-            const std::size_t next = behind - static_cast<std::size_t>(before);
+            // The conversation, when there is one, is ended at once.
             if (function != provider::TF_RESET) {
-                ASSERT_GE(entries.size(), next + 2);
-                EXPECT_EQ(entries[next], "TF_END_DATA");
-                EXPECT_EQ(entries[next + 1], "E32TF_Cleanup");
+                const auto& entries = scripted::entries();
+                ASSERT_GE(entries.size(), behind + 2);
+                EXPECT_EQ(entries[behind], "TF_END_DATA");
+                EXPECT_EQ(entries[behind + 1], "E32TF_Cleanup");
             }
             expectIdle();
             useTransport(2);
             user.messages.clear();
-            receive();
-            EXPECT_EQ(pcFileBytes(), Received);
+            expectReceived();
             EXPECT_TRUE(user.messages.empty());
         }
     }
@@ -154,32 +138,24 @@ TEST_F(Session, ClientDeletedSessionsStayApart) {
     emulator::set(other, setting::TransportType, 9);
     library.deleteZXFRPCSCLIENT(second);
     EXPECT_TRUE(bound()) << "another session's end is nothing to this one";
-    receive();
-    EXPECT_EQ(pcFileBytes(), Received);
+    expectReceived();
 }
 
 // The call-back of the IBM library lets the user act in the dialog of the exchange.
 TEST_F(Session, YieldPumpsTheDialogOfTheExchange) {
-    Answer answer;
-    provider::YieldCallback yield = nullptr;
-    hostFile.intercept = [&](const scripted::Call& call) -> std::optional<Answer> {
-        yield = call.yield;
-        return std::nullopt;
-    };
     client();
     library.EHNTF_STF_Callback();
     EXPECT_TRUE(user.progressCommands.empty()) << "no exchange, no dialog";
-    receive();
-    ASSERT_NE(yield, nullptr);
-    user.progressCommands.clear();
+    Answer answer;
+    std::vector<std::uint32_t> commands;
     answer.meanwhile = [&] {
-        const auto before = user.progressCommands.size();
-        yield();
-        EXPECT_EQ(user.progressCommands.size(), before + 1);
-        EXPECT_EQ(user.progressCommands.back(), 16u);
+        user.progressCommands.clear();
+        scripted::calls().back().yield();
+        commands = user.progressCommands;
     };
     scripted::answerNext(provider::TF_SEND_REQUEST, answer);
     receive();
+    EXPECT_EQ(commands, std::vector<std::uint32_t>{16});
 }
 
 TEST_F(Session, CancelInTheYieldEndsTheTransfer) {
@@ -216,40 +192,12 @@ TEST_F(Session, OnlyTheFirstSessionIsCalledBack) {
 }
 
 TEST_F(Session, WithoutTheSharedBufferNothingStarts) {
-    emulator::Faults faults;
-    faults.refuseGlobalMemory = true;
-    emulator::setFaults(faults);
+    setFault(&emulator::Faults::refuseGlobalMemory, true);
     receive();
     EXPECT_EQ(user.messageIds(), std::vector<std::uint32_t>{4405});
     EXPECT_FALSE(bound());
     emulator::setFaults({});
-    receive();
-    EXPECT_EQ(pcFileBytes(), Received);
-}
-
-TEST_F(Session, DemonstrationBindsNothing) {
-    set(setting::ConnectionType, 3);
-    set(setting::ReceiveOutput, ToScreen);
-    receive();
-    library.xferCleanup(session);
-    EXPECT_TRUE(scripted::entries().empty());
-    EXPECT_FALSE(bound());
-}
-
-// A page that changes between transfers is the one of the next; single and double byte, and back.
-TEST_F(Session, HostCodePageIsFollowed) {
-    const struct {
-        std::int32_t page;
-        const char *host, *pc;
-    } rows[] = {{37, "4A", "\xA2"}, {273, "4A", "\xC4"}, {939, "C1", "A"}, {37, "4A", "\xA2"}, {500, "4A", "["}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.page);
-        set(setting::HostCodePage, row.page);
-        hostFile.fields = {hostfields::character("NAME", 1)};
-        hostFile.records = {bytesOf(row.host)};
-        receive();
-        EXPECT_EQ(pcFileBytes(), row.pc + std::string("\r\n"));
-    }
+    expectReceived();
 }
 
 }  // namespace

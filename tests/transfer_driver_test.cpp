@@ -4,15 +4,8 @@ namespace {
 
 constexpr std::int32_t Untouched = 77;  // no file type: whoever forces one is seen
 
-class TransferDriver : public TransferFixture {
+class TransferDriver : public TwoRecords {
 protected:
-    void SetUp() override {
-        TransferFixture::SetUp();
-        hostFile.fields = {hostfields::character("NAME", 5)};
-        hostFile.records = {hostText("ALPHA"), hostText("GAMMA")};
-    }
-    static constexpr const char* Received = "ALPHA\r\nGAMMA\r\n";
-
     // Reads a setting whenever the provider is called.
     std::vector<std::int32_t> duringTransfer(std::uint32_t id, const std::function<void()>& transfer) {
         std::vector<std::int32_t> values;
@@ -24,8 +17,6 @@ protected:
         hostFile.intercept = nullptr;
         return values;
     }
-    // The next call of `function` is answered with this.
-    void once(std::uint32_t function, scripted::Answer answer) { scripted::answerNext(function, std::move(answer)); }
 };
 
 TEST_F(TransferDriver, NameOfTheTraceFileSwitchesTheTraceOn) {
@@ -47,58 +38,45 @@ TEST_F(TransferDriver, NameOfTheTraceFileSwitchesTheTraceOn) {
     }
 }
 
-TEST_F(TransferDriver, ScreenOutputForcesTextWithoutFileAndProgress) {
-    set(setting::ReceiveOutput, ToScreen);
-    set(setting::ReceiveFileType, Dif);
-    const auto types = duringTransfer(setting::ReceiveFileType, [this] { receive(1); });
-    // The exchange that starts the provider comes before the type is forced.
-    ASSERT_GT(types.size(), 1u);
-    for (std::size_t i = 1; i < types.size(); ++i) EXPECT_EQ(types[i], AsciiText);
-    EXPECT_EQ(number(setting::ReceiveFileType), Dif);
-    EXPECT_EQ(journalCount("CreateFileObject("), 0u);
-    EXPECT_EQ(user.progressModes, std::vector<std::uint32_t>{0});
-    EXPECT_EQ(user.display.rows.size(), 2u);
-}
-
-TEST_F(TransferDriver, SpreadsheetOutputForcesDif) {
-    set(setting::ReceiveOutput, ToSpreadsheet);
-    set(setting::ReceiveFileType, TabDelimited);
-    const auto types = duringTransfer(setting::ReceiveFileType, [this] { receive(); });
-    ASSERT_GT(types.size(), 1u);
-    EXPECT_EQ(types.back(), Dif);
-    EXPECT_EQ(number(setting::ReceiveFileType), TabDelimited);
-    EXPECT_EQ(user.shellCalls.size(), 1u);
-    EXPECT_EQ(pcFileBytes().substr(0, 5), "TABLE");
-}
-
-TEST_F(TransferDriver, UnknownOutputHasNoFileAndKeepsTheType) {
-    set(setting::ReceiveOutput, 2);
-    set(setting::ReceiveFileType, Untouched);
-    for (const auto type : duringTransfer(setting::ReceiveFileType, [this] { receive(); })) EXPECT_EQ(type, Untouched);
-    EXPECT_EQ(number(setting::ReceiveFileType), Untouched);
-    EXPECT_EQ(journalCount("CreateFileObject("), 0u);
-    EXPECT_FALSE(pcFileExists());
-}
-
-TEST_F(TransferDriver, SendHasItsFileWhateverTheReceiveOutput) {
-    for (const std::int32_t output : {0, 1, 2, 3}) {
-        SCOPED_TRACE(output);
-        set(setting::ReceiveOutput, output);
-        set(setting::ReceiveFileType, Untouched);
-        writePcFile("ALPHA\r\n");
+// The type of the PC file is forced for as long as the transfer runs.
+TEST_F(TransferDriver, OutputOfAReceiveForcesTheType) {
+    const struct {
+        std::int32_t output, type, forced;
+        std::size_t files, rows, shells;
+        const char* begin;  // of the PC file
+    } rows[] = {{ToScreen, Dif, AsciiText, 0, 2, 0, ""},
+                {2, Untouched, Untouched, 0, 0, 0, ""},
+                {ToSpreadsheet, TabDelimited, Dif, 1, 0, 1, "TABLE"}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.output);
+        set(setting::ReceiveOutput, row.output);
+        set(setting::ReceiveFileType, row.type);
+        library.xferCleanup(session);
         emulator::clearJournal();
-        send();
-        EXPECT_EQ(journalCount("CreateFileObject("), 1u);
-        EXPECT_EQ(number(setting::ReceiveFileType), Untouched);
+        user.display.rows.clear();
+        const auto types = duringTransfer(setting::ReceiveFileType, [this] { receive(1); });
+        // The exchange that starts the provider comes before the type is forced.
+        ASSERT_GT(types.size(), 1u);
+        for (std::size_t i = 1; i < types.size(); ++i) EXPECT_EQ(types[i], row.forced);
+        EXPECT_EQ(number(setting::ReceiveFileType), row.type);
+        EXPECT_EQ(journalCount("CreateFileObject("), row.files);
+        EXPECT_EQ(pcFileExists(), row.files > 0);
+        EXPECT_EQ(pcFileBytes().substr(0, 5), row.begin);
+        EXPECT_EQ(user.display.rows.size(), row.rows);
+        EXPECT_EQ(user.shellCalls.size(), row.shells);
+        EXPECT_EQ(user.progressModes.at(0), 0u) << "the screen's";
     }
 }
 
+// A send has its file whatever the output of a receive is.
 TEST_F(TransferDriver, FileObjectIsToldNameTypeFlagsAndAction) {
     for (std::int32_t type = AsciiText; type <= Dif; ++type) {
         for (const bool sending : {false, true}) {
             SCOPED_TRACE(std::to_string(type) + (sending ? " sent" : " received"));
-            set(sending ? setting::SendFileType : setting::ReceiveFileType, type);
-            set(setting::ExistingFileAction, 1);
+            const std::int32_t receiveType = sending ? Untouched : type;
+            set(setting::SendFileType, type);
+            set(setting::ReceiveFileType, receiveType);
+            set(setting::ReceiveOutput, sending ? type % 4 : ToFile);
             writePcFile("");
             emulator::clearJournal();
             sending ? send() : receive();
@@ -106,6 +84,8 @@ TEST_F(TransferDriver, FileObjectIsToldNameTypeFlagsAndAction) {
             expectInOrder({"CreateFileObject(", "FileObject.setName(",
                            binary ? "FileObject.setTypeFlag(1" : "FileObject.setTypeFlag(0",
                            "FileObject.setOpenFlags(11", "FileObject.setExistingFileAction(1", "FileObject.destroy("});
+            EXPECT_EQ(journalCount("CreateFileObject("), 1u);
+            EXPECT_EQ(number(setting::ReceiveFileType), receiveType);
         }
     }
 }
@@ -127,24 +107,22 @@ TEST_F(TransferDriver, TransferIsActiveOnlyWhileItRunsHoweverItEnds) {
         std::function<void()> prepare;
         std::vector<std::uint32_t> messages;
     };
-    const auto fault = [](auto member, auto value) {
-        return [member, value] {
-            emulator::Faults faults;
-            faults.*member = value;
-            emulator::setFaults(faults);
-        };
-    };
+    const auto refuse = [](bool emulator::Faults::*fault) { return [fault] { setFault(fault, true); }; };
     const std::vector<Ending> endings = {
         {"complete", [] {}, {}},
-        {"request refused", [this] { once(provider::TF_SEND_REQUEST, scripted::Answer::code(0x2001)); }, {4406}},
-        {"silent failure", [this] { once(provider::TF_SEND_REQUEST, scripted::Answer::code(0x7101)); }, {}},
-        {"no file object", fault(&emulator::Faults::refuseFileObject, true), {4001}},
-        {"no progress dialog", fault(&emulator::Faults::refuseProgressDialog, true), {4001}},
+        {"request refused",
+         [this] { scripted::answerNext(provider::TF_SEND_REQUEST, scripted::Answer::code(0x2001)); },
+         {4406}},
+        {"silent failure",
+         [this] { scripted::answerNext(provider::TF_SEND_REQUEST, scripted::Answer::code(0x7101)); },
+         {}},
+        {"no file object", refuse(&emulator::Faults::refuseFileObject), {4001}},
+        {"no progress dialog", refuse(&emulator::Faults::refuseProgressDialog), {4001}},
         {"cancelled",
          [this] {
              scripted::Answer answer;
              answer.meanwhile = [this] { library.pcsCancelTransfer(client()); };
-             once(provider::TF_SEND_REQUEST, answer);
+             scripted::answerNext(provider::TF_SEND_REQUEST, answer);
          },
          {}},
     };
@@ -159,28 +137,18 @@ TEST_F(TransferDriver, TransferIsActiveOnlyWhileItRunsHoweverItEnds) {
         expectIdle();
 
         std::filesystem::remove(pcFile());
-        receive();
-        EXPECT_EQ(pcFileBytes(), Received) << "the next transfer works";
+        expectReceived();  // the next transfer works
     }
 }
 
 TEST_F(TransferDriver, WithoutAFileObjectNoDriverRunsAndTheTypeIsRestored) {
     set(setting::ReceiveOutput, ToSpreadsheet);
-    emulator::Faults faults;
-    faults.refuseFileObject = true;
-    emulator::setFaults(faults);
+    setFault(&emulator::Faults::refuseFileObject, true);
     receive();
     EXPECT_EQ(scripted::entries(), (std::vector<std::string>{"EHNAPPC_IsRouterLoaded", "TF_RESET"}));
     EXPECT_EQ(number(setting::ReceiveFileType), CommaSeparated);
     ASSERT_EQ(user.messageIds(), std::vector<std::uint32_t>{4001});
     EXPECT_EQ(user.messages[0].helpId, 4001u);
-}
-
-TEST_F(TransferDriver, ProviderStaysBoundBetweenTransfers) {
-    receive();
-    receive();
-    EXPECT_EQ(journalCount("provider TF_RESET"), 1u);
-    EXPECT_EQ(pcFileBytes(), Received);
 }
 
 TEST_F(TransferDriver, SettingsFileRunsFirstAndMovesToItsFolder) {
@@ -249,20 +217,13 @@ TEST_F(TransferDriver, IncompleteConnectionAsksAndACancelEndsTheTransfer) {
 }
 
 TEST_F(TransferDriver, EachFailingAllocationIsReportedOrHarmless) {
-    for (const bool everyLater : {false, true}) {
-        client();
-        const auto prepare = [this] {
-            std::filesystem::remove(pcFile());
-            user.messages.clear();
-        };
-        const auto transfer = [this] {
-            receive(1);
-            EXPECT_TRUE(pcFileBytes() == Received || !user.messages.empty());
-            library.xferCleanup(session);
-        };
-        failEachAllocation(prepare, transfer, everyLater);
-        EXPECT_EQ(pcFileBytes(), Received);
-    }
+    client();
+    failEachAllocation([this] {
+        receive(1);
+        EXPECT_TRUE(pcFileBytes() == Received || !user.messages.empty());
+        library.xferCleanup(session);
+    });
+    EXPECT_EQ(pcFileBytes(), Received);
 }
 
 }  // namespace

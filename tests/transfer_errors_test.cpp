@@ -1,26 +1,23 @@
-#include "host/session.h"
 #include "support/transfer_fixture.h"
 
 namespace {
 
 using scripted::Answer;
 
-class TransferErrors : public TransferFixture {
+class TransferErrors : public TwoRecords {
 protected:
-    void SetUp() override {
-        TransferFixture::SetUp();
-        hostFile.fields = {hostfields::character("NAME", 5)};
-        hostFile.records = {hostText("ALPHA"), hostText("GAMMA")};
-    }
     // At most 99 characters, as in the buffer of a report.
-    std::string text(std::uint32_t table, std::uint32_t index) {
-        char buffer[100] = "";
-        host::LoadMessageText(session, table, index, buffer, sizeof buffer);
-        return buffer;
+    std::string text(std::uint32_t table, std::uint32_t index) const { return messageText(table, index, 100); }
+    // Receives when the request is answered with this; the messages of this transfer alone.
+    const std::vector<emulator::MessageBox>& told(const Answer& answer, std::uint32_t showProgress = 0) {
+        user.messages.clear();
+        scripted::answerNext(provider::TF_SEND_REQUEST, answer);
+        receive(showProgress);
+        return user.messages;
     }
-    std::string notCompleted(const char* received) {
-        return std::string("File transfer not completed.\nReceived approximately ") + received +
-               " records of 0.\n\nRefer to job log on host system AS400A.\nJob name *, user profile *, job number *";
+    static std::string notCompleted(const std::string& records, const std::string& job) {
+        return "File transfer not completed.\nReceived approximately " + records +
+               ".\n\nRefer to job log on host system AS400A.\n" + job;
     }
 };
 
@@ -98,8 +95,10 @@ TEST_F(TransferErrors, EachFailureIsToldInItsWay) {
             inserts.push_back(insert == 'C'   ? text(7, 400)
                               : insert == 'N' ? std::to_string(row.code)
                               : insert == 'E' ? error
-                              : insert == 'H' ? row.hostText
-                                              : notCompleted(row.function == Fetch ? "1" : "0"));
+                              : insert == 'H'
+                                  ? row.hostText
+                                  : notCompleted(row.function == Fetch ? "1 records of 0" : "0 records of 0",
+                                                 "Job name *, user profile *, job number *"));
         EXPECT_EQ(box.inserts, inserts);
     }
 }
@@ -113,21 +112,15 @@ TEST_F(TransferErrors, TextsAndHelpOfTheWholeTable) {
     const std::uint32_t own[][2] = {{0x05, 1200}, {0x06, 1201}, {0x07, 1202}, {0x16, 1203}, {0x1C, 1204}, {0x32, 1205},
                                     {0x33, 1206}, {0x37, 1207}, {0x48, 1208}, {0x4B, 1209}, {0x51, 1210}, {0x87, 1211},
                                     {0xD4, 1240}, {0xD5, 1241}, {0xD7, 1242}, {0xD8, 1243}, {0xEC, 1244}, {0xF5, 1250}};
-    const auto told = [this](std::uint32_t code) {
-        user.messages.clear();
-        scripted::answerNext(provider::TF_SEND_REQUEST, Answer::code(code, "HOST"));
-        receive();
-        return user.messages.empty() ? emulator::MessageBox{} : user.messages[0];
-    };
     std::uint32_t index = 500;
     for (const std::uint32_t code : codes) {
         SCOPED_TRACE(code);
-        const auto box = told(code);
+        const auto& messages = told(Answer::code(code, "HOST"));
         EXPECT_EQ(emulator::text(session, setting::LastErrorText), text(7, index));
-        EXPECT_EQ(box.helpId, code == 0x3000 || code == 0x3100 ? 4416 : index);
+        EXPECT_EQ(messages.at(0).helpId, code == 0x3000 || code == 0x3100 ? 4416 : index);
         ++index;
     }
-    for (const auto& [code, help] : own) EXPECT_EQ(told(code).helpId, help);
+    for (const auto& [code, help] : own) EXPECT_EQ(told(Answer::code(code, "HOST")).at(0).helpId, help);
 }
 
 TEST_F(TransferErrors, CodesThatAreNoErrors) {
@@ -142,8 +135,7 @@ TEST_F(TransferErrors, CodesThatAreNoErrors) {
     receive();
     EXPECT_EQ(number(setting::LastReturnCode), 0x5057) << "the end of data is not judged";
     EXPECT_TRUE(user.messages.empty());
-    scripted::answerNext(provider::TF_SEND_REQUEST, Answer::code(0x9999));
-    receive();
+    told(Answer::code(0x9999));
     EXPECT_EQ(user.messageIds(), std::vector<std::uint32_t>{4432});
     EXPECT_EQ(user.messages[0].helpId, 4432u);
     EXPECT_EQ(emulator::text(session, setting::LastErrorText), "before");
@@ -154,10 +146,7 @@ TEST_F(TransferErrors, TheGateIsOneMessageWhateverIsShown) {
         emulator::disableMessage(disabled);
         for (const std::uint32_t code : {0x2001u, 0x3000u}) {
             SCOPED_TRACE(std::to_string(disabled) + ", " + std::to_string(code));
-            user.messages.clear();
-            scripted::answerNext(provider::TF_SEND_REQUEST, Answer::code(code, "HOST"));
-            receive();
-            EXPECT_EQ(user.messages.size(), disabled == 4406 ? 0u : 1u);
+            EXPECT_EQ(told(Answer::code(code, "HOST")).size(), disabled == 4406 ? 0u : 1u);
             EXPECT_EQ(number(setting::LastReturnCode), static_cast<std::int32_t>(code));
             EXPECT_EQ(emulator::text(session, setting::LastErrorText), text(7, code == 0x2001 ? 506 : 530));
         }
@@ -172,8 +161,7 @@ TEST_F(TransferErrors, ProgressDialogIsHiddenWhileTheBoxIsUp) {
     };
     for (const std::uint32_t code : {0x2001u, 0x9999u}) {
         hiddenThen = false;
-        scripted::answerNext(provider::TF_SEND_REQUEST, Answer::code(code));
-        receive(1);
+        told(Answer::code(code), 1);
         EXPECT_TRUE(hiddenThen) << code;
         EXPECT_FALSE(user.progressIsHidden) << code;
     }
@@ -182,10 +170,7 @@ TEST_F(TransferErrors, ProgressDialogIsHiddenWhileTheBoxIsUp) {
 TEST_F(TransferErrors, HostTextIsExactlyAsLongAsItsLength) {
     Answer answer = Answer::code(0x3000, "NO SUCH FILE AND MORE");
     answer.dataLength = 12;
-    scripted::answerNext(provider::TF_SEND_REQUEST, answer);
-    receive();
-    ASSERT_EQ(user.messages.size(), 1u);
-    EXPECT_EQ(user.messages[0].inserts, std::vector<std::string>{"NO SUCH FILE"});
+    EXPECT_EQ(told(answer).at(0).inserts, std::vector<std::string>{"NO SUCH FILE"});
 }
 
 TEST_F(TransferErrors, CountAndJobAreThoseOfTheFailingTransfer) {
@@ -202,10 +187,8 @@ TEST_F(TransferErrors, CountAndJobAreThoseOfTheFailingTransfer) {
     scripted::answerNext(provider::TF_GET_DATA, failed);
     receive();
     ASSERT_EQ(user.messages.size(), 1u);
-    EXPECT_EQ(user.messages[0].inserts,
-              std::vector<std::string>{
-                  "File transfer not completed.\nReceived approximately 2 records of 17.\n\nRefer to job log on host "
-                  "system AS400A.\nJob name QZDASOINIT, user profile QUSER, job number 123456"});
+    const std::string job = "Job name QZDASOINIT, user profile QUSER, job number 123456";
+    EXPECT_EQ(user.messages[0].inserts, std::vector<std::string>{notCompleted("2 records of 17", job)});
     EXPECT_EQ(pcFileBytes(), "ALPHA\r\n");
 }
 

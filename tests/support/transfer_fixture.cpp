@@ -5,6 +5,7 @@
 #include <iterator>
 #include <utility>
 
+#include "host/session.h"
 #include "platform/platform.h"
 
 namespace {
@@ -36,6 +37,14 @@ bool matches(const std::string& line, const std::string& pattern) {
         begin = end + 1;
     }
     return true;
+}
+
+// What the journal says for "command 16" and "set 448=1".
+std::string journalText(const std::string& text) {
+    if (text.rfind("command ", 0) == 0) return "ProgressDialogCommand(*, " + text.substr(8) + ")";
+    if (text.rfind("set ", 0) != 0) return text;
+    const std::size_t equals = text.find('=');
+    return "SetSetting(*, " + text.substr(4, equals - 4) + " *, " + text.substr(equals + 1) + ")";
 }
 
 }  // namespace
@@ -97,16 +106,48 @@ void TransferFixture::useProviders(const std::string& folder) {
     emulator::setProviderFolder(binFolder() + "/" + folder);
 }
 
+void TransferFixture::useListSeparator(char separator) {
+    emulator::PcSetup pc = emulator::usualPc();
+    pc.listSeparator = separator;
+    ASSERT_TRUE(emulator::setUpPc(pc));
+}
+
+std::string TransferFixture::messageText(std::uint32_t table, std::uint32_t index, std::size_t room) const {
+    std::string text(room, '\0');
+    host::LoadMessageText(session, table, index, text.data(), static_cast<std::uint32_t>(room));
+    return text.c_str();
+}
+
 void TransferFixture::receive(std::uint32_t showProgress) { library.pcsTransferFile(client(), "", 0, showProgress, 0); }
 
 void TransferFixture::send(std::uint32_t showProgress) { library.pcsTransferFile(client(), "", 1, showProgress, 0); }
 
-void TransferFixture::failEachAllocation(const std::function<void()>& prepare, const std::function<void()>& transfer,
+std::string TransferFixture::received(FileType type, const std::vector<std::string>& fields,
+                                      const std::vector<std::string>& records) {
+    hostFile.fields = fields;
+    hostFile.records = records;
+    set(setting::ReceiveFileType, type);
+    receive();
+    return pcFileBytes();
+}
+
+std::vector<std::string> TransferFixture::entriesOf(const std::function<void()>& transfer) {
+    const auto before = static_cast<std::ptrdiff_t>(scripted::entries().size());
+    transfer();
+    return {scripted::entries().begin() + before, scripted::entries().end()};
+}
+
+void TransferFixture::failEachAllocation(const std::function<void()>& transfer, const std::function<void()>& prepare) {
+    for (const bool everyLater : {false, true}) failEachAllocation(transfer, prepare, everyLater);
+}
+
+void TransferFixture::failEachAllocation(const std::function<void()>& transfer, const std::function<void()>& prepare,
                                          bool everyLater) {
     constexpr std::uint64_t Limit = 5000;
     for (std::uint64_t failing = 1; failing <= Limit; ++failing) {
-        SCOPED_TRACE("failing allocation " + std::to_string(failing));
-        emulator::setFaults({});
+        SCOPED_TRACE("failing allocation " + std::to_string(failing) + (everyLater ? " and all later ones" : ""));
+        std::filesystem::remove(pcFile());
+        user.messages.clear();
         prepare();
         emulator::Faults faults;
         faults.failAllocation = failing;
@@ -134,7 +175,7 @@ void TransferFixture::expectInOrder(const std::vector<std::string>& texts) const
     auto line = emulator::journal().begin();
     const auto end = emulator::journal().end();
     for (const auto& text : texts) {
-        while (line != end && !matches(*line, text)) ++line;
+        while (line != end && !matches(*line, journalText(text))) ++line;
         if (line == end) {
             ADD_FAILURE() << "not in the journal, or too early: " << text << "\n" << joined(emulator::journal());
             return;

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "emulator/emulator.h"
@@ -47,14 +48,31 @@ protected:
     void useTransport(std::int32_t transportType, std::int32_t routerKind = 1);
     // A folder below binFolder().
     void useProviders(const std::string& folder);
+    // The usual PC with another list separator.
+    static void useListSeparator(char separator);
+    // One fault, and no other: setFault(&emulator::Faults::failConversion, true).
+    template <class Value>
+    static void setFault(Value emulator::Faults::*fault, std::type_identity_t<Value> value) {
+        emulator::Faults faults;
+        faults.*fault = value;
+        emulator::setFaults(faults);
+    }
+    // As it fits into `room` bytes with the zero byte.
+    std::string messageText(std::uint32_t table, std::uint32_t index, std::size_t room = 300) const;
 
     // --- Transfers
     void receive(std::uint32_t showProgress = 0);
     void send(std::uint32_t showProgress = 0);
-    // Runs `transfer` with its first, second, third ... allocation failing, until one runs through; `prepare` comes
-    // before each. After each, nothing may be open or active. With `everyLater`, all later ones fail too.
-    void failEachAllocation(const std::function<void()>& prepare, const std::function<void()>& transfer,
-                            bool everyLater = false);
+    // The PC file that the host's records become in a type.
+    std::string received(FileType type, const std::vector<std::string>& fields,
+                         const std::vector<std::string>& records);
+    // The provider entries that a transfer reaches.
+    static std::vector<std::string> entriesOf(const std::function<void()>& transfer);
+    // Runs `transfer` with its first, second, third ... allocation failing, until one runs through; then once more with
+    // all later ones failing too. Before each the PC file and the messages go and `prepare` comes; after each, nothing
+    // may be open or active.
+    void failEachAllocation(
+        const std::function<void()>& transfer, const std::function<void()>& prepare = [] {});
 
     // --- The PC
     std::string path(const std::string& name) const { return (folder_ / name).string(); }
@@ -67,7 +85,8 @@ protected:
 
     // --- The journal
     // Lines that contain these texts follow one another, with any others between. In both, a "*" in a text stands for
-    // anything: "WatchSetting(*, 215".
+    // anything: "WatchSetting(*, 215". In the first, "command 16" is one of the progress dialog, and "set 448=1" a
+    // whole number that a setting gets.
     void expectInOrder(const std::vector<std::string>& texts) const;
     std::size_t journalCount(const std::string& text) const;
 
@@ -78,7 +97,26 @@ protected:
     void expectNothingLeft();
 
 private:
+    void failEachAllocation(const std::function<void()>& transfer, const std::function<void()>& prepare,
+                            bool everyLater);
+
     std::filesystem::path folder_;
     ZXFRPCSCLIENT* client_ = nullptr;
     std::uint64_t blocksBefore_ = 0;
+};
+
+// A host file of two records with one field.
+class TwoRecords : public TransferFixture {
+protected:
+    static constexpr const char* Received = "ALPHA\r\nGAMMA\r\n";
+
+    void SetUp() override {
+        TransferFixture::SetUp();
+        hostFile.fields = {hostfields::character("NAME", 5)};
+        hostFile.records = {hostText("ALPHA"), hostText("GAMMA")};
+    }
+    void expectReceived() {
+        receive();
+        EXPECT_EQ(pcFileBytes(), Received);
+    }
 };
