@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "support/dynamic_library.h"
+#include "support/framework_thread.h"
 
 // The tests find what they load beside themselves, wherever they are started.
 int main(int argumentCount, char** arguments) {
@@ -8,5 +9,6 @@ int main(int argumentCount, char** arguments) {
     setDefaultEnvironment("Z7X_CODE_PAGES", Z7X_DEFAULT_BIN "/codepages.dat");
     setDefaultEnvironment("Z7X_SCRIPT", Z7X_DEFAULT_SCRIPT);
     testing::InitGoogleTest(&argumentCount, arguments);
+    startFrameworkThread();
     return RUN_ALL_TESTS();
 }
