@@ -7,6 +7,7 @@
 #include "emulator/journal.h"
 #include "emulator/memory.h"
 #include "emulator/messages.h"
+#include "emulator/modules.h"
 #include "emulator/path_services.h"
 #include "emulator/platform_side.h"
 #include "emulator/sessions.h"

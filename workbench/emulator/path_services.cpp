@@ -8,7 +8,7 @@
 
 #include "emulator/emulator.h"
 #include "emulator/journal.h"
-#include "emulator/platform_side.h"
+#include "emulator/modules.h"
 #include "platform/platform.h"
 
 namespace emulator {

@@ -1,8 +1,12 @@
 #pragma once
 
+#include <cstdint>
 #include <cstdio>
+#include <filesystem>
 #include <optional>
 #include <string>
+
+#include "host/types.h"
 
 // What the emulator asks of the platform folder beside it.
 namespace emulator {
@@ -15,13 +19,11 @@ void connectDesktop();
 // The PC as it is when nobody has set one up.
 void resetPc();
 
-// The path of a library by bare name in the provider folder, or of a PC file of that name. Empty when there is neither.
-std::optional<std::string> findLibrary(const char* name);
+// Loads the library of that whole path. Returns 0, or the PC's error number with a null module.
+std::uint32_t openModule(const std::filesystem::path& path, host::ModuleHandle* module);
+void closeModule(host::ModuleHandle module);
 
 // Opens a path that nativePath gave, as std::fopen does.
 std::FILE* openNative(const std::string& nativePath, const char* mode);
-
-std::uint32_t loadedModules();
-void resetModules();
 
 }  // namespace emulator

@@ -1,5 +1,6 @@
-#include <windows.h>
+#include "emulator/modules.h"
 
+#include <algorithm>
 #include <filesystem>
 
 #include "emulator/emulator.h"
@@ -12,20 +13,39 @@ namespace {
 
 namespace files = std::filesystem;
 
+// The PC's own error number.
+constexpr std::uint32_t FileNotFound = 2;
+
 std::string wantedFolder;
 std::uint32_t loadCount = 0;
 
-files::path providerFolder() { return wantedFolder.empty() ? files::path(ownFolder()) / "providers" : wantedFolder; }
+std::string providerFolder() { return wantedFolder.empty() ? ownFolder() + "/providers" : wantedFolder; }
+
+char lowerCase(char character) {
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character + 32) : character;
+}
+
+bool sameName(const std::string& left, const std::string& right) {
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [](char a, char b) { return lowerCase(a) == lowerCase(b); });
+}
+
+std::optional<std::string> findInFolder(const std::string& folder, const std::string& name) {
+    std::error_code error;
+    const files::path exact = files::path(folder) / name;
+    if (files::is_regular_file(exact, error)) return exact.string();
+    for (files::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error))
+        if (sameName(entry->path().filename().string(), name) && entry->is_regular_file(error))
+            return entry->path().string();
+    return std::nullopt;
+}
 
 std::uint32_t load(const char* name, host::ModuleHandle* module) {
     const std::optional<std::string> path = findLibrary(name);
-    if (!path) return ERROR_FILE_NOT_FOUND;
-    // What a provider needs itself is looked for beside it. The call wants a whole path then, with backslashes.
-    const files::path whole = files::absolute(*path).make_preferred();
-    *module = LoadLibraryExW(whole.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
-    if (!*module) return GetLastError();
-    ++loadCount;
-    return 0;
+    if (!path) return FileNotFound;
+    const std::uint32_t error = openModule(files::absolute(*path), module);
+    if (error == 0) ++loadCount;
+    return error;
 }
 
 }  // namespace
@@ -34,12 +54,10 @@ void setProviderFolder(const std::string& folder) { wantedFolder = folder; }
 
 std::optional<std::string> findLibrary(const char* name) {
     if (!name || !*name) return std::nullopt;
-    std::error_code error;
     const std::string text(name);
-    if (text.find_first_of("/\\:") == std::string::npos) {
-        const files::path path = providerFolder() / files::path(nativePath(text)).filename();
-        if (files::is_regular_file(path, error)) return path.string();
-    }
+    if (text.find_first_of("/\\:") == std::string::npos)
+        if (auto found = findInFolder(providerFolder(), text)) return found;
+    std::error_code error;
     std::string path = nativePath(text);
     if (files::is_regular_file(path, error)) return path;
     return std::nullopt;
@@ -66,6 +84,6 @@ std::uint32_t ZHST_CALL zhstLoadModule(const char* fileName, std::uint32_t searc
 void ZHST_CALL zhstFreeModule(host::ModuleHandle module) {
     journalled::Call("FreeModule", journalled::Address{module});
     if (!module) return;
-    FreeLibrary(static_cast<HMODULE>(module));
+    closeModule(module);
     if (loadCount > 0) --loadCount;
 }
