@@ -25,6 +25,6 @@ struct ReplaceRequest {
 
 // The texts stand in apostrophes, and an apostrophe inside is not doubled: the file text ends where CRTMBR(YES)
 // follows, the member text at the end of the request. Throws a Refusal.
-ReplaceRequest parseReplace(std::string_view request);
+ReplaceRequest parseReplace(std::string_view text);
 
 }  // namespace as400

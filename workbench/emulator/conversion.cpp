@@ -77,10 +77,10 @@ std::uint32_t ZHST_CALL zhstConvertHostText(host::ConverterHandle converter, std
     return call.result(convert(findSession(converter, SessionPart::Converter), direction, length, buffer));
 }
 
-void ZHST_CALL zhstLoadCodeTable(host::SessionHandle session, void* table, std::uint32_t kind, std::int32_t hostPage,
-                                 std::uint32_t size) {
-    Call("LoadCodeTable", session, journalled::Address{table}, kind, hostPage, size);
-    const codepages::CodePage* host = hostCodePage(hostPage);
+void ZHST_CALL zhstLoadCodeTable(host::SessionHandle session, void* table, std::uint32_t kind,
+                                 std::int32_t hostCodePage, std::uint32_t size) {
+    Call("LoadCodeTable", session, journalled::Address{table}, kind, hostCodePage, size);
+    const codepages::CodePage* host = emulator::hostCodePage(hostCodePage);
     const codepages::CodePage* pc = ansiPage();
     if (!table || !host || !pc) return;
     const auto& contents = keptCodeTable(kind, *host, *pc);

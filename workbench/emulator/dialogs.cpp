@@ -68,20 +68,20 @@ void ZHST_CALL zhstProgressDialogDestroy(host::ProgressDialogHandle dialog) {
     if (dialogs.erase(dialog) > 0) userInterface().progressDestroyed();
 }
 
-void ZHST_CALL zhstProgressDialogSetPcName(host::ProgressDialogHandle handle, const char* text) {
-    const Call call("ProgressDialogSetPcName", handle, text);
-    ProgressDialog* dialog = find(handle);
-    if (!dialog) return;
-    dialog->pcName = text ? text : "";
-    userInterface().progressNames(dialog->pcName, dialog->hostName);
+void ZHST_CALL zhstProgressDialogSetPcName(host::ProgressDialogHandle dialog, const char* text) {
+    const Call call("ProgressDialogSetPcName", dialog, text);
+    ProgressDialog* found = find(dialog);
+    if (!found) return;
+    found->pcName = text ? text : "";
+    userInterface().progressNames(found->pcName, found->hostName);
 }
 
-void ZHST_CALL zhstProgressDialogSetHostName(host::ProgressDialogHandle handle, const char* text) {
-    const Call call("ProgressDialogSetHostName", handle, text);
-    ProgressDialog* dialog = find(handle);
-    if (!dialog) return;
-    dialog->hostName = text ? text : "";
-    userInterface().progressNames(dialog->pcName, dialog->hostName);
+void ZHST_CALL zhstProgressDialogSetHostName(host::ProgressDialogHandle dialog, const char* text) {
+    const Call call("ProgressDialogSetHostName", dialog, text);
+    ProgressDialog* found = find(dialog);
+    if (!found) return;
+    found->hostName = text ? text : "";
+    userInterface().progressNames(found->pcName, found->hostName);
 }
 
 void ZHST_CALL zhstProgressDialogSetTotal(host::ProgressDialogHandle dialog, std::uint32_t total, std::uint32_t unit) {

@@ -43,7 +43,7 @@ Insert numberInsert(std::uint32_t number) { return {true, number, nullptr}; }
 // The catalogue says what the place holds; a place it does not know is a number.
 Insert insertAt(const catalogue::Message& message, std::size_t place, host::MessageInsert value) {
     if (place < message.inserts.size() && message.inserts[place] == 't')
-        return textInsert(reinterpret_cast<const char*>(value));
+        return textInsert(reinterpret_cast<const char*>(value));  // NOLINT(performance-no-int-to-ptr): as it travels
     return numberInsert(static_cast<std::uint32_t>(value));
 }
 
@@ -86,10 +86,10 @@ void disableMessage(std::uint32_t id) { disabled.insert(id); }
 
 bool messageEnabled(std::uint32_t id) { return !disabled.contains(0) && !disabled.contains(id); }
 
-MessageBox readyTextBox(host::SessionHandle handle) {
+MessageBox readyTextBox(host::SessionHandle session) {
     MessageBox box;
-    if (const Session* session = findSession(handle, SessionPart::Session))
-        box.owner = session->handle(SessionPart::Window);
+    if (const Session* found = findSession(session, SessionPart::Session))
+        box.owner = found->handle(SessionPart::Window);
     return box;
 }
 

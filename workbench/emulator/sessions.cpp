@@ -34,16 +34,16 @@ host::SessionHandle newSession() {
     return sessions.back()->handle(SessionPart::Session);
 }
 
-void setClauses(host::SessionHandle handle, const Clauses& clauses) {
-    if (Session* session = findSession(handle, SessionPart::Session)) session->clauses = clauses;
+void setClauses(host::SessionHandle session, const Clauses& clauses) {
+    if (Session* found = findSession(session, SessionPart::Session)) found->clauses = clauses;
 }
 
-void runCleanup(host::SessionHandle handle, std::uint32_t slot) {
-    Session* session = findSession(handle, SessionPart::Session);
-    if (!session) return;
-    const auto found = session->cleanups.find(slot);
+void runCleanup(host::SessionHandle session, std::uint32_t slot) {
+    Session* owner = findSession(session, SessionPart::Session);
+    if (!owner) return;
+    const auto found = owner->cleanups.find(slot);
     // The call-back may remove itself, so the entry is not used behind the call.
-    if (found != session->cleanups.end()) found->second(handle);
+    if (found != owner->cleanups.end()) found->second(session);
 }
 
 std::uint32_t watchCount() {
@@ -85,12 +85,12 @@ void ZHST_CALL zhstAttachSession(host::SessionHandle session) {
     connectDesktop();
 }
 
-void ZHST_CALL zhstRegisterCleanup(host::SessionHandle handle, std::uint32_t slot, host::CleanupCallback callback) {
-    Call("RegisterCleanup", handle, slot, journalled::Address{reinterpret_cast<void*>(callback)});
-    Session* session = findSession(handle, SessionPart::Session);
-    if (!session) return;
+void ZHST_CALL zhstRegisterCleanup(host::SessionHandle session, std::uint32_t slot, host::CleanupCallback callback) {
+    Call("RegisterCleanup", session, slot, journalled::Address{reinterpret_cast<void*>(callback)});
+    Session* found = findSession(session, SessionPart::Session);
+    if (!found) return;
     if (callback)
-        session->cleanups[slot] = callback;
+        found->cleanups[slot] = callback;
     else
-        session->cleanups.erase(slot);
+        found->cleanups.erase(slot);
 }

@@ -35,23 +35,23 @@ const std::string* settingText(const Session& session, std::uint32_t id) {
     return found == session.texts.end() || found->second.empty() ? nullptr : &found->second;
 }
 
-void set(host::SessionHandle handle, std::uint32_t id, std::int32_t value) {
-    if (Session* session = findSession(handle, SessionPart::Session)) writeNumber(*session, id, value);
+void set(host::SessionHandle session, std::uint32_t id, std::int32_t value) {
+    if (Session* found = findSession(session, SessionPart::Session)) writeNumber(*found, id, value);
 }
 
-void set(host::SessionHandle handle, std::uint32_t id, const std::string& value) {
-    if (Session* session = findSession(handle, SessionPart::Session)) session->texts[id] = value;
+void set(host::SessionHandle session, std::uint32_t id, const std::string& value) {
+    if (Session* found = findSession(session, SessionPart::Session)) found->texts[id] = value;
 }
 
-std::int32_t number(host::SessionHandle handle, std::uint32_t id) {
-    const Session* session = findSession(handle, SessionPart::Session);
-    return session ? settingNumber(*session, id) : 0;
+std::int32_t number(host::SessionHandle session, std::uint32_t id) {
+    const Session* found = findSession(session, SessionPart::Session);
+    return found ? settingNumber(*found, id) : 0;
 }
 
-std::string text(host::SessionHandle handle, std::uint32_t id) {
-    const Session* session = findSession(handle, SessionPart::Session);
-    const std::string* found = session ? settingText(*session, id) : nullptr;
-    return found ? *found : std::string();
+std::string text(host::SessionHandle session, std::uint32_t id) {
+    const Session* found = findSession(session, SessionPart::Session);
+    const std::string* value = found ? settingText(*found, id) : nullptr;
+    return value ? *value : std::string();
 }
 
 }  // namespace emulator

@@ -162,11 +162,11 @@ std::uint32_t ZHST_CALL zhstLockStoreList(host::StoreHandle store, host::StorePa
     return Call("LockStoreList", store, codeOf(list)).result(lock(store, list));
 }
 
-void ZHST_CALL zhstUnlockStoreList(host::StoreHandle store, host::StorePartHandle handle) {
-    Call("UnlockStoreList", store, codeOf(handle));
-    Part* list = find(store, handle, PartKind::List);
-    if (!list || !list->locked) return;
-    list->locked = false;
+void ZHST_CALL zhstUnlockStoreList(host::StoreHandle store, host::StorePartHandle list) {
+    Call("UnlockStoreList", store, codeOf(list));
+    Part* found = find(store, list, PartKind::List);
+    if (!found || !found->locked) return;
+    found->locked = false;
     --lockCount;
 }
 
