@@ -72,7 +72,7 @@ std::uint32_t formatBinaryDecimals(const HostField& field, const char* integer, 
         }
     }
     if (isFixedForm(field)) return finish(text, std::copy(positions, positions + width + 1, text));
-    const char* first = positions + position + 1;
+    const char* first = positions + (position + 1);
     char* end = cutTrailingZeros(first, positions + width + 1);
     if (end - first == 1 && *first == field.transferSettings().decimalSeparator) return finish(text, text);
     return finish(text, std::copy(first, static_cast<const char*>(end), text));
