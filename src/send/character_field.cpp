@@ -80,6 +80,8 @@ bool takeQuoted(std::string_view& rest, ClosingQuote closing, CollectedText& col
     }
 }
 
+bool startsWithPair(std::string_view text) { return !text.empty() && text::isLeadByte(text[0]); }
+
 void skipCharacter(std::string_view& rest) { rest.remove_prefix(std::min<std::size_t>(1, rest.size())); }
 
 // One character field of a record on its way to the field buffer.
@@ -95,12 +97,13 @@ public:
     bool extract(std::string_view& rest, char* destination);
 
 private:
-    bool beginsWithPair(std::string_view rest) const;
+    bool pairFirst(std::string_view rest) const;
+    std::uint32_t shiftBytes(std::string_view rest) const;
     void prefill(bool doubleByte);
     void padMixedText(std::uint32_t stored);
     bool collect(std::string_view& rest, CollectedText& collected);
     void takeDelimited(std::string_view& rest, CollectedText& collected) const;
-    void takeFixed(std::string_view& rest);
+    void takeLine(std::string_view rest);
     bool isSourceSend() const { return settings_.hostFileType == host::value::SourceFile; }
     bool isLongTextKept() const {
         return converter_.tfSession->codePage().isCodePage43() && settings_.sendFileType != settings::BasicSequential;
@@ -116,19 +119,14 @@ private:
 bool CharacterField::extract(std::string_view& rest, char* destination) {
     if (settings_.sendFileType == settings::Dif && !isSourceSend() && !takeDifPiece(rest, receive::dif::StringHead))
         return refuseDifValue(converter_);
-    const bool pairFirst = beginsWithPair(rest);
-    const bool doubleByte = type_ == receive::DoubleByteOnly || (type_ == receive::DoubleByteOpen && pairFirst);
-    prefill(doubleByte);
     std::size_t sourceLength = length_;
     if (isSourceSend()) {
-        std::string_view line = rest;
-        takeFixed(line);
-    } else if (settings_.sendFileType == settings::AsciiText) {
-        takeFixed(rest);
+        takeLine(rest);
     } else {
-        // Double-byte text leaves room for the two shift bytes of the host.
-        const std::uint32_t shiftBytes = doubleByte && pairFirst ? std::min(length_, 2u) : 0;
-        CollectedText collected(buffer_, isLongTextKept() ? converter_.fieldBuffer.size() : length_ - shiftBytes);
+        const bool doubleByte =
+            type_ == receive::DoubleByteOnly || (type_ == receive::DoubleByteOpen && pairFirst(rest));
+        prefill(doubleByte);
+        CollectedText collected(buffer_, isLongTextKept() ? converter_.fieldBuffer.size() : length_ - shiftBytes(rest));
         if (!collect(rest, collected)) return refuseDifValue(converter_);
         if (doubleByte) padMixedText(static_cast<std::uint32_t>(collected.stored()));
         sourceLength = std::max(sourceLength, collected.stored());
@@ -136,12 +134,19 @@ bool CharacterField::extract(std::string_view& rest, char* destination) {
     return converter_.pcToHost(buffer_, destination, static_cast<std::uint32_t>(sourceLength), length_);
 }
 
-// Whether the first byte of the field's data is that of a double-byte character.
-bool CharacterField::beginsWithPair(std::string_view rest) const {
+// Whether the first byte of the field's data is that of a double-byte character. A quote counts as data where the type
+// does without it.
+bool CharacterField::pairFirst(std::string_view rest) const {
     if (settings_.sendFileType == settings::AsciiText) return false;
     const bool quoted = settings_.sendFileType == settings::BasicSequential || settings_.sendFileType == settings::Dif;
-    const std::size_t first = quoted ? 1 : 0;
-    return first < rest.size() && text::isLeadByte(rest[first]);
+    return startsWithPair(rest.substr(std::min<std::size_t>(quoted ? 1 : 0, rest.size())));
+}
+
+// The room that double-byte text leaves for the two shift bytes of the host.
+std::uint32_t CharacterField::shiftBytes(std::string_view rest) const {
+    if (type_ != receive::DoubleByteOnly && type_ != receive::DoubleByteOpen) return 0;
+    if (settings_.sendFileType != settings::AsciiText && rest.starts_with('"')) rest.remove_prefix(1);
+    return startsWithPair(rest) ? std::min(length_, 2u) : 0;
 }
 
 // Double-byte blanks with two single-byte ones behind them make the host text end with a shift-in byte.
@@ -161,6 +166,10 @@ void CharacterField::padMixedText(std::uint32_t stored) {
 
 bool CharacterField::collect(std::string_view& rest, CollectedText& collected) {
     switch (settings_.sendFileType) {
+        case settings::AsciiText:
+            collected.add(rest.substr(0, length_));
+            rest.remove_prefix(std::min<std::size_t>(length_, rest.size()));
+            return true;
         case settings::BasicSequential:
             skipCharacter(rest);
             takeQuoted(rest, ClosingQuote::BeforeComma, collected);
@@ -190,10 +199,10 @@ void CharacterField::takeDelimited(std::string_view& rest, CollectedText& collec
     rest.remove_prefix(end);
 }
 
-void CharacterField::takeFixed(std::string_view& rest) {
-    const std::size_t taken = std::min<std::size_t>(length_, rest.size());
-    std::copy_n(rest.data(), taken, buffer_);
-    rest.remove_prefix(taken);
+// A source line stands in each of its fields, with single blanks behind its end.
+void CharacterField::takeLine(std::string_view rest) {
+    prefill(false);
+    std::copy_n(rest.data(), std::min<std::size_t>(length_, rest.size()), buffer_);
 }
 
 }  // namespace

@@ -178,8 +178,10 @@ bool SendRun::readLayout() {
     converter_->readHostFields(client_.progressDialog, true);
     // A list that was cut short, which has been reported, would give records of another layout than the host's.
     if (converter_->fieldResult.returnCode != provider::NoMoreData || !takeHostLength()) return false;
-    converter_->hostRecord = host::OwnedBytes::make(hostLength_, true);
-    converter_->fieldBuffer = host::OwnedBytes::make(hostLength_, true);
+    // A field without a length is refused under its name, with the first record.
+    const std::uint32_t bytes = std::max(hostLength_, 1u);
+    converter_->hostRecord = host::OwnedBytes::make(bytes, true);
+    converter_->fieldBuffer = host::OwnedBytes::make(bytes, true);
     return (converter_->hostRecord && converter_->fieldBuffer) || fail(provider::OutOfMemory);
 }
 
@@ -188,7 +190,7 @@ bool SendRun::takeHostLength() {
         hostLength_ += field.fieldLength().bytes;
         if (hostLength_ > provider::BufferSize) return failText(LongRecordText);
     }
-    return hostLength_ != 0 || failText(NoFieldsText);
+    return converter_->fields.count() != 0 || failText(NoFieldsText);
 }
 
 bool SendRun::prepareData() {
