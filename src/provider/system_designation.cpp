@@ -21,8 +21,11 @@ const char* withoutNetwork(const char* name) {
     return point[1] ? point + 2 : point + 1;
 }
 
-char upperAscii(char character) {
-    return character >= 'a' && character <= 'z' ? static_cast<char>(character - 'a' + 'A') : character;
+void upperAscii(char* name) {
+    for (std::string_view rest = name; !rest.empty(); rest.remove_prefix(text::characterBytes(rest))) {
+        char& character = name[rest.data() - name];
+        if (character >= 'a' && character <= 'z') character = static_cast<char>(character - 'a' + 'A');
+    }
 }
 
 }  // namespace
@@ -32,10 +35,12 @@ const char* TransferFunctionSession::hostSystemDesignation() {
     char buffer[sizeof(systemDesignation_)] = {};
     host::GetStringSetting(settings_, host::setting::HostSystemName, buffer, sizeof(buffer));
     const char* name = transportType_ == QualifiedNameTransport ? withoutNetwork(buffer) : buffer;
-    const std::string_view shown = std::string_view(name).substr(0, NameLength);
+    char shown[NameLength + 1];
+    text::copyCut(name, shown, sizeof(shown));
+    upperAscii(shown);
 
     char* next = std::copy_n("SYSTEM(", NameOffset, systemDesignation_);
-    std::transform(shown.begin(), shown.end(), next, upperAscii);
+    std::copy_n(shown, std::strlen(shown), next);
     next[NameLength] = ')';
     next[NameLength + 1] = '\0';
     return *name ? systemDesignation_ : nullptr;

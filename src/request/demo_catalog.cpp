@@ -46,7 +46,7 @@ std::uint32_t nameFile(const ZXFRPCSCLIENT& client, std::string_view filter, Hos
     if (filter.empty()) {
         setName(client, entry, "", LibraryTexts[client.demoIndex]);
     } else if (slash == std::string_view::npos) {
-        text::copyCut(filter.substr(0, LibraryName), entry.name, sizeof(entry.name));
+        text::copyCut(filter, entry.name, LibraryName + 1);
     } else if (slash + 1 == filter.size()) {
         char library[LibraryName + 2];
         text::copyCut(filter.substr(0, slash), library, LibraryName + 1);
