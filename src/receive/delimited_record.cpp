@@ -122,7 +122,8 @@ bool DelimitedRecord::convertCharacterField(const HostField& field, const char* 
     const bool quoted = type_ == settings::BasicSequential || type_ == settings::Dif;
     if (type_ == settings::Dif) out_.append(dif::StringHead);
     if (quoted) out_.append('"');
-    if (!out_.ensure(bytes + 1)) return true;
+    // The conversion may need all the room its bytes give it, behind the head, and a zero byte.
+    if (!out_.ensure(bytes * FieldBytesPerHostByte + 1)) return true;
     std::uint32_t converted = 0;
     if (!converter_.hostToPc(source, out_.end(), bytes, out_.room() - 1, &converted)) return false;
     const std::uint32_t length = std::max(bytes, converted);
