@@ -1,14 +1,11 @@
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <utility>
 
 #include "support/library.h"
+#include "support/own_folder.h"
 
 // z7xfer as a person meets it: a process with arguments, two output streams and an exit status.
 
@@ -21,12 +18,6 @@ struct Outcome {
     std::string output, errors;
 };
 
-std::string contents(const fs::path& file) {
-    std::ostringstream text;
-    text << std::ifstream(file, std::ios::binary).rdbuf();
-    return text.str();
-}
-
 std::size_t lines(const std::string& text) {
     return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
 }
@@ -37,23 +28,14 @@ std::string lastLine(std::string text) {
     return text.substr(text.rfind('\n') + 1);
 }
 
-class Cli : public ::testing::Test {
+class Cli : public OwnFolder {
 protected:
-    void SetUp() override {
-        const auto* test = ::testing::UnitTest::GetInstance()->current_test_info();
-        folder_ = fs::temp_directory_path() / (std::string("z7x-cli-") + test->name());
-        fs::remove_all(folder_);
-        fs::create_directories(folder_);
-    }
-    void TearDown() override { fs::remove_all(folder_); }
-
     // Runs in the test's own folder, without a desktop.
     Outcome run(const std::string& arguments) const {
-        const std::string command = "cd \"" + folder_.string() + "\" && env -u DISPLAY -u WAYLAND_DISPLAY \"" +
+        const std::string command = "cd \"" + folder.string() + "\" && env -u DISPLAY -u WAYLAND_DISPLAY \"" +
                                     program_.string() + "\" " + arguments + " >stdout.txt 2>stderr.txt </dev/null";
         const int status = std::system(command.c_str());
-        return {status >= 0 && (status & 0xFF) == 0 ? status >> 8 & 0xFF : -1, contents(folder_ / "stdout.txt"),
-                contents(folder_ / "stderr.txt")};
+        return {status >= 0 && (status & 0xFF) == 0 ? status >> 8 & 0xFF : -1, read("stdout.txt"), read("stderr.txt")};
     }
     // Ends with `status`, and says `text` on the error output.
     Outcome expect(int status, const std::string& arguments, const std::string& text) const {
@@ -62,10 +44,9 @@ protected:
         EXPECT_NE(outcome.errors.find(text), std::string::npos) << arguments << "\n" << outcome.errors;
         return outcome;
     }
-    std::string read(const std::string& name) const { return contents(folder_ / name); }
+    std::string read(const std::string& name) const { return fileBytes(path(name)); }
 
     const fs::path program_ = fs::absolute(binFolder()) / "z7xfer";
-    fs::path folder_;
 };
 
 TEST_F(Cli, WrongUsageIsStatusTwoAndLeavesStandardOutputAlone) {
@@ -110,7 +91,7 @@ TEST_F(Cli, DemonstrationIsATableOfTwentyThreeRows) {
     EXPECT_EQ(run("demo --set DisplayRowsPerPage=1").output, outcome.output);
     EXPECT_EQ(run("demo --quiet").errors, "");
     expect(0, "receive A/B x.csv --set ConnectionType=3", "nothing was transferred");
-    EXPECT_FALSE(fs::exists(folder_ / "x.csv"));
+    EXPECT_FALSE(fs::exists(path("x.csv")));
 }
 
 TEST_F(Cli, TallyCountsWhatIsInTheFile) {
@@ -138,6 +119,18 @@ TEST_F(Cli, TallyCountsWhatIsInTheFile) {
     EXPECT_EQ(read("countries.csv").size(), 2 * file.size());
 }
 
+TEST_F(Cli, EveryFamilyOfProvidersGivesTheSameFile) {
+    std::string file;
+    for (const std::string transport : {"2", "8", "5", "30"}) {
+        const std::string options = " --set RouterKind=1 --set TransportType=" + transport;
+        const std::string query = "\"QGPL/CUST WORLD/COUNTRY\" c.csv --join \"t1.CNTRY = T2.CODE\" --order-by CUSTNO";
+        expect(0, "receive " + query + " --count" + options, "complete: 10 records");
+        expect(1, "receive QGPL/NONE" + options, "HSF1011 File NONE in library QGPL not found.");
+        EXPECT_TRUE(file.empty() || read("c.csv") == file) << transport;
+        file = read("c.csv");
+    }
+}
+
 TEST_F(Cli, EmptySourceIsToldAsZeroRecords) {
     const Outcome plain = run("receive QGPL/EMPTY empty.csv");
     EXPECT_EQ(plain.status, 0);
@@ -145,11 +138,11 @@ TEST_F(Cli, EmptySourceIsToldAsZeroRecords) {
     // With a count the library ends before it opens the file.
     const Outcome counted = expect(1, "receive QGPL/EMPTY counted.csv --count", "z7xfer: message ");
     EXPECT_EQ(lastLine(counted.errors), "z7xfer: failed: 0 records, counted.csv was not written");
-    EXPECT_FALSE(fs::exists(folder_ / "counted.csv"));
+    EXPECT_FALSE(fs::exists(path("counted.csv")));
 }
 
 TEST_F(Cli, FailuresCarryTheirMessageAndStatusOne) {
-    fs::create_directory(folder_ / "nothing");
+    fs::create_directory(path("nothing"));
     const std::pair<const char*, const char*> cases[] = {
         {"receive WORLD/COUNTRY x.csv --providers nothing", "z7xfer: message 4400: "},
         {"receive WORLD/COUNTRY x.csv --decimal ,", "z7xfer: message 4433: "},
@@ -166,9 +159,8 @@ TEST_F(Cli, FailuresCarryTheirMessageAndStatusOne) {
 }
 
 TEST_F(Cli, SettingsFileIsBehindTheCommandLine) {
-    std::ofstream(folder_ / "wide.set", std::ios::binary)
-        << "# types\n\nReceiveFileType = 5\r\npcfilename=from-file.txt\n";
-    std::ofstream(folder_ / "bad.set") << "120=5\nReceiveFileType=wide\n";
+    writeFile(path("wide.set"), "# types\n\nReceiveFileType = 5\r\npcfilename=from-file.txt\n");
+    writeFile(path("bad.set"), "120=5\nReceiveFileType=wide\n");
     ASSERT_EQ(run("receive WORLD/COUNTRY tab.txt --type tab").status, 0);
     ASSERT_EQ(run("receive WORLD/COUNTRY text.txt --type text").status, 0);
     const std::string tab = read("tab.txt"), text = read("text.txt");

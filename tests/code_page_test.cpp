@@ -1,11 +1,11 @@
 #include <ostream>
 
+#include "platform/platform.h"
 #include "support/transfer_fixture.h"
 
 namespace {
 
-using hostfields::character;
-using hostfields::typed;
+using namespace hostfields;
 using Strings = std::vector<std::string>;
 
 class CodePage : public TransferFixture {
@@ -14,10 +14,7 @@ protected:
     std::string sent(const Strings& fields, const std::string& pcRecord) {
         hostFile.fields = fields;
         hostFile.received.clear();
-        set(setting::CreateMode, 2);
-        set(setting::UseDescriptionFile, 1);
-        set(setting::SendDescriptionFile, "SENT.FDF");
-        writeFile(path("SENT.FDF"), "PCFDF\r\nPCFT 1\r\nPCFL T 1 10\r\n");
+        sendByDescription(1);
         writePcFile(pcRecord + "\r\n");
         send();
         return hostFile.received.empty() ? "nothing" : hostFile.received[0];
@@ -91,6 +88,19 @@ struct Pc {
 
 void PrintTo(const Pc& pc, std::ostream* out) { *out << pc.name; }
 
+const auto nameOf = [](const testing::TestParamInfo<Pc>& info) { return std::string(info.param.name); };
+
+class OnDoubleBytePc : public CodePage, public testing::WithParamInterface<Pc> {
+protected:
+    void SetUp() override {
+        CodePage::SetUp();
+        const emulator::PcSetup pc = {GetParam().ansi, GetParam().ansi, GetParam().language, '.', ','};
+        if (!emulator::setUpPc(pc)) GTEST_SKIP() << "on another PC";
+        set(setting::HostCodePage, GetParam().host);
+    }
+    const std::string pc_ = GetParam().pc;
+};
+
 const Pc Pcs[] = {{"Japanese930", 932, 0x0411, 930, "日本", "\x93\xFA\x96\x7B", "\x81\x40"},
                   {"Japanese939", 932, 0x0411, 939, "日本", "\x93\xFA\x96\x7B", "\x81\x40"},
                   {"Korean933", 949, 0x0412, 933, "한국", "\xC7\xD1\xB1\xB9", "\xA1\xA1"},
@@ -98,24 +108,21 @@ const Pc Pcs[] = {{"Japanese930", 932, 0x0411, 930, "日本", "\x93\xFA\x96\x7B"
                   {"Traditional937", 950, 0x0404, 937, "中國", "\xA4\xA4\xB0\xEA", "\xA1\x40"}};
 
 // The library works the user's double-byte blank out once, so each of these needs a process of its own.
-class DoubleByte : public CodePage, public testing::WithParamInterface<Pc> {
+class DoubleByte : public OnDoubleBytePc {
 protected:
     void SetUp() override {
-        CodePage::SetUp();
-        const emulator::PcSetup pc = {GetParam().ansi, GetParam().ansi, GetParam().language, '.', ','};
-        if (!emulator::setUpPc(pc)) GTEST_SKIP() << "on another PC";
-        set(setting::HostCodePage, GetParam().host);
+        OnDoubleBytePc::SetUp();
+        if (IsSkipped()) return;
         text_ = hostText(GetParam().utf8, static_cast<std::uint32_t>(GetParam().host));
         ASSERT_EQ(text_.size(), 6u);
         ASSERT_EQ(text_[0], '\x0E');
         ASSERT_EQ(text_[5], '\x0F');
     }
     std::string text_;  // 0E, two characters, 0F
-    const std::string pc_ = GetParam().pc;
 };
 
 TEST_P(DoubleByte, ReceivedInEveryType) {
-    const Strings fields = {typed(7, "A", 8), hostfields::zoned("N", 3), typed(8, "B", 6)};
+    const Strings fields = {typed(7, "A", 8), zoned("N", 3), typed(8, "B", 6)};
     const std::string record = text_ + "\x40\x40" + HostRecord().zoned(-12, 3).str() + text_;
     const std::string four(4, ' '), two(2, ' ');
     EXPECT_EQ(received(AsciiText, fields, {record}), pc_ + four + " -12" + pc_ + two + "\r\n");
@@ -178,7 +185,33 @@ TEST_P(DoubleByte, EachFailingAllocationIsReportedOrHarmless) {
     failEachAllocation(transfer, [this] { deleteClient(); });
 }
 
-INSTANTIATE_TEST_SUITE_P(Pages, DoubleByte, testing::ValuesIn(Pcs),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Pages, DoubleByte, testing::ValuesIn(Pcs), nameOf);
+
+// --- The PC's own functions -----------------------------------------------------------------------------------------
+
+class DoubleBytePc : public OnDoubleBytePc {};
+
+// `pc` is no letter, and its second byte is that of a small "a".
+TEST_P(DoubleBytePc, SecondBytesAreNoLetters) {
+    std::string text = pc_ + "a";
+    EXPECT_EQ(platform::GetUserDefaultLangID(), GetParam().language);
+    EXPECT_TRUE(platform::IsDBCSLeadByte(static_cast<std::uint8_t>(text[0])));
+    EXPECT_FALSE(platform::IsDBCSLeadByte('a'));
+    EXPECT_EQ(platform::CharNextA(text.c_str()), text.c_str() + 2);
+    platform::CharUpperA(text.data());
+    EXPECT_EQ(text, pc_ + "A");
+    platform::CharToOemBuffA(text.data(), text.data(), static_cast<std::uint32_t>(text.size()));
+    EXPECT_EQ(text, pc_ + "A");
+    platform::OemToCharBuffA(text.data(), text.data(), static_cast<std::uint32_t>(text.size()));
+    platform::CharLowerA(text.data());
+    EXPECT_EQ(text, pc_ + "a");
+}
+
+const Pc OtherPcs[] = {{"Japanese", 932, 0x0411, 939, "", "\x81\x61", ""},
+                       {"Korean", 949, 0x0412, 933, "", "\xB0\x61", ""},
+                       {"SimplifiedChinese", 936, 0x0804, 935, "", "\x81\x61", ""},
+                       {"TraditionalChinese", 950, 0x0404, 937, "", "\xA1\x61", ""}};
+
+INSTANTIATE_TEST_SUITE_P(Pcs, DoubleBytePc, testing::ValuesIn(OtherPcs), nameOf);
 
 }  // namespace

@@ -10,7 +10,7 @@ rm -rf "$folder"
 mkdir -p "$folder"
 cd "$folder"
 # A DIF file begins with the number of its records, which is asked for first.
-awk '/^GET_DATA/ && !asked { print "GET_DATA 0 0 hex:00000003"; asked = 1 } { print }' "$script" >counted.script
+awk '/^GET_DATA/ && !asked { print "GET_DATA 00000003"; asked = 1 } { print }' "$script" >counted.script
 providers=$(dirname "$native")/scripted
 [ -d "$providers" ] || { echo "$providers is missing: build the tests of the native build first"; exit 1; }
 

@@ -1,74 +1,29 @@
-#include "emulator/emulator.h"
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cstring>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
-#include <string>
 #include <tuple>
-#include <vector>
 
 #include "host/conversion.h"
 #include "host/dialogs.h"
 #include "host/runtime.h"
 #include "host/session.h"
-#include "host/text_display.h"
 #include "platform/platform.h"
+#include "support/transfer_fixture.h"
 
 namespace {
 
 namespace files = std::filesystem;
 using Lines = std::vector<std::string>;
 
-struct User : emulator::UserInterface {
-    std::vector<emulator::MessageBox> boxes;
-    std::int32_t answer = 1;
-    std::int32_t showMessage(const emulator::MessageBox& box) override {
-        boxes.push_back(box);
-        return answer;
-    }
-};
-
-class Emulator : public testing::Test {
+class Emulator : public TransferFixture {
 protected:
-    Emulator() {
-        emulator::reset();
-        emulator::setUserInterface(&user);
-        session = emulator::newSession();
-        settings = host::GetSessionSettings(session);
-        const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-        folder = files::temp_directory_path() / ("z7x_emulator_" + std::string(test->name()));
-        files::remove_all(folder);
-        files::create_directories(folder / "Data");
-    }
-    ~Emulator() override {
-        emulator::reset();
-        files::remove_all(folder);
-    }
+    Emulator() { std::filesystem::create_directory(path("Data")); }
 
-    std::string pcName(const std::string& name) const { return (folder / name).string(); }
-    void put(const std::string& name, const std::string& text) const {
-        std::ofstream(folder / name, std::ios::binary) << text;
-    }
-    std::string get(const std::string& name) const {
-        std::stringstream text;
-        text << std::ifstream(folder / name, std::ios::binary).rdbuf();
-        return text.str();
-    }
     host::FileObject* file(const std::string& name, std::uint32_t action = 1) const {
         host::FileObject* object = host::CreateFileObject(session);
-        object->setName(pcName(name).c_str());
+        object->setName(path(name).c_str());
         object->setExistingFileAction(action);
         return object;
     }
-
-    User user;
-    host::SessionHandle session;
-    host::SettingsHandle settings;
-    files::path folder;
 };
 
 TEST_F(Emulator, ExistingFileIsTreatedAsAskedFor) {
@@ -80,8 +35,8 @@ TEST_F(Emulator, ExistingFileIsTreatedAsAskedFor) {
     };
     for (const auto& [action, newFileOnly, answer, questionFlags, left] : cases) {
         SCOPED_TRACE(testing::Message() << "action " << action << " answer " << answer);
-        put("out.txt", "old");
-        user.boxes.clear();
+        writeFile(path("out.txt"), "old");
+        user.messages.clear();
         user.answer = answer;
         host::FileObject* object = file("OUT.TXT", action);
         if (newFileOnly) object->prepareNewFile();
@@ -89,48 +44,34 @@ TEST_F(Emulator, ExistingFileIsTreatedAsAskedFor) {
         EXPECT_EQ(object->write("new", 3), left != "old");
         object->close();
         object->destroy();
-        EXPECT_EQ(get("out.txt"), left);
-        ASSERT_GE(user.boxes.size(), questionFlags ? 1u : 0u);
-        EXPECT_EQ(user.boxes.empty() ? 0u : user.boxes[0].flags, questionFlags);
+        EXPECT_EQ(fileBytes(path("out.txt")), left);
+        ASSERT_GE(user.messages.size(), questionFlags ? 1u : 0u);
+        EXPECT_EQ(user.messages.empty() ? 0u : user.messages[0].flags, questionFlags);
     }
     EXPECT_EQ(emulator::openObjects().files, 0u);
-}
-
-TEST_F(Emulator, FileIsReadWhole) {
-    put("in.txt", "0123456789");
-    host::FileObject* object = file("in.txt");
-    EXPECT_EQ(object->size(), 10u);
-    auto* whole = static_cast<char*>(object->readWhole());
-    ASSERT_NE(whole, nullptr);
-    EXPECT_EQ(std::string(whole, 10), "0123456789");
-    host::FreeObject(whole);
-    EXPECT_FALSE(object->errorState());
-    object->destroy();
 }
 
 TEST_F(Emulator, FileFailureIsToldOnce) {
     host::FileObject* object = file("missing.txt");
     EXPECT_EQ(object->size(), 0u);
-    EXPECT_TRUE(user.boxes.empty());
+    EXPECT_TRUE(user.messages.empty());
     for (int i = 0; i < 2; ++i) EXPECT_TRUE(object->errorState());
-    ASSERT_EQ(user.boxes.size(), 1u);
+    ASSERT_EQ(user.messages.size(), 1u);
     for (const char* said : {"missing.txt", "No such file"})
-        EXPECT_NE(user.boxes[0].text.find(said), std::string::npos);
+        EXPECT_NE(user.messages[0].text.find(said), std::string::npos);
     EXPECT_FALSE(object->openForReading());  // tells at once
-    EXPECT_EQ(user.boxes.size(), 2u);
-    object->setName(pcName("Data").c_str());
+    EXPECT_EQ(user.messages.size(), 2u);
+    object->setName(path("Data").c_str());
     EXPECT_FALSE(object->openForWriting());
-    EXPECT_EQ(user.boxes.size(), 3u);
-    object->setName(pcName("full.txt").c_str());
-    emulator::Faults faults;
-    faults.failWriteAfterBytes = 10;
-    emulator::setFaults(faults);
+    EXPECT_EQ(user.messages.size(), 3u);
+    object->setName(path("full.txt").c_str());
+    setFault(&emulator::Faults::failWriteAfterBytes, 10);
     ASSERT_TRUE(object->openForWriting());
     for (const bool fits : {true, false, false}) EXPECT_EQ(object->write("12345678", 8), fits);
     EXPECT_TRUE(object->errorState());
-    EXPECT_EQ(user.boxes.size(), 4u);
+    EXPECT_EQ(user.messages.size(), 4u);
     object->destroy();  // closes
-    EXPECT_EQ(get("full.txt"), "12345678");
+    EXPECT_EQ(fileBytes(path("full.txt")), "12345678");
 }
 
 TEST_F(Emulator, LongOutputArrivesWholeAndInOrder) {
@@ -145,11 +86,11 @@ TEST_F(Emulator, LongOutputArrivesWholeAndInOrder) {
         ASSERT_EQ(object->position(), expected.size());
     }
     object->destroy();
-    EXPECT_EQ(get("long.txt"), expected);
+    EXPECT_EQ(fileBytes(path("long.txt")), expected);
 }
 
 TEST_F(Emulator, NamesAreFoundAsOnThePc) {
-    put("Data/Cust.Txt", "x");
+    writeFile(path("Data/Cust.Txt"), "x");
     auto* paths = static_cast<host::PathServices*>(host::GetSessionObject(session, host::PathServicesKind));
     const std::string root = folder.string(), expected = root + "/Data/Cust.Txt";
     std::string backslashed = root + "/dATA/CUST.txt";
@@ -189,14 +130,14 @@ TEST_F(Emulator, DoubleByteNamesAreNotCut) {
     char base[261];
     paths->baseName("C:\\A\\\x95\x5C.TXT", base);
     EXPECT_STREQ(base, "\x95\x5C");
-    put("\xE8\xA1\xA8.txt", "x");
+    writeFile(path("\xE8\xA1\xA8.txt"), "x");
     const std::string found = emulator::nativePath(folder.string() + "\\\x95\x5C.TXT");
     EXPECT_TRUE(files::equivalent(found, folder / "\xE8\xA1\xA8.txt")) << found;
 }
 
 TEST_F(Emulator, LibrariesAreFoundLoadedAndCounted) {
     emulator::setProviderFolder(folder.string());
-    put("text.dll", "no library");
+    writeFile(path("text.dll"), "no library");
     for (const auto& entry : files::directory_iterator(files::absolute(testing::internal::GetArgvs()[0]).parent_path()))
         if (entry.path().filename().string().find("z7xscript") != std::string::npos)
             files::copy_file(entry, folder / "Probe.Dll", files::copy_options::overwrite_existing);
@@ -233,10 +174,10 @@ TEST_F(Emulator, CatalogueHasASentenceForEverything) {
          {0x05, 0x06, 0x07, 0x16, 0x1C, 0x32, 0x33, 0x37, 0x48, 0x4B, 0x51, 0x87, 0xD4, 0xD5, 0xD7, 0xD8, 0xEC, 0xF5})
         for (const std::uint32_t table : {22, 45}) ids.push_back(host::MessageId(table, code));
     host::ShowMessage(session, 0, 1, 0x30, 1, 0);
-    const std::string absent = user.boxes.back().text;
+    const std::string absent = user.messages.back().text;
     for (std::uint32_t id : ids) {
         host::ShowMessage(session, 0, id, 0x30, 1, id);
-        EXPECT_NE(user.boxes.back().text, absent) << id;
+        EXPECT_NE(user.messages.back().text, absent) << id;
     }
 }
 
@@ -248,7 +189,7 @@ TEST_F(Emulator, InsertsFillTheirPlaces) {
     const char* expected[] = {"An error occurred while a %2 (return code 8193).",
                               "Record 3: the value of field 2 cannot be stored in the host field.",
                               "The host reported an error (return code 12288). refused Message of the host: IWS0001"};
-    for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(user.boxes[i].text, expected[i]);
+    for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(user.messages[i].text, expected[i]);
     char bounded[21] = "%1 of %2 %3", one[] = "%2", two[] = "7", tooLong[] = "123456789012345678";
     host::TextRecord text{bounded, 20}, first{one, 0}, second{two, 0}, third{tooLong, 0};
     const host::TextRecord* inserts[] = {&first, &second, &third};
@@ -258,37 +199,12 @@ TEST_F(Emulator, InsertsFillTheirPlaces) {
     EXPECT_STREQ(bounded, "%2 of 7 %3");
 }
 
-std::vector<std::string> watched;
-std::uint32_t ZHST_CALL watch(host::SessionHandle, std::uint32_t id, std::int32_t value, std::int32_t old) {
-    watched.push_back(std::to_string(id) + ": " + std::to_string(old) + " -> " + std::to_string(value));
-    return 1;
-}
-
-TEST_F(Emulator, WatchersHearOfUserAndServices) {
-    watched.clear();
-    host::WatchSetting(settings, 215, &watch);
-    host::WatchSetting(settings, 215, &watch);
-    host::UnwatchSetting(settings, 215, &watch);
-    emulator::set(session, 215, 9);
-    host::SetSetting(settings, 215, 8);
-    host::SetSetting(settings, 216, 1);
-    host::UnwatchSetting(settings, 215, &watch);
-    emulator::set(session, 215, 7);
-    EXPECT_EQ(watched, (Lines{"215: 0 -> 9", "215: 9 -> 8"}));
-    EXPECT_EQ(host::GetSetting(settings, 215), 7);
-    EXPECT_EQ(emulator::openObjects().watches, 0u);
-}
-
 TEST_F(Emulator, JournalLinesHaveTheirShape) {
-    struct Nested : User {
-        explicit Nested(host::SettingsHandle of) : settings(of) {}
-        void pump() override { host::IsMessageEnabled(settings, 4315); }
-        host::SettingsHandle settings;
-    } nested(settings);
-    emulator::setUserInterface(&nested);
-    emulator::set(session, 40, std::string("AS400"));
-    emulator::set(session, 215, 9);
-    emulator::journalOn(true);
+    const host::SettingsHandle settings = host::GetSessionSettings(session);
+    user.onPump = [settings] { host::IsMessageEnabled(settings, 4315); };
+    set(40, std::string("AS400"));
+    set(215, 9);
+    emulator::clearJournal();
     host::GetSetting(settings, 215);
     char buffer[4];
     host::GetStringSetting(settings, 40, buffer, sizeof buffer);
@@ -316,35 +232,16 @@ TEST_F(Emulator, JournalLinesHaveTheirShape) {
     EXPECT_EQ(emulator::storeItem("XDTI").value, "\x01\"\\\r\n\t\xFF");
 }
 
-std::uint32_t ZHST_CALL countNotification(void* context) { return ++*static_cast<std::uint32_t*>(context); }
-
-TEST_F(Emulator, UserReachesTheDisplayInFront) {
-    std::uint32_t asked[2] = {};
-    host::TextDisplayParameters parameters{3, session, "Records", &countNotification, 0, nullptr, &asked[0]};
-    const host::TextDisplayHandle behind = host::TextDisplayCreate(&parameters);
-    parameters.context = &asked[1];
-    const host::TextDisplayHandle front = host::TextDisplayCreate(&parameters);
-    for (const std::uint32_t row : {1, 2}) EXPECT_EQ(host::TextDisplayAddRow(front, 0), row);
-    emulator::requestNextPage();
-    emulator::closeDisplay();  // has no call-back here
-    for (const auto display : {front, behind}) {
-        host::TextDisplayDestroy(display);
-        emulator::requestNextPage();
-    }
-    for (const std::uint32_t count : asked) EXPECT_EQ(count, 1u);
-    EXPECT_EQ(emulator::openObjects().textDisplays, 0u);
-}
-
 TEST_F(Emulator, ConversionKnowsPage43AndRefusesUnknownPages) {
     const host::ConverterHandle converter = host::GetEmulatorConverter(session);
     unsigned char text[] = {0x4A, 0x4A};  // the cent sign, as in page 37
-    emulator::set(session, 105, 43);
+    set(105, 43);
     EXPECT_EQ(host::ConvertHostText(converter, host::HostToPc, 1, text), 0u);
     EXPECT_EQ(text[0], 0xA2);
     EXPECT_EQ(text[1], 0x4A);
     EXPECT_EQ(host::ConvertHostText(converter, host::PcToHost, 1, text), 0u);
     EXPECT_EQ(text[0], 0x4A);
-    emulator::set(session, 105, 99999);
+    set(105, 99999);
     EXPECT_NE(host::ConvertHostText(converter, host::HostToPc, 1, text), 0u);
 }
 

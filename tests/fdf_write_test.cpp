@@ -2,19 +2,13 @@
 
 namespace {
 
-using hostfields::binary;
-using hostfields::character;
-using hostfields::hex;
-using hostfields::packed;
-using hostfields::typed;
-using hostfields::zoned;
+using namespace hostfields;
 
 class FdfWrite : public TransferFixture {
 protected:
     void SetUp() override {
         TransferFixture::SetUp();
-        set(setting::WriteDescriptionFile, 1);
-        set(setting::ReceiveDescriptionFile, "*.FDF");
+        describe();
         set(setting::ReceiveFileType, AsciiText);
         hostFile.fields = {character("NAME", 20)};
     }
@@ -28,11 +22,10 @@ protected:
 constexpr const char* Zeros = "PCFO 6,4,9,5,*\r\n";  // all of the settings 0
 
 TEST_F(FdfWrite, FieldsInEachFileType) {
-    hostFile.fields = {hex("HX", 3),          binary("B2", 2),       binary("B4", 4, 2),
-                       character("NAME", 20), zoned("AMOUNT", 7, 2), packed("COUNT", 9),
-                       packed("PD", 5, 2),    typed(6, "T6", 10),    typed(7, "T7", 11),
-                       typed(8, "T8", 12),    typed(11, "T11", 1),   typed(12, "T12", 2),
-                       typed(13, "T13", 300), typed(9, "T9", 4),     hostfields::raw(0, 2, 0, "HD", 4)};
+    hostFile.fields = {hex("HX", 3),          binary("B2", 2),    binary("B4", 4, 2),   character("NAME", 20),
+                       zoned("AMOUNT", 7, 2), packed("COUNT", 9), packed("PD", 5, 2),   typed(6, "T6", 10),
+                       typed(7, "T7", 11),    typed(8, "T8", 12), typed(11, "T11", 1),  typed(12, "T12", 2),
+                       typed(13, "T13", 300), typed(9, "T9", 4),  raw(0, 2, 0, "HD", 4)};
     const std::string text =
         "PCFL HX 2 1\r\nPCFL B2 2 5\r\nPCFL B4 2 11/2\r\nPCFL NAME 1 20\r\nPCFL AMOUNT 2 9/2\r\nPCFL COUNT 2 10\r\n"
         "PCFL PD 2 7/2\r\nPCFL T6 1 10\r\nPCFL T7 1 11\r\nPCFL T8 1 12\r\nPCFL T11 1 1\r\nPCFL T12 1 2\r\n"
@@ -68,33 +61,22 @@ TEST_F(FdfWrite, FieldsInEachFileType) {
 }
 
 TEST_F(FdfWrite, EachValueOfTheOptions) {
-    const std::pair<std::int32_t, const char*> timeFormats[] = {{0, "6"}, {1, "7"}, {2, "4"},  {3, "1"},  {4, "2"},
-                                                                {5, "5"}, {6, "3"}, {7, "-1"}, {-1, "-1"}};
-    const std::pair<std::int32_t, const char*> timeSeparators[] = {{0, "4"}, {1, "1"}, {2, "3"}, {3, "-1"},
-                                                                   {4, "6"}, {5, "5"}, {6, "2"}, {7, "-1"}};
-    const std::pair<std::int32_t, const char*> dateFormats[] = {{0, "9"}, {1, "10"}, {2, "2"},  {3, "7"},
-                                                                {4, "5"}, {5, "8"},  {6, "4"},  {7, "1"},
-                                                                {8, "6"}, {9, "3"},  {10, "-1"}};
-    const std::pair<std::int32_t, const char*> dateSeparators[] = {{0, "5"}, {1, "-1"}, {2, "4"}, {3, "2"}, {4, "7"},
-                                                                   {5, "6"}, {6, "3"},  {7, "1"}, {8, "-1"}};
-    const std::pair<std::int32_t, const char*> decimals[] = {{6, "1"}, {2, "2"}, {8, "*"}, {0, "*"}, {1, "*"}};
-    const auto options = [this] {
-        const std::string text = written();
-        const auto at = text.find("PCFO ");
-        return text.substr(at, text.find("\r\n", at) - at);
-    };
-    const auto check = [&](std::uint32_t id, const auto& values, const std::string& before, const std::string& after) {
-        for (const auto& [value, code] : values) {
-            set(id, value);
-            EXPECT_EQ(options(), "PCFO " + before + code + after) << id << " = " << value;
+    using Codes = std::vector<std::string>;  // of the values 0, 1, 2 ...
+    const auto check = [this](std::uint32_t id, const Codes& codes, const std::string& before, const char* after) {
+        for (std::size_t value = 0; value < codes.size(); ++value) {
+            set(id, static_cast<std::int32_t>(value));
+            const std::string options = "\r\nPCFO " + before + codes[value] + after + "\r\n";
+            EXPECT_NE(written().find(options), std::string::npos) << id << " = " << value;
         }
         set(id, 0);
     };
-    check(setting::TimeFormat, timeFormats, "", ",4,9,5,*");
-    check(setting::TimeSeparator, timeSeparators, "6,", ",9,5,*");
-    check(setting::DateFormat, dateFormats, "6,4,", ",5,*");
-    check(setting::DateSeparator, dateSeparators, "6,4,9,", ",*");
-    check(setting::DecimalSeparatorMode, decimals, "6,4,9,5,", "");
+    check(setting::TimeFormat, {"6", "7", "4", "1", "2", "5", "3", "-1"}, "", ",4,9,5,*");
+    check(setting::TimeSeparator, {"4", "1", "3", "-1", "6", "5", "2", "-1"}, "6,", ",9,5,*");
+    check(setting::DateFormat, {"9", "10", "2", "7", "5", "8", "4", "1", "6", "3", "-1"}, "6,4,", ",5,*");
+    check(setting::DateSeparator, {"5", "-1", "4", "2", "7", "6", "3", "1", "-1"}, "6,4,9,", ",*");
+    check(setting::DecimalSeparatorMode, {"*", "*", "2", "*", "*", "*", "1", "*", "*"}, "6,4,9,5,", "");
+    set(setting::TimeFormat, -1);
+    EXPECT_NE(written().find("PCFO -1,"), std::string::npos);
 }
 
 TEST_F(FdfWrite, WhereTheDescriptionGoes) {

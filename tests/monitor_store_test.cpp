@@ -68,8 +68,7 @@ TEST_F(MonitorStore, EveryExchangeOfATransferByteForByte) {
 }
 
 TEST_F(MonitorStore, ResultsKeepTheirDataButForTwoKinds) {
-    Answer reset = Answer::code(0x2005, "RESET DATA");
-    scripted::answerNext(provider::TF_RESET, reset);
+    scripted::answerNext(provider::TF_RESET, Answer::code(0x2005, "RESET DATA"));
     scripted::answerNext(provider::TF_SEND_REQUEST, Answer::code(0, "IGNORED"));
     Answer refused = Answer::code(0xFFFF3000u, "NO SUCH FILE");
     refused.detail = 0xABCD0102u;
@@ -86,17 +85,6 @@ TEST_F(MonitorStore, WithoutADesignationThereAreZeros) {
     set(setting::HostSystemName, "");
     receive();
     for (const auto& value : of("XUGI")) EXPECT_EQ(value.substr(6, 41), std::string(41, '\0'));
-}
-
-TEST_F(MonitorStore, AnswersThatCannotBeKeptDoNoHarm) {
-    for (const auto place : {scripted::Place::Null, scripted::Place::SharedBuffer}) {
-        Answer answer = Answer::data("AB");
-        answer.place = place;
-        answer.dataLength = 0xFFFFFFF0u;
-        scripted::answerNext(provider::TF_GET_DATA, answer);
-        receive();
-        expectIdle();
-    }
 }
 
 // Nothing of a transfer depends on the store.

@@ -2,34 +2,15 @@
 
 namespace {
 
-using hostfields::binary;
-using hostfields::character;
-using hostfields::hex;
-using hostfields::packed;
-using hostfields::raw;
-using hostfields::zoned;
+using namespace hostfields;
+
+const std::string LineEnd = "\r\n";
 
 class NumericText : public TransferFixture {
 protected:
     void SetUp() override {
         TransferFixture::SetUp();
-        // So that a comma may be the decimal separator in every file type.
-        emulator::PcSetup pc;
-        pc.listSeparator = ';';
-        ASSERT_TRUE(emulator::setUpPc(pc));
-    }
-    // What becomes of the fields in a file of one record.
-    std::string received(FileType type, const std::vector<std::string>& fields, const std::string& record) {
-        hostFile.fields = fields;
-        hostFile.records = {record};
-        set(setting::ReceiveFileType, type);
-        receive();
-        const std::string bytes = pcFileBytes();
-        const std::string begin = type == Dif ? "BOT\r\n" : "";
-        const std::string end = type == Dif ? "-1,0\r\nEOD\r\n" : "\r\n";
-        const auto at = type == Dif ? bytes.rfind(begin) + begin.size() : 0;
-        if (bytes.size() < at + end.size() || bytes.substr(bytes.size() - end.size()) != end) return "[" + bytes + "]";
-        return bytes.substr(at, bytes.size() - at - end.size());
+        useListSeparator(';');  // so that a comma may be the decimal separator in every file type
     }
 };
 
@@ -93,11 +74,11 @@ TEST_F(NumericText, FixedAndDelimitedForms) {
         const std::string record = bytesOf(row.bytes);
         const bool isHex = row.field[0] == 0;
         const std::string quoted = isHex ? "\"" + std::string(row.delimited) + "\"" : row.delimited;
-        EXPECT_EQ(received(AsciiText, {row.field}, record), row.fixed);
-        EXPECT_EQ(received(BasicSequential, {row.field}, record), quoted);
-        EXPECT_EQ(received(CommaSeparated, {row.field}, record), row.delimited);
-        EXPECT_EQ(received(TabDelimited, {row.field}, record), row.delimited);
-        EXPECT_EQ(received(Dif, {row.field}, record),
+        EXPECT_EQ(received(AsciiText, {row.field}, {record}), row.fixed + LineEnd);
+        EXPECT_EQ(received(BasicSequential, {row.field}, {record}), quoted + LineEnd);
+        EXPECT_EQ(received(CommaSeparated, {row.field}, {record}), row.delimited + LineEnd);
+        EXPECT_EQ(received(TabDelimited, {row.field}, {record}), row.delimited + LineEnd);
+        EXPECT_EQ(lastTuple(received(Dif, {row.field}, {record})),
                   isHex ? "1,0\r\n" + quoted + "\r\n" : "0," + quoted + "\r\nV\r\n");
     }
 }
@@ -116,22 +97,22 @@ TEST_F(NumericText, SeparatorFollowsTheModeAndTheLocale) {
         pc.listSeparator = ';';
         ASSERT_TRUE(emulator::setUpPc(pc));
         set(setting::DecimalSeparatorMode, row.mode);
-        EXPECT_EQ(received(CommaSeparated, {zoned("N", 5, 2)}, bytesOf("F0F0F1F2F5")), row.text);
+        EXPECT_EQ(received(CommaSeparated, {zoned("N", 5, 2)}, {bytesOf("F0F0F1F2F5")}), row.text + LineEnd);
     }
 }
 
 TEST_F(NumericText, FieldsAsLongAsADescriptionCanSay) {
     const std::string digits(255, '\xF7');
-    EXPECT_EQ(received(AsciiText, {zoned("N", 255)}, digits), " " + std::string(255, '7'));
-    EXPECT_EQ(received(CommaSeparated, {zoned("N", 255)}, digits), std::string(255, '7'));
-    EXPECT_EQ(received(CommaSeparated, {zoned("N", 255, 254)}, digits), "7." + std::string(254, '7'));
+    EXPECT_EQ(received(AsciiText, {zoned("N", 255)}, {digits}), " " + std::string(255, '7') + LineEnd);
+    EXPECT_EQ(received(CommaSeparated, {zoned("N", 255)}, {digits}), std::string(255, '7') + LineEnd);
+    EXPECT_EQ(received(CommaSeparated, {zoned("N", 255, 254)}, {digits}), "7." + std::string(254, '7') + LineEnd);
     const std::string packedDigits = std::string(254, '\x11') + '\x1F';
-    EXPECT_EQ(received(CommaSeparated, {raw(4, 255, 0, "N", 255)}, packedDigits), std::string(509, '1'));
+    EXPECT_EQ(received(CommaSeparated, {raw(4, 255, 0, "N", 255)}, {packedDigits}), std::string(509, '1') + LineEnd);
     std::string many;
     for (int i = 0; i < 4096; ++i) many += "AB";
     const std::string bytes(4096, '\xAB');
-    EXPECT_EQ(received(CommaSeparated, {hex("N", 4096)}, bytes), many);
-    EXPECT_EQ(received(BasicSequential, {hex("N", 4096)}, bytes), "\"" + many + "\"");
+    EXPECT_EQ(received(CommaSeparated, {hex("N", 4096)}, {bytes}), many + LineEnd);
+    EXPECT_EQ(received(BasicSequential, {hex("N", 4096)}, {bytes}), "\"" + many + "\"" + LineEnd);
     EXPECT_TRUE(user.messages.empty());
 }
 
@@ -149,7 +130,7 @@ TEST_F(NumericText, NonsenseDescriptionsDoNoHarm) {
         for (const FileType type : {AsciiText, BasicSequential, CommaSeparated, TabDelimited, Dif, BasicRandom}) {
             SCOPED_TRACE(hexOf(field.substr(0, 3)) + ", type " + std::to_string(type));
             user.messages.clear();
-            received(type, {field, character("C", 1)}, record);
+            received(type, {field, character("C", 1)}, {record});
             EXPECT_NE(pcFileBytes().find('Z') != std::string::npos, !user.messages.empty());
         }
     }

@@ -13,6 +13,7 @@ protected:
     void startOver() {
         TearDown();
         SetUp();
+        std::filesystem::remove(pcFile());
         user.messages.clear();
     }
     std::uint32_t sessionWindow() { return host::GetSessionWindow(host::GetSessionSettings(session)); }
@@ -110,29 +111,30 @@ TEST_F(ProviderBinding, DisabledMessageIsNotShownAndTheLibraryMayComeLater) {
     expectReceived();
 }
 
-struct Binding {
-    std::int32_t transport, routerKind;
-    Family family;
-    std::int32_t routerKindAfter;
+struct FamilyRow {
     const char* load;                // the journal's line of the provider's LoadModule
     std::vector<std::string> atEnd;  // entries that the deletion of the client reaches
 };
 
-const Binding Bindings[] = {
-    {2, 1, Family::Stf, 1, "LoadModule(\"E32TFW.DLL\", 0", {"TF_END_DATA", "E32TF_Cleanup"}},
-    {2, 2, Family::Stf, 1, "LoadModule(\"E32TFW.DLL\", 0", {"TF_END_DATA", "E32TF_Cleanup"}},
-    {4, 0, Family::Stf, 1, "LoadModule(\"E32TFW.DLL\", 0", {"TF_END_DATA", "E32TF_Cleanup"}},
-    {8, 1, Family::Requestor, 1, "LoadModule(\"ZEHNTFW.DLL\", 1", {"TF_RESET", "deleteZEHNTFWCLIENT"}},
-    {9, 1, Family::Requestor, 1, "LoadModule(\"ZEHNTFW.DLL\", 1", {"TF_RESET", "deleteZEHNTFWCLIENT"}},
-    {14, 1, Family::Requestor, 1, "LoadModule(\"ZEHNTFW.DLL\", 1", {"TF_RESET", "deleteZEHNTFWCLIENT"}},
-    {15, 1, Family::Requestor, 1, "LoadModule(\"ZEHNTFW.DLL\", 1", {"TF_RESET", "deleteZEHNTFWCLIENT"}},
-    {5, 1, Family::AppcRequestor, 1, "LoadModule(\"ZTFWAPPC.DLL\", 1", {"TF_RESET", "deleteZTFWAPPCCLIENT"}},
-    {7, 1, Family::AppcRequestor, 1, "LoadModule(\"ZTFWAPPC.DLL\", 1", {"TF_RESET", "deleteZTFWAPPCCLIENT"}},
-    {13, 1, Family::AppcRequestor, 1, "LoadModule(\"ZTFWAPPC.DLL\", 1", {"TF_RESET", "deleteZTFWAPPCCLIENT"}},
-    {30, 1, Family::As400, 2, "LoadModule(\"AS4XFER.DLL\", 1", {"deleteZAS4XFERCLIENT"}},
-    {6, 2, Family::As400, 2, "LoadModule(\"AS4XFER.DLL\", 1", {"deleteZAS4XFERCLIENT"}},
-    {12, 0, Family::As400, 0, "LoadModule(\"AS4XFER.DLL\", 1", {"deleteZAS4XFERCLIENT"}},
+// By family.
+const FamilyRow Families[] = {{"LoadModule(\"E32TFW.DLL\", 0", {"TF_END_DATA", "E32TF_Cleanup"}},
+                              {"LoadModule(\"ZEHNTFW.DLL\", 1", {"TF_RESET", "deleteZEHNTFWCLIENT"}},
+                              {"LoadModule(\"ZTFWAPPC.DLL\", 1", {"TF_RESET", "deleteZTFWAPPCCLIENT"}},
+                              {"LoadModule(\"AS4XFER.DLL\", 1", {"deleteZAS4XFERCLIENT"}}};
+
+struct Binding {
+    std::int32_t transport, routerKind;
+    Family family;
+    std::int32_t routerKindAfter;
 };
+
+const Binding Bindings[] = {{2, 1, Family::Stf, 1},           {2, 2, Family::Stf, 1},
+                            {4, 0, Family::Stf, 1},           {8, 1, Family::Requestor, 1},
+                            {9, 1, Family::Requestor, 1},     {14, 1, Family::Requestor, 1},
+                            {15, 1, Family::Requestor, 1},    {5, 1, Family::AppcRequestor, 1},
+                            {7, 1, Family::AppcRequestor, 1}, {13, 1, Family::AppcRequestor, 1},
+                            {30, 1, Family::As400, 2},        {6, 2, Family::As400, 2},
+                            {12, 0, Family::As400, 0}};
 
 TEST_F(ProviderBinding, EachTransportReachesItsFamilyAndLeavesIt) {
     for (const Binding& row : Bindings) {
@@ -143,9 +145,12 @@ TEST_F(ProviderBinding, EachTransportReachesItsFamilyAndLeavesIt) {
         emulator::clearJournal();
         expectReceived();
         EXPECT_EQ(number(setting::RouterKind), row.routerKindAfter);
-        EXPECT_EQ(journalCount(row.load), 1u);
+        const auto& [load, atEnd] = Families[static_cast<std::size_t>(row.family)];
+        EXPECT_EQ(journalCount(load), 1u);
         ASSERT_FALSE(scripted::calls().empty());
         EXPECT_EQ(scripted::calls().front().function, provider::TF_RESET);
+        EXPECT_EQ(scripted::calls().front().conversation, 0u);
+        EXPECT_EQ(scripted::calls().back().conversation, 1u);
         for (const auto& call : scripted::calls()) {
             EXPECT_EQ(call.family, row.family);
             EXPECT_EQ(call.reserved, 0u);
@@ -157,7 +162,7 @@ TEST_F(ProviderBinding, EachTransportReachesItsFamilyAndLeavesIt) {
             EXPECT_EQ(scripted::lastConstruction().session, session);
             EXPECT_EQ(scripted::lastConstruction().window, sessionWindow());
         }
-        EXPECT_EQ(entriesOf([this] { deleteClient(); }), row.atEnd);
+        EXPECT_EQ(entriesOf([this] { deleteClient(); }), atEnd);
         EXPECT_EQ(emulator::openObjects().modules, 0u);
     }
 }

@@ -64,8 +64,7 @@ protected:
 
 TEST_F(ReceiveDriver, StepsOfATransferToAFile) {
     set(setting::RecordProgress, 1);
-    set(setting::WriteDescriptionFile, 1);
-    set(setting::ReceiveDescriptionFile, "*.FDF");
+    describe();
     receive(1);
     expectInOrder(steps(
         "set 772=0|set 773=0|SetStringSetting(*, 774 *\"*\"|SetStringSetting(*, 775 *\"*\"|SetStringSetting(*, 776 "
@@ -185,12 +184,11 @@ TEST_F(ReceiveDriver, CancelAtEachCheck) {
         SCOPED_TRACE(std::string(scripted::functionName(row.function)) + " " + std::to_string(row.nth));
         std::filesystem::remove(pcFile());
         int calls = 0;
-        hostFile.intercept = [&](const scripted::Call& call) -> std::optional<Answer> {
+        hostFile.observe = [&](const scripted::Call& call) {
             if (call.function == row.function && ++calls == row.nth) library.pcsCancelTransfer(client());
-            return std::nullopt;
         };
         const auto entries = entriesOf([this] { receive(); });
-        hostFile.intercept = nullptr;
+        hostFile.observe = nullptr;
         std::vector<std::string> expected(whole, whole + row.entries);
         expected.push_back("TF_END_REQUEST");
         EXPECT_EQ(entries, expected);

@@ -188,9 +188,8 @@ TEST_F(Requests, OptionsAsText) {
 TEST_F(Requests, OptionsAsABlockEndAtTheFirstZeroByteOrTheirEnd) {
     useTransport(30);
     std::string buffer;
-    hostFile.intercept = [&](const scripted::Call& call) -> std::optional<scripted::Answer> {
+    hostFile.observe = [&](const scripted::Call& call) {
         if (call.request.rfind("OPTIONS", 0) == 0) buffer.assign(static_cast<const char*>(call.buffer), 32);
-        return std::nullopt;
     };
     const struct {
         std::int32_t values[6];  // decimal errors, time format, its separator, date format, its separator, decimals

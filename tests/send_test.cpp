@@ -23,15 +23,12 @@ protected:
         TransferFixture::SetUp();
         useListSeparator(';');
         set(setting::DecimalSeparatorMode, PeriodSeparates);
-        set(setting::UseDescriptionFile, 1);
-        set(setting::SendDescriptionFile, "pcfile.fdf");
-        set(setting::CreateMode, 2);
         hostFile.fields = {hf::character("NAME", 3)};
         useType(CommaSeparated);
     }
     void useType(FileType type) {
         const int codes[] = {1, 3, 99, 2, 6, 98, 5};
-        writeFile(path("pcfile.fdf"), "PCFDF\r\nPCFT " + std::to_string(codes[type]) + "\r\nPCFL NAME 1 3\r\n");
+        sendByDescription(codes[type]);
     }
     void useSource() {
         set(setting::UseDescriptionFile, 0);
@@ -327,8 +324,7 @@ TEST_F(Send, ReceivedFilesGoBackUnchanged) {
     };
     hostFile.records = {record("A \"B\", C", {12345, -1234, 99999, -32768, -2147483648}), record("", {-5, 1, -1, 5, 0}),
                         record(" x;\t'", {0, 0, 0, 0, 70})};
-    set(setting::WriteDescriptionFile, 1);
-    set(setting::ReceiveDescriptionFile, "pcfile.fdf");
+    describe();
     for (int type = AsciiText; type <= Dif; ++type) {
         SCOPED_TRACE(type);
         // A quote before a comma ends a text of this type: it has no way to write one.

@@ -4,8 +4,6 @@
 
 namespace {
 
-using scripted::Answer;
-
 class Session : public TwoRecords {
 protected:
     static bool bound() { return emulator::openObjects().modules != 0; }
@@ -57,23 +55,12 @@ TEST_F(Session, ChangesOfAConnectionCountAtItsEnd) {
     }
 }
 
-TEST_F(Session, ConversationLivesFromRequestToStop) {
-    receive();
-    EXPECT_EQ(scripted::calls().front().conversation, 0u);
-    EXPECT_EQ(scripted::calls().back().conversation, 1u);
-    library.xferCleanup(session);
-    EXPECT_EQ(entered("TF_END_DATA"), 1);
-    EXPECT_EQ(entered("E32TF_Cleanup"), 1);
-}
-
 // After a failed write the conversation is over, and so a stop has nothing to tell the provider.
 TEST_F(Session, StopWithoutAConversationIsSilent) {
     setFault(&emulator::Faults::failWriteAfterBytes, 3);
     // Behind the end of the data the provider gives no conversation any more.
-    hostFile.intercept = [](const scripted::Call& call) -> std::optional<Answer> {
-        if (call.function != provider::TF_END_REQUEST) return std::nullopt;
-        EXPECT_EQ(call.conversation, 0u);
-        return std::nullopt;
+    hostFile.observe = [](const scripted::Call& call) {
+        EXPECT_TRUE(call.function != provider::TF_END_REQUEST || call.conversation == 0);
     };
     receive();
     EXPECT_EQ(entered("TF_END_DATA"), 1);
@@ -103,15 +90,11 @@ TEST_F(Session, StopDuringAProviderCallWaitsForItsEnd) {
             library.xferCleanup(session);
             useTransport(2);
             std::size_t behind = 0;
-            Answer answer = function == provider::TF_GET_FIELD  ? Answer::data(hostFile.fields[0])
-                            : function == provider::TF_GET_DATA ? Answer::data(hostText("ALPHA"))
-                                                                : Answer{};
-            answer.meanwhile = [&] {
+            hostFile.during(function, [&] {
                 stop.stop();
                 EXPECT_TRUE(bound()) << "the provider is not unloaded under its own feet";
                 behind = scripted::entries().size();
-            };
-            scripted::answerNext(function, answer);
+            });
             receive();
             ASSERT_GT(behind, 0u);
             // The conversation, when there is one, is ended at once.
@@ -146,14 +129,12 @@ TEST_F(Session, YieldPumpsTheDialogOfTheExchange) {
     client();
     library.EHNTF_STF_Callback();
     EXPECT_TRUE(user.progressCommands.empty()) << "no exchange, no dialog";
-    Answer answer;
     std::vector<std::uint32_t> commands;
-    answer.meanwhile = [&] {
+    hostFile.during(provider::TF_SEND_REQUEST, [&] {
         user.progressCommands.clear();
         scripted::calls().back().yield();
         commands = user.progressCommands;
-    };
-    scripted::answerNext(provider::TF_SEND_REQUEST, answer);
+    });
     receive();
     EXPECT_EQ(commands, std::vector<std::uint32_t>{16});
 }
@@ -162,12 +143,10 @@ TEST_F(Session, CancelInTheYieldEndsTheTransfer) {
     user.onProgressCommand = [this](std::uint32_t command) {
         if (command == 16 && user.progressCommands.size() == 99) library.pcsCancelTransfer(client());
     };
-    Answer answer = Answer::data(hostText("ALPHA"));
-    answer.meanwhile = [this] {
+    hostFile.during(provider::TF_GET_DATA, [this] {
         user.progressCommands.resize(98);
         scripted::calls().back().yield();
-    };
-    scripted::answerNext(provider::TF_GET_DATA, answer);
+    });
     receive();
     EXPECT_EQ(pcFileBytes(), "ALPHA\r\n");
     EXPECT_EQ(scripted::entries().back(), "TF_END_REQUEST");
@@ -179,14 +158,12 @@ TEST_F(Session, OnlyTheFirstSessionIsCalledBack) {
     deleteClient();
     library.EHNTF_STF_Callback();
     library.deleteZXFRPCSCLIENT(second);
-    Answer answer;
     std::size_t pumped = 0;
-    answer.meanwhile = [&] {
+    hostFile.during(provider::TF_SEND_REQUEST, [&] {
         const auto before = user.progressCommands.size();
         library.EHNTF_STF_Callback();
         pumped = user.progressCommands.size() - before;
-    };
-    scripted::answerNext(provider::TF_SEND_REQUEST, answer);
+    });
     receive();
     EXPECT_EQ(pumped, 1u) << "a new session takes the place that has become free";
 }

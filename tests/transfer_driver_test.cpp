@@ -9,12 +9,9 @@ protected:
     // Reads a setting whenever the provider is called.
     std::vector<std::int32_t> duringTransfer(std::uint32_t id, const std::function<void()>& transfer) {
         std::vector<std::int32_t> values;
-        hostFile.intercept = [&](const scripted::Call&) -> std::optional<scripted::Answer> {
-            values.push_back(number(id));
-            return std::nullopt;
-        };
+        hostFile.observe = [&](const scripted::Call&) { values.push_back(number(id)); };
         transfer();
-        hostFile.intercept = nullptr;
+        hostFile.observe = nullptr;
         return values;
     }
 };
@@ -119,11 +116,7 @@ TEST_F(TransferDriver, TransferIsActiveOnlyWhileItRunsHoweverItEnds) {
         {"no file object", refuse(&emulator::Faults::refuseFileObject), {4001}},
         {"no progress dialog", refuse(&emulator::Faults::refuseProgressDialog), {4001}},
         {"cancelled",
-         [this] {
-             scripted::Answer answer;
-             answer.meanwhile = [this] { library.pcsCancelTransfer(client()); };
-             scripted::answerNext(provider::TF_SEND_REQUEST, answer);
-         },
+         [this] { hostFile.during(provider::TF_SEND_REQUEST, [this] { library.pcsCancelTransfer(client()); }); },
          {}},
     };
     receive();  // binds the provider
@@ -214,16 +207,6 @@ TEST_F(TransferDriver, IncompleteConnectionAsksAndACancelEndsTheTransfer) {
             EXPECT_GT(scripted::calls().size(), before) << "an accepted dialog goes on";
         }
     }
-}
-
-TEST_F(TransferDriver, EachFailingAllocationIsReportedOrHarmless) {
-    client();
-    failEachAllocation([this] {
-        receive(1);
-        EXPECT_TRUE(pcFileBytes() == Received || !user.messages.empty());
-        library.xferCleanup(session);
-    });
-    EXPECT_EQ(pcFileBytes(), Received);
 }
 
 }  // namespace

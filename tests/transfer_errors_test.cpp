@@ -176,15 +176,14 @@ TEST_F(TransferErrors, HostTextIsExactlyAsLongAsItsLength) {
 TEST_F(TransferErrors, CountAndJobAreThoseOfTheFailingTransfer) {
     set(setting::RecordProgress, 1);
     hostFile.count = 17;
-    Answer failed = Answer::code(8198);
-    failed.meanwhile = [this] {
+    int fetches = 0;  // of the count and two records
+    hostFile.intercept = [&](const scripted::Call& call) -> std::optional<Answer> {
+        if (call.function != provider::TF_GET_DATA || ++fetches != 3) return std::nullopt;
         set(setting::JobName, "QZDASOINIT");
         set(setting::JobUser, "QUSER");
         set(setting::JobNumber, "123456");
+        return Answer::code(8198);
     };
-    scripted::answerNext(provider::TF_GET_DATA, Answer::data(HostRecord().binary(17, 4)));
-    scripted::answerNext(provider::TF_GET_DATA, Answer::data(hostText("ALPHA")));
-    scripted::answerNext(provider::TF_GET_DATA, failed);
     receive();
     ASSERT_EQ(user.messages.size(), 1u);
     const std::string job = "Job name QZDASOINIT, user profile QUSER, job number 123456";

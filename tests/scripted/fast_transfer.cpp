@@ -58,14 +58,8 @@ std::uint32_t nextRecord(const Exchange& exchange) {
 
 }  // namespace
 
-void start(const FastTransfer& transfer) {
-    state = State{};
-    state.transfer = transfer;
-    state.running = true;
-}
 void stop() { state = State{}; }
 bool running() { return state.running; }
-FastTally tally() { return state.tally; }
 
 std::uint32_t answer(const Exchange& exchange) {
     *exchange.data = nullptr;
@@ -88,3 +82,10 @@ std::uint32_t answer(const Exchange& exchange) {
 }
 
 }  // namespace scripted::fast
+
+namespace scripted {
+
+void answerFast(const FastTransfer& transfer) { fast::state = {.transfer = transfer, .running = true, .tally = {}}; }
+FastTally fastTally() { return fast::state.tally; }
+
+}  // namespace scripted

@@ -5,10 +5,8 @@
 // The fast path of z7xscript: one transfer answered from arrays.
 namespace scripted::fast {
 
-void start(const FastTransfer& transfer);
 void stop();
 bool running();
 std::uint32_t answer(const Exchange& exchange);
-FastTally tally();
 
 }  // namespace scripted::fast

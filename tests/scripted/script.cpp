@@ -75,23 +75,10 @@ void* putData(const Answer& answer, const Exchange& exchange) {
         std::copy_n(answer.bytes.data(), std::min<std::size_t>(answer.bytes.size(), exchange.bufferSize), shared);
         return shared;
     }
-    if (script().switches.scrambleBuffer && exchange.function == provider::TF_SEND_REQUEST)
-        std::memset(shared, Wiped, exchange.bufferSize);
+    if (exchange.function == provider::TF_SEND_REQUEST) std::memset(shared, Wiped, exchange.bufferSize);
     if (place == Place::Null) return nullptr;
     script().ownMemory = answer.bytes;
     return script().ownMemory.data();
-}
-
-void setConversation(const Answer& answer, const Exchange& exchange) {
-    if (answer.conversation)
-        *exchange.conversation = *answer.conversation;
-    else if (exchange.function == provider::TF_SEND_REQUEST && *exchange.conversation == 0)
-        *exchange.conversation = 1;
-}
-
-// Data of an earlier answer is valid until this call; whoever still holds its address is to notice.
-void wipeOwnMemory() {
-    if (script().switches.wipeData) std::fill(script().ownMemory.begin(), script().ownMemory.end(), Wiped);
 }
 
 }  // namespace
@@ -109,8 +96,6 @@ void setListener(std::function<void(const std::string&)> listener) { script().li
 Construction lastConstruction() { return script().lastConstruction; }
 std::uint32_t liveClients() { return static_cast<std::uint32_t>(script().sessionOfClient.size()); }
 void setSwitches(const Switches& switches) { script().switches = switches; }
-void answerFast(const FastTransfer& transfer) { fast::start(transfer); }
-FastTally fastTally() { return fast::tally(); }
 
 Answer defaultAnswer(const Call& call) {
     const bool fetches = call.function == provider::TF_GET_FIELD || call.function == provider::TF_GET_DATA;
@@ -130,7 +115,7 @@ void enter(const char* entry) {
 
 std::uint32_t request(const Caller& caller, const Exchange& exchange) {
     if (fast::running()) return fast::answer(exchange);
-    wipeOwnMemory();
+    std::ranges::fill(script().ownMemory, Wiped);
     enter(functionName(exchange.function));
     const Call call = asCall(caller, exchange);
     script().calls.push_back(call);
@@ -139,7 +124,7 @@ std::uint32_t request(const Caller& caller, const Exchange& exchange) {
     *exchange.data = putData(answer, exchange);
     *exchange.dataLength = answer.dataLength.value_or(static_cast<std::uint32_t>(answer.bytes.size()));
     *exchange.detail = answer.detail;
-    setConversation(answer, exchange);
+    if (exchange.function == provider::TF_SEND_REQUEST && *exchange.conversation == 0) *exchange.conversation = 1;
     return answer.returnCode;
 }
 

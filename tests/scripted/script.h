@@ -12,7 +12,9 @@
 // libraries are shells; everything here lives in the shared library z7xscript, which they and the test both use.
 //
 // A call is answered by the first of: the queue of its function code, the handler, the default. The defaults are those
-// of a host with an empty file: no more data for fields and records, success for everything else.
+// of a host with an empty file: no more data for fields and records, success for everything else. The first request
+// begins conversation 1. The shared buffer is overwritten once a request in it was read, and own memory of an answer
+// when the next call arrives: whoever still holds its address is to notice.
 namespace scripted {
 
 enum class Family { Stf, Requestor, AppcRequestor, As400 };
@@ -46,9 +48,8 @@ struct Answer {
     std::uint32_t detail = 0;
     std::string bytes;
     Place place = Place::Usual;
-    std::optional<std::uint32_t> dataLength;    // otherwise the number of bytes
-    std::optional<std::uint32_t> conversation;  // otherwise unchanged; 0 becomes 1 on TF_SEND_REQUEST
-    std::function<void()> meanwhile;            // runs while the call is on the stack, before anything is answered
+    std::optional<std::uint32_t> dataLength;  // otherwise the number of bytes
+    std::function<void()> meanwhile;          // runs while the call is on the stack, before anything is answered
 
     static Answer data(std::string bytes) {
         Answer answer;
@@ -86,10 +87,8 @@ Construction lastConstruction();
 std::uint32_t liveClients();
 
 struct Switches {
-    bool refuseClient = false;   // the constructors give 0
-    bool routerRunning = true;   // answer of EHNAPPC_IsRouterLoaded
-    bool wipeData = true;        // own memory of an answer is overwritten when the next call arrives
-    bool scrambleBuffer = true;  // the shared buffer is overwritten once a request in it was read
+    bool refuseClient = false;  // the constructors give 0
+    bool routerRunning = true;  // answer of EHNAPPC_IsRouterLoaded
 };
 void setSwitches(const Switches& switches);
 

@@ -2,17 +2,26 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <deque>
 #include <fstream>
 #include <sstream>
+#include <string>
 
 #include "provider/provider_call.h"
-#include "scripted/text_script.h"
 
-// E32TFW.DLL as somebody else might have written it: it answers from the file that $Z7X_SCRIPT names.
+// E32TFW.DLL as somebody else might have written it: it answers from the file that $Z7X_SCRIPT names. A line is the
+// answer to one fetch, in the order of the lines of its kind:
+//
+//     # a comment; empty lines count for nothing
+//     GET_FIELD BYTES ...
+//     GET_DATA BYTES ...
+//
+// BYTES are hexadecimal digits; 40*12 is one byte, twelve times. Behind the last line of its kind a fetch is answered
+// with "no more data", everything else always with success. A reset starts the script anew.
 namespace {
 
 struct State {
-    textscript::Script script;
+    std::deque<std::string> fields, records;
     bool loaded = false;
     bool usable = false;
     std::string data;  // what the latest answer points to
@@ -23,32 +32,40 @@ State& state() {
     return instance;
 }
 
-bool load() {
+std::string bytesOf(const std::string& word) {
+    const auto byteAt = [&](std::size_t at) { return static_cast<char>(std::stoi(word.substr(at, 2), nullptr, 16)); };
+    const std::size_t star = word.find('*');
+    if (star != std::string::npos) return std::string(std::stoul(word.substr(star + 1)), byteAt(0));
+    std::string bytes;
+    for (std::size_t at = 0; at < word.size(); at += 2) bytes += byteAt(at);
+    return bytes;
+}
+
+bool takeLine(const std::string& line) {
+    std::istringstream words(line);
+    std::string kind, bytes;
+    if (!(words >> kind) || kind[0] == '#') return true;
+    for (std::string word; words >> word;) bytes += bytesOf(word);
+    (kind == "GET_FIELD" ? state().fields : state().records).push_back(bytes);
+    return kind == "GET_FIELD" || kind == "GET_DATA";
+}
+
+void load() {
     state() = State{};
     state().loaded = true;
     const char* const name = std::getenv("Z7X_SCRIPT");
-    std::ifstream file(name ? name : "", std::ios::binary);
-    std::ostringstream text;
-    text << file.rdbuf();
-    int line = 0;
-    if (!file)
-        std::fprintf(stderr, "script provider: cannot read %s\n", name ? name : "a script: Z7X_SCRIPT is not set");
-    else if (!textscript::parse(text.str(), &state().script, &line))
-        std::fprintf(stderr, "script provider: %s, line %d is no answer\n", name, line);
-    else
-        state().usable = true;
-    return state().usable;
+    std::ifstream file(name ? name : "");
+    state().usable = file.is_open();
+    for (std::string line; std::getline(file, line);) state().usable &= takeLine(line);
+    if (!state().usable) std::fprintf(stderr, "script provider: Z7X_SCRIPT names no script: %s\n", name ? name : "");
 }
 
-textscript::Answer next(std::uint32_t function) {
-    auto& answers = state().script[function];
-    if (answers.empty()) {
-        const bool fetches = function == provider::TF_GET_FIELD || function == provider::TF_GET_DATA;
-        return {fetches ? std::uint32_t{provider::NoMoreData} : std::uint32_t{provider::Success}, 0, {}};
-    }
-    textscript::Answer answer = std::move(answers.front());
+// False behind the last answer.
+bool next(std::deque<std::string>& answers) {
+    if (answers.empty()) return false;
+    state().data = std::move(answers.front());
     answers.pop_front();
-    return answer;
+    return true;
 }
 
 }  // namespace
@@ -61,18 +78,17 @@ SCRIPTED_EXPORT std::uint32_t ZHST_CALL EHNTF_STF(std::uint32_t, provider::Yield
     if (!state().loaded || function == provider::TF_RESET) load();
     if (!state().usable) return provider::FailedSilently;
     if (yield) yield();
-    const textscript::Answer answer = next(function);
-    state().data = answer.bytes;
-    *data = state().data.empty() ? nullptr : state().data.data();
-    if (function == provider::TF_GET_DATA && *data) {
-        std::memcpy(buffer, answer.bytes.data(), std::min<std::size_t>(answer.bytes.size(), bufferSize));
-        *data = buffer;
-    }
-    *dataLength = static_cast<std::uint32_t>(answer.bytes.size());
-    *detail = answer.detail;
+    *data = nullptr;
+    *dataLength = *detail = 0;
     if (function == provider::TF_SEND_REQUEST) *conversation = 1;
     if (function == provider::TF_END_DATA) *conversation = 0;
-    return answer.returnCode;
+    const bool record = function == provider::TF_GET_DATA;
+    if (!record && function != provider::TF_GET_FIELD) return provider::Success;
+    if (!next(record ? state().records : state().fields)) return provider::NoMoreData;
+    *data = state().data.data();
+    *dataLength = static_cast<std::uint32_t>(state().data.size());
+    if (record) *data = std::memcpy(buffer, *data, std::min(*dataLength, bufferSize));
+    return provider::Success;
 }
 
 SCRIPTED_EXPORT void ZHST_CALL E32TF_Cleanup() { state() = State{}; }

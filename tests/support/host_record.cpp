@@ -58,18 +58,18 @@ HostRecord& HostRecord::text(std::string_view utf8, std::size_t length, std::uin
     return raw(bytes);
 }
 
-HostRecord& HostRecord::zoned(std::int64_t value, int digits, int positive, int negative) {
+HostRecord& HostRecord::zoned(std::int64_t value, int digits) {
     for (const char digit : decimalDigits(value, digits)) bytes_ += static_cast<char>(0xF0 | (digit - '0'));
     const int last = bytes_.back() & 0x0F;
-    bytes_.back() = static_cast<char>((value < 0 ? negative : positive) << 4 | last);
+    bytes_.back() = static_cast<char>((value < 0 ? 0xD : 0xF) << 4 | last);
     return *this;
 }
 
-HostRecord& HostRecord::packed(std::int64_t value, int digits, int positive, int negative) {
+HostRecord& HostRecord::packed(std::int64_t value, int digits) {
     // An odd number of digits and the sign fill whole bytes.
     std::string nibbles = decimalDigits(value, digits % 2 == 0 ? digits + 1 : digits);
     for (char& nibble : nibbles) nibble = static_cast<char>(nibble - '0');
-    nibbles += static_cast<char>(value < 0 ? negative : positive);
+    nibbles += static_cast<char>(value < 0 ? 0xD : 0xF);
     for (std::size_t i = 0; i < nibbles.size(); i += 2) bytes_ += static_cast<char>(nibbles[i] << 4 | nibbles[i + 1]);
     return *this;
 }
@@ -78,8 +78,6 @@ HostRecord& HostRecord::binary(std::int64_t value, int bytes) {
     for (int i = bytes - 1; i >= 0; --i) bytes_ += static_cast<char>(static_cast<std::uint64_t>(value) >> (8 * i));
     return *this;
 }
-
-HostRecord& HostRecord::hex(std::string_view hexDigits) { return raw(bytesOf(hexDigits)); }
 
 HostRecord& HostRecord::raw(std::string_view bytes) {
     bytes_ += bytes;

@@ -16,16 +16,16 @@ class HostRecord {
 public:
     // Padded with host blanks to `length`; a longer text is cut.
     HostRecord& text(std::string_view utf8, std::size_t length, std::uint32_t codePage = 37);
-    // `positive` and `negative` are the sign nibbles.
-    HostRecord& zoned(std::int64_t value, int digits, int positive = 0xF, int negative = 0xD);
-    HostRecord& packed(std::int64_t value, int digits, int positive = 0xF, int negative = 0xD);
+    HostRecord& zoned(std::int64_t value, int digits);
+    HostRecord& packed(std::int64_t value, int digits);
     HostRecord& binary(std::int64_t value, int bytes);
-    HostRecord& hex(std::string_view hexDigits);
-    HostRecord& raw(std::string_view bytes);
+    HostRecord& hex(std::string_view hexDigits) { return raw(bytesOf(hexDigits)); }
 
     const std::string& str() const { return bytes_; }
     operator const std::string&() const { return bytes_; }
 
 private:
+    HostRecord& raw(std::string_view bytes);
+
     std::string bytes_;
 };

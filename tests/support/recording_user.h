@@ -24,7 +24,6 @@ public:
         std::vector<std::string> statuses;
         bool ended = false;
         bool open = false;
-        std::uint32_t pages = 0;  // how often the next page was asked for
     };
 
     std::int32_t answer = 1;
@@ -36,10 +35,9 @@ public:
 
     std::vector<emulator::MessageBox> messages;
     std::uint32_t connectionDialogs = 0;
-    std::uint32_t pumps = 0;
     std::vector<std::uint32_t> progressModes;  // of every dialog created
     std::vector<std::uint32_t> progressCommands;
-    std::string progressPcName, progressHostName;
+    std::string progressPcName;
     std::uint32_t progressTotalAmount = 0, progressUnit = 0;
     bool progressIsHidden = false;
     Display display;  // the latest
@@ -50,21 +48,32 @@ public:
     void readOn();
 
     std::int32_t showMessage(const emulator::MessageBox& box) override;
-    bool connectionDialog() override;
-    void pump() override;
-    void progressCreated(std::uint32_t direction, std::uint32_t mode) override;
+    bool connectionDialog() override {
+        ++connectionDialogs;
+        return acceptConnectionDialog;
+    }
+    void pump() override { onPump ? onPump() : readOn(); }
+    void progressCreated(std::uint32_t, std::uint32_t mode) override { progressModes.push_back(mode); }
     void progressCommand(std::uint32_t command) override;
-    void progressNames(const std::string& pcName, const std::string& hostName) override;
-    void progressTotal(std::uint32_t total, std::uint32_t unit) override;
+    void progressNames(const std::string& pcName, const std::string&) override { progressPcName = pcName; }
+    void progressTotal(std::uint32_t total, std::uint32_t unit) override {
+        progressTotalAmount = total;
+        progressUnit = unit;
+    }
     void progressHidden(bool hidden) override { progressIsHidden = hidden; }
     void displayCreated(const std::string& title) override;
     void displayBegin(std::int32_t rowsPerPage) override { display.rowsPerPage = rowsPerPage; }
     void displayColumn(std::uint32_t index, const std::string& title, std::uint32_t width,
-                       std::uint32_t alignment) override;
+                       std::uint32_t alignment) override {
+        display.columns[index] = {title, width, alignment};
+    }
     void displayRow() override { display.rows.emplace_back(); }
     void displayCell(std::uint32_t row, std::uint32_t column, const std::string& text) override;
     void displayStatus(const std::string& text) override { display.statuses.push_back(text); }
     void displayEnd() override { display.ended = true; }
     void displayDestroyed() override { display.open = false; }
-    std::int32_t shellExecute(const std::string& file, const std::string& parameters) override;
+    std::int32_t shellExecute(const std::string& file, const std::string& parameters) override {
+        shellCalls.emplace_back(file, parameters);
+        return shellResult;
+    }
 };

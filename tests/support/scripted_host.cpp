@@ -17,6 +17,8 @@ void ScriptedHost::install() {
 Answer ScriptedHost::answer(const scripted::Call& call) {
     if (call.function == provider::TF_SEND_REQUEST) statements.push_back(call.request);
     if (call.function == provider::TF_PUT_DATA) received.push_back(call.request);
+    if (observe) observe(call);
+    if (auto act = acts_.extract(call.function)) act.mapped()();
     if (intercept)
         if (auto other = intercept(call)) return *other;
     switch (call.function) {
@@ -54,11 +56,4 @@ Answer ScriptedHost::nextData() {
     const auto& source = request_ == Request::Catalogue ? catalogue : records;
     if (nextData_ == source.size()) return Answer::code(provider::NoMoreData);
     return Answer::data(source[nextData_++]);
-}
-
-std::vector<std::string> ScriptedHost::statementsOf(const std::string& verb) const {
-    std::vector<std::string> found;
-    for (const auto& statement : statements)
-        if (beginsWith(statement, verb)) found.push_back(statement);
-    return found;
 }

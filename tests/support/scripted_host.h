@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -25,9 +26,10 @@ public:
     // Makes this host the handler of z7xscript; it has to live as long as calls arrive.
     void install();
     scripted::Answer answer(const scripted::Call& call);
-
-    // Statements that begin with `verb` ("SELECT *", "OPTIONS").
-    std::vector<std::string> statementsOf(const std::string& verb) const;
+    // Hears of every call that arrives here, before it is answered.
+    std::function<void(const scripted::Call&)> observe;
+    // `act` runs once, while the next call of the function is on the stack and nothing is answered yet.
+    void during(std::uint32_t function, std::function<void()> act) { acts_[function] = std::move(act); }
 
 private:
     enum class Request { None, Count, Data, Catalogue };
@@ -36,6 +38,7 @@ private:
     scripted::Answer nextField();
     scripted::Answer nextData();
 
+    std::map<std::uint32_t, std::function<void()>> acts_;
     Request request_ = Request::None;
     std::size_t nextField_ = 0;
     std::size_t nextData_ = 0;

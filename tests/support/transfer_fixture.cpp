@@ -1,23 +1,11 @@
 #include "support/transfer_fixture.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
-#include <utility>
 
 #include "host/session.h"
-#include "platform/platform.h"
+#include "support/ready_session.h"
 
 namespace {
-
-// In lower case throughout: the library lower-cases the name of an opened file.
-std::filesystem::path newFolder() {
-    static int number = 0;
-    const std::string name = "z7x-" + std::to_string(platform::GetCurrentProcessId()) + "-" + std::to_string(++number);
-    const auto folder = std::filesystem::temp_directory_path() / name;
-    std::filesystem::create_directories(folder);
-    return folder;
-}
 
 std::string joined(const std::vector<std::string>& lines) {
     std::string text;
@@ -50,26 +38,14 @@ std::string journalText(const std::string& text) {
 }  // namespace
 
 void TransferFixture::SetUp() {
-    folder_ = newFolder();
     emulator::reset();
     scripted::reset();
     emulator::setUserInterface(&user);
     ASSERT_TRUE(emulator::setUpPc(emulator::usualPc()));
     useProviders("scripted_families");
     session = emulator::newSession();
+    completeSettings(session, pcFile());
     set(setting::HostSystemName, "as400a");
-    set(setting::ConnectionParam248, "param 248");
-    set(setting::ConnectionParam250, "param 250");
-    set(setting::ConnectionParam512, "param 512");
-    useTransport(2);
-    set(setting::PcFileName, pcFile());
-    set(setting::HostFileName, "QGPL/CUST");
-    set(setting::ReceiveOutput, ToFile);
-    set(setting::ReceiveFileType, CommaSeparated);
-    set(setting::SendFileType, CommaSeparated);
-    set(setting::ExistingFileAction, 1);
-    set(setting::DisplayRowsPerPage, 20);
-    set(setting::StartRecord, 1);
     hostFile.install();
     scripted::setListener([](const std::string& entry) { emulator::note("provider " + entry); });
     blocksBefore_ = emulator::allocations().liveBlocks;
@@ -79,31 +55,24 @@ void TransferFixture::SetUp() {
 void TransferFixture::TearDown() {
     // Deleting the client still talks to the provider, when the locals these hold on to are gone.
     hostFile.intercept = nullptr;
+    hostFile.observe = nullptr;
     user.onMessage = nullptr;
     user.onPump = nullptr;
     user.onProgressCommand = nullptr;
     emulator::setFaults({});
-    expectNothingLeft();
+    deleteClient();
+    expectIdle();
+    EXPECT_EQ(emulator::openObjects().modules, 0u);
+    EXPECT_EQ(emulator::openObjects().watches, 0u);
+    EXPECT_EQ(scripted::liveClients(), 0u);
+    EXPECT_EQ(emulator::allocations().liveBlocks, blocksBefore_);
     scripted::reset();
     emulator::setUserInterface(nullptr);
-    std::error_code ignored;
-    std::filesystem::remove_all(folder_, ignored);
 }
 
 ZXFRPCSCLIENT* TransferFixture::client() {
     if (!client_) client_ = library.newZXFRPCSCLIENT(session);
     return client_;
-}
-
-void TransferFixture::deleteClient() { library.deleteZXFRPCSCLIENT(std::exchange(client_, nullptr)); }
-
-void TransferFixture::useTransport(std::int32_t transportType, std::int32_t routerKind) {
-    set(setting::TransportType, transportType);
-    set(setting::RouterKind, routerKind);
-}
-
-void TransferFixture::useProviders(const std::string& folder) {
-    emulator::setProviderFolder(binFolder() + "/" + folder);
 }
 
 void TransferFixture::useListSeparator(char separator) {
@@ -118,9 +87,12 @@ std::string TransferFixture::messageText(std::uint32_t table, std::uint32_t inde
     return text.c_str();
 }
 
-void TransferFixture::receive(std::uint32_t showProgress) { library.pcsTransferFile(client(), "", 0, showProgress, 0); }
-
-void TransferFixture::send(std::uint32_t showProgress) { library.pcsTransferFile(client(), "", 1, showProgress, 0); }
+void TransferFixture::sendByDescription(int type) {
+    set(setting::CreateMode, 2);
+    set(setting::UseDescriptionFile, 1);
+    set(setting::SendDescriptionFile, "pcfile.fdf");
+    writeFile(path("pcfile.fdf"), "PCFDF\r\nPCFT " + std::to_string(type) + "\r\nPCFL NAME 1 3\r\n");
+}
 
 std::string TransferFixture::received(FileType type, const std::vector<std::string>& fields,
                                       const std::vector<std::string>& records) {
@@ -129,6 +101,12 @@ std::string TransferFixture::received(FileType type, const std::vector<std::stri
     set(setting::ReceiveFileType, type);
     receive();
     return pcFileBytes();
+}
+
+std::string TransferFixture::lastTuple(const std::string& dif) {
+    const auto at = dif.rfind("BOT\r\n") + 5;
+    const auto end = dif.rfind("-1,0\r\nEOD\r\n");
+    return end == std::string::npos || end < at ? dif : dif.substr(at, end - at);
 }
 
 std::vector<std::string> TransferFixture::entriesOf(const std::function<void()>& transfer) {
@@ -162,15 +140,6 @@ void TransferFixture::failEachAllocation(const std::function<void()>& transfer, 
     ADD_FAILURE() << "after " << Limit << " allocations the transfer still had more";
 }
 
-std::string TransferFixture::fileBytes(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-void TransferFixture::writeFile(const std::string& path, const std::string& bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
-
 void TransferFixture::expectInOrder(const std::vector<std::string>& texts) const {
     auto line = emulator::journal().begin();
     const auto end = emulator::journal().end();
@@ -197,14 +166,4 @@ void TransferFixture::expectIdle() const {
     EXPECT_EQ(open.progressDialogs, 0u);
     EXPECT_EQ(open.textDisplays, 0u);
     EXPECT_EQ(open.lockedLists, 0u);
-}
-
-void TransferFixture::expectNothingLeft() {
-    deleteClient();
-    expectIdle();
-    const auto open = emulator::openObjects();
-    EXPECT_EQ(open.modules, 0u);
-    EXPECT_EQ(open.watches, 0u);
-    EXPECT_EQ(scripted::liveClients(), 0u);
-    EXPECT_EQ(emulator::allocations().liveBlocks, blocksBefore_);
 }
