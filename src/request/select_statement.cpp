@@ -79,6 +79,7 @@ std::int32_t queryRecordCount(ZXFRPCSCLIENT& client) {
     if (!checkLastResult(client, CountingRecords)) return QueryFailed;
     const std::int32_t count = bigEndian(tf.dataBuffer());
     if (reportsEndOfCount(tf)) fetchCountRecord(client);
+    if (!tf.isStarted()) return QueryFailed;  // stopped during that fetch, and told so
     if (tf.tfIsAs400Mode()) tf.tfEndRequest();
     if (count >= 0) return count;
     provider::showOwnText(client.dialogOwner(), BadRecordCount, client.progressDialog);
