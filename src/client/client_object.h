@@ -45,6 +45,9 @@ struct ZXFRPCSCLIENT {
     void pumpMessages();
     // Makes the transfer-function session when it is missing, then starts it.
     bool tfStart();
+    // A transfer, or a call that waits for the provider, has the shared buffer: what comes in from its message pump
+    // would write over what stands there.
+    bool isBusy() const { return transferRunning || (tfSession && tfSession->isWaiting()); }
 
     provider::MessageOwner messageOwner() const { return {session, settings, mainWindow}; }
     // During a transfer, its owner window.

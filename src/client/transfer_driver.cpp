@@ -167,7 +167,7 @@ void runTransfer(ZXFRPCSCLIENT& client, const char* settingsFile, std::uint32_t 
 
 void transferFile(ZXFRPCSCLIENT& client, const char* settingsFile, std::uint32_t direction, std::uint32_t showProgress,
                   host::WindowHandle ownerWindow) {
-    if (client.transferRunning) return;
+    if (client.isBusy()) return;
     client.transferRunning = true;
     runTransfer(client, settingsFile, direction, showProgress, ownerWindow);
     client.transferRunning = false;

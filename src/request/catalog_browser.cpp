@@ -78,12 +78,6 @@ bool sendExtract(ZXFRPCSCLIENT& client, std::string_view filter, std::uint32_t e
     return true;
 }
 
-// A transfer, or a call that waits for the provider, has the shared buffer; a listing from its message pump would write
-// over the record in it.
-bool isBusy(const ZXFRPCSCLIENT& client) {
-    return client.transferRunning || (client.tfSession && client.tfSession->isWaiting());
-}
-
 std::uint32_t listFirst(ZXFRPCSCLIENT& client, HostCatalogEntry& entry, const char* filter) {
     if (!client::checkConnection(client) || !client.tfStart() || !sendExtract(client, filter, entry.entryKind))
         return CatalogFailure;
@@ -102,7 +96,7 @@ std::uint32_t listFirst(ZXFRPCSCLIENT& client, HostCatalogEntry& entry, const ch
 }  // namespace
 
 std::uint32_t getFirstHostFilename(ZXFRPCSCLIENT& client, const char* filter, HostCatalogEntry* entry) {
-    if (!entry || isBusy(client)) return CatalogFailure;
+    if (!entry || client.isBusy()) return CatalogFailure;
     if (!filter) filter = "";
     if (isDemonstration(client)) return firstDemoEntry(client, filter, *entry);
     const std::uint32_t result = listFirst(client, *entry, filter);
@@ -111,7 +105,7 @@ std::uint32_t getFirstHostFilename(ZXFRPCSCLIENT& client, const char* filter, Ho
 }
 
 std::uint32_t getNextHostFilename(ZXFRPCSCLIENT& client, HostCatalogEntry* entry) {
-    if (!entry || isBusy(client)) return CatalogFailure;
+    if (!entry || client.isBusy()) return CatalogFailure;
     if (isDemonstration(client)) return nextDemoEntry(client, *entry);
     if (!client.tfStart() || !fetchRecord(client)) return CatalogFailure;
     return fillHostCatalogEntry(client, *entry);
