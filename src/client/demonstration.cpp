@@ -27,8 +27,11 @@ constexpr std::uint32_t columnWidths[] = {12, 15, 22, 21, 6, 7};
 constexpr std::uint32_t ColumnCount = std::size(columnWidths);
 
 constexpr std::uint32_t TextTable = 7;
+// Texts of the status line, and the sizes of their buffers.
 constexpr std::uint32_t NormalStatusText = 418;
+constexpr std::uint32_t NormalStatusSize = 40;
 constexpr std::uint32_t MoreText = 432;
+constexpr std::uint32_t MoreSize = 80;
 
 constexpr std::uint32_t SimulatedRecords = 2340;
 constexpr std::uint32_t SimulatedSteps = 5;
@@ -42,9 +45,9 @@ struct ResourceText {
     char text[100] = {};
 };
 
-void setStatus(const ZXFRPCSCLIENT& client, std::uint32_t index) {
-    char text[80] = {};
-    host::LoadMessageText(client.session, TextTable, index, text, sizeof(text));
+void setStatus(const ZXFRPCSCLIENT& client, std::uint32_t index, std::uint32_t size) {
+    char text[std::max(NormalStatusSize, MoreSize)] = {};
+    host::LoadMessageText(client.session, TextTable, index, text, size);
     host::TextDisplaySetStatus(client.textDisplay, text);
 }
 
@@ -86,12 +89,12 @@ void showTable(ZXFRPCSCLIENT& client, std::int32_t pageSize) {
         } else {
             pageLine = 0;
             client.moreRequested = 0;
-            setStatus(client, MoreText);
+            setStatus(client, MoreText, MoreSize);
         }
         while (!client.moreRequested && !client.displayClosed) client.pumpMessages();
         if (client.displayClosed) return;
         client.moreRequested = 1;
-        setStatus(client, NormalStatusText);
+        setStatus(client, NormalStatusText, NormalStatusSize);
     }
     host::TextDisplayEnd(client.textDisplay);
     while (!client.displayClosed) client.pumpMessages();
