@@ -9,60 +9,62 @@ constexpr std::uint32_t TransferTexts = 7;
 constexpr std::uint32_t ProviderErrors = 22;
 constexpr std::uint32_t RoutedProviderErrors = 45;
 
+// By place in the list, and by the code itself, which is what the AS/400 client's provider is asked for.
+#define TRANSFER_ERROR(index, code, sentence) \
+    {TransferTexts, index, "", sentence}, { TransferTexts, code, "", sentence }
 #define PROVIDER_ERROR(code, sentence) \
     {ProviderErrors, code, "", sentence}, { RoutedProviderErrors, code, "", sentence }
 
-// The first 49 stand in the order of their codes, which are named beside them.
 constexpr Text errorRows[] = {
-    {TransferTexts, 500, "", "The provider does not support this function."},                       // 0103
-    {TransferTexts, 501, "", "The host ended the conversation before the transfer was complete."},  // 0300
-    {TransferTexts, 502, "", "The host did not accept the conversation."},                          // 0302
-    {TransferTexts, 503, "", "The file or member to be written already exists on the host."},       // 0400
-    {TransferTexts, 504, "", "There are no more records."},                                         // 1FFF
-    {TransferTexts, 505, "", "The transfer function was called with an unknown function."},         // 2000
-    {TransferTexts, 506, "", "The length of the request or record is not valid."},                  // 2001
-    {TransferTexts, 507, "", "No request is open that this step could belong to."},                 // 2002
-    {TransferTexts, 508, "", "The conversation with the host is not known any more."},              // 2003
-    {TransferTexts, 509, "", "The request is longer than the transfer function can take."},         // 2004
-    {TransferTexts, 510, "", "The buffer is too small for what the host sent."},                    // 2005
-    {TransferTexts, 511, "", "The name of the host system is not valid."},                          // 2007
-    {TransferTexts, 512, "", "The host system of that name is not configured."},                    // 2008
-    {TransferTexts, 513, "", "No connection to the host system could be made."},                    // 2009
-    {TransferTexts, 514, "", "The user is not authorized to use the transfer function."},           // 2010
-    {TransferTexts, 515, "", "The user name or the password was not accepted by the host."},        // 2011
-    {TransferTexts, 516, "", "The password has expired; change it on the host."},                   // 2012
-    {TransferTexts, 517, "", "The transfer program of the host could not be started."},             // 2013
-    {TransferTexts, 518, "", "The transfer program of the host ended unexpectedly."},               // 2019
-    {TransferTexts, 519, "", "The transfer function ran out of memory."},                           // 2020
-    {TransferTexts, 520, "", "The transfer function has too many conversations open."},             // 2021
-    {TransferTexts, 521, "", "The steps of the transfer came in the wrong order."},                 // 2022
-    {TransferTexts, 522, "", "The field descriptions have been read already."},                     // 2023
-    {TransferTexts, 523, "", "The transfer has been interrupted from the host side."},              // 2024
-    {TransferTexts, 524, "", "The data of the host came in a form that is not understood."},        // 2025
-    {TransferTexts, 525, "", "The record does not fit the host file."},                             // 2026
-    {TransferTexts, 526, "", "The host file is full."},                                             // 2027
-    {TransferTexts, 527, "", "The host file is in use by another job."},                            // 2028
-    {TransferTexts, 528, "", "The transfer function of the host is of another version."},           // 2029
-    {TransferTexts, 529, "", "An internal error occurred in the transfer function."},               // 2030
-    {TransferTexts, 530, "", "The host refused the request."},                                      // 3000
-    {TransferTexts, 531, "", "The host refused the data."},                                         // 3100
-    {TransferTexts, 532, "", "The communications router is not active."},                           // 5042
-    {TransferTexts, 533, "", "The line to the host has failed."},                                   // 5048
-    {TransferTexts, 534, "", "The session with the host was ended."},                               // 5050
-    {TransferTexts, 535, "", "The host did not answer in time."},                                   // 5052
-    {TransferTexts, 536, "", "All sessions with the host are in use."},                             // 5054
-    {TransferTexts, 537, "", "The mode of the session is not known to the host."},                  // 5056
-    {TransferTexts, 538, "", "The device description of this PC is not known to the host."},        // 5058
-    {TransferTexts, 539, "", "The host rejected the security information of this PC."},             // 5060
-    {TransferTexts, 540, "", "The host is shutting down."},                                         // 5062
-    {TransferTexts, 541, "", "The adapter or modem of this PC reported an error."},                 // 5064
-    {TransferTexts, 542, "", "The conversation was ended by the host program."},                    // 5066
-    {TransferTexts, 543, "", "The conversation was ended because of a time limit of the host."},    // 5067
-    {TransferTexts, 544, "", "The router could not allocate a conversation; try again later."},     // 5071
-    {TransferTexts, 545, "", "The network connection was lost."},                                   // 5310
-    {TransferTexts, 546, "", "The network connection could not be established."},                   // 5311
-    {TransferTexts, 547, "", "The licence of the connection does not allow another transfer."},     // 5400
-    {TransferTexts, 548, "", "The transfer function has not been started."},                        // 9999
+    TRANSFER_ERROR(500, 0x0103, "The provider does not support this function."),
+    TRANSFER_ERROR(501, 0x0300, "The host ended the conversation before the transfer was complete."),
+    TRANSFER_ERROR(502, 0x0302, "The host did not accept the conversation."),
+    TRANSFER_ERROR(503, 0x0400, "The file or member to be written already exists on the host."),
+    TRANSFER_ERROR(504, 0x1FFF, "There are no more records."),
+    TRANSFER_ERROR(505, 0x2000, "The transfer function was called with an unknown function."),
+    TRANSFER_ERROR(506, 0x2001, "The length of the request or record is not valid."),
+    TRANSFER_ERROR(507, 0x2002, "No request is open that this step could belong to."),
+    TRANSFER_ERROR(508, 0x2003, "The conversation with the host is not known any more."),
+    TRANSFER_ERROR(509, 0x2004, "The request is longer than the transfer function can take."),
+    TRANSFER_ERROR(510, 0x2005, "The buffer is too small for what the host sent."),
+    TRANSFER_ERROR(511, 0x2007, "The name of the host system is not valid."),
+    TRANSFER_ERROR(512, 0x2008, "The host system of that name is not configured."),
+    TRANSFER_ERROR(513, 0x2009, "No connection to the host system could be made."),
+    TRANSFER_ERROR(514, 0x2010, "The user is not authorized to use the transfer function."),
+    TRANSFER_ERROR(515, 0x2011, "The user name or the password was not accepted by the host."),
+    TRANSFER_ERROR(516, 0x2012, "The password has expired; change it on the host."),
+    TRANSFER_ERROR(517, 0x2013, "The transfer program of the host could not be started."),
+    TRANSFER_ERROR(518, 0x2019, "The transfer program of the host ended unexpectedly."),
+    TRANSFER_ERROR(519, 0x2020, "The transfer function ran out of memory."),
+    TRANSFER_ERROR(520, 0x2021, "The transfer function has too many conversations open."),
+    TRANSFER_ERROR(521, 0x2022, "The steps of the transfer came in the wrong order."),
+    TRANSFER_ERROR(522, 0x2023, "The field descriptions have been read already."),
+    TRANSFER_ERROR(523, 0x2024, "The transfer has been interrupted from the host side."),
+    TRANSFER_ERROR(524, 0x2025, "The data of the host came in a form that is not understood."),
+    TRANSFER_ERROR(525, 0x2026, "The record does not fit the host file."),
+    TRANSFER_ERROR(526, 0x2027, "The host file is full."),
+    TRANSFER_ERROR(527, 0x2028, "The host file is in use by another job."),
+    TRANSFER_ERROR(528, 0x2029, "The transfer function of the host is of another version."),
+    TRANSFER_ERROR(529, 0x2030, "An internal error occurred in the transfer function."),
+    TRANSFER_ERROR(530, 0x3000, "The host refused the request."),
+    TRANSFER_ERROR(531, 0x3100, "The host refused the data."),
+    TRANSFER_ERROR(532, 0x5042, "The communications router is not active."),
+    TRANSFER_ERROR(533, 0x5048, "The line to the host has failed."),
+    TRANSFER_ERROR(534, 0x5050, "The session with the host was ended."),
+    TRANSFER_ERROR(535, 0x5052, "The host did not answer in time."),
+    TRANSFER_ERROR(536, 0x5054, "All sessions with the host are in use."),
+    TRANSFER_ERROR(537, 0x5056, "The mode of the session is not known to the host."),
+    TRANSFER_ERROR(538, 0x5058, "The device description of this PC is not known to the host."),
+    TRANSFER_ERROR(539, 0x5060, "The host rejected the security information of this PC."),
+    TRANSFER_ERROR(540, 0x5062, "The host is shutting down."),
+    TRANSFER_ERROR(541, 0x5064, "The adapter or modem of this PC reported an error."),
+    TRANSFER_ERROR(542, 0x5066, "The conversation was ended by the host program."),
+    TRANSFER_ERROR(543, 0x5067, "The conversation was ended because of a time limit of the host."),
+    TRANSFER_ERROR(544, 0x5071, "The router could not allocate a conversation; try again later."),
+    TRANSFER_ERROR(545, 0x5310, "The network connection was lost."),
+    TRANSFER_ERROR(546, 0x5311, "The network connection could not be established."),
+    TRANSFER_ERROR(547, 0x5400, "The licence of the connection does not allow another transfer."),
+    TRANSFER_ERROR(548, 0x9999, "The transfer function has not been started."),
     PROVIDER_ERROR(0x05, "Access to the host was denied."),
     PROVIDER_ERROR(0x06, "The connection to the host is no longer valid."),
     PROVIDER_ERROR(0x07, "The memory of the provider is damaged; restart the session."),
