@@ -71,6 +71,12 @@ TEST_F(CodePage, TextServicesOfPage43) {
     EXPECT_EQ(received(AsciiText, fields, {record}), umlaut + "A" + umlaut + "ABC\r\n");
     EXPECT_EQ(received(BasicSequential, fields, {bytesOf("63 40 40 40 C2 63")}),
               "\"" + umlaut + "\",\"B" + umlaut + "\"\r\n");
+    // However little room the fields themselves ask for.
+    const std::string dif = received(Dif, Strings(5, character("A", 1)), {bytesOf("63 63 63 63 63")});
+    EXPECT_NE(dif.find("\"" + umlaut + "\"\r\n1,0\r\n\"" + umlaut + "\"\r\n1,0\r\n\"" + umlaut + "\"\r\n1,0\r\n\"" +
+                       umlaut + "\"\r\n1,0\r\n\"" + umlaut + "\"\r\n"),
+              std::string::npos)
+        << dif;
     EXPECT_TRUE(user.messages.empty());
 }
 
@@ -205,6 +211,12 @@ TEST_P(DoubleBytePc, SecondBytesAreNoLetters) {
     platform::OemToCharBuffA(text.data(), text.data(), static_cast<std::uint32_t>(text.size()));
     platform::CharLowerA(text.data());
     EXPECT_EQ(text, pc_ + "a");
+    // A host name is cut to eight bytes of whole characters, and its ASCII letters are capitals.
+    for (const auto& [name, shown] : {std::pair("a" + pc_ + "b", "A" + pc_ + "B    "), {"abcdefg" + pc_, "ABCDEFG "}}) {
+        set(setting::HostSystemName, name);
+        receive();
+        EXPECT_EQ(scripted::calls().end()[-2].designation, "SYSTEM(" + shown + ")");
+    }
 }
 
 const Pc OtherPcs[] = {{"Japanese", 932, 0x0411, 939, "", "\x81\x61", ""},

@@ -351,6 +351,24 @@ TEST_F(Send, DoubleByteFieldsEndOutsideDoubleByteText) {
             EXPECT_EQ(sent[0][7], 0x0F) << hexOf(sent[0]);
         }
     }
+    // Type, source file, PC text, and what stands in a field of 12 bytes then.
+    const struct {
+        FileType type;
+        bool source;
+        const char *text, *host;
+    } rows[] = {{AsciiText, true, "82A0", "0E 44 81 0F 40 40 40 40 40 40 40 40"},
+                {AsciiText, true, "82A041", "0E 44 81 0F C1 40 40 40 40 40 40 40"},
+                {AsciiText, false, "82A041", "0E 44 81 0F C1 40 40 40 40 40 40 40"},
+                {AsciiText, false, "82A082A082A082A082A082A0", "0E 44 81 44 81 44 81 44 81 44 81 0F"},
+                {CommaSeparated, false, "2282A082A082A082A082A082A022", "0E 44 81 44 81 44 81 44 81 44 81 0F"}};
+    for (const std::uint8_t type : {7, 8}) {
+        hostFile.fields = {hf::typed(type, "G", 12)};
+        for (const auto& row : rows) {
+            useType(row.type);
+            if (row.source) useSource();
+            EXPECT_EQ(hexOf(sendFile(bytesOf(row.text) + "\r\n").at(0)), row.host) << row.text;
+        }
+    }
 }
 
 TEST_F(Send, StatementCreatesWhatIsWanted) {

@@ -113,6 +113,28 @@ TEST_F(Session, StopDuringAProviderCallWaitsForItsEnd) {
     }
 }
 
+// The fetch that only ends the record count is one of the transfer's steps, too.
+TEST_F(Session, StopBehindTheCountEndsTheTransfer) {
+    useTransport(9);
+    set(setting::RecordProgress, 1);
+    hostFile.during(provider::TF_GET_DATA,
+                    [this] { hostFile.during(provider::TF_GET_DATA, [this] { library.xferCleanup(session); }); });
+    receive(1);
+    EXPECT_EQ(user.messages.size(), 1u);
+    EXPECT_FALSE(bound());
+    EXPECT_FALSE(pcFileExists());
+}
+
+TEST_F(Session, TransferInAListingIsTurnedAway) {
+    hostFile.catalogue = {hostText("QGPL      ")};
+    HostCatalogEntry entry = {};
+    client();
+    hostFile.during(provider::TF_GET_DATA, [this] { receive(); });
+    EXPECT_EQ(library.pcsGetFirstHostFilename(session, "", &entry), 0u);
+    EXPECT_EQ(hostFile.statements.size(), 1u);
+    EXPECT_TRUE(user.messages.empty());
+}
+
 TEST_F(Session, ClientDeletedSessionsStayApart) {
     const auto other = emulator::newSession();
     ZXFRPCSCLIENT* const second = (client(), library.newZXFRPCSCLIENT(other));
