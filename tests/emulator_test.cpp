@@ -130,7 +130,7 @@ TEST_F(Emulator, DoubleByteNamesAreNotCut) {
     char base[261];
     paths->baseName("C:\\A\\\x95\x5C.TXT", base);
     EXPECT_STREQ(base, "\x95\x5C");
-    writeFile(path("\xE8\xA1\xA8.txt"), "x");
+    writeFile(folder / "\xE8\xA1\xA8.txt", "x");
     const std::string found = emulator::nativePath(folder.string() + "\\\x95\x5C.TXT");
     EXPECT_TRUE(files::equivalent(found, folder / "\xE8\xA1\xA8.txt")) << found;
 }
