@@ -1,6 +1,8 @@
 #include "client/client_object.h"
 
 #include "client/exports.h"
+#include "host/setting_ids.h"
+#include "host/setting_values.h"
 
 namespace client {
 
@@ -15,6 +17,10 @@ void ZXFRPCSCLIENT::pumpMessages() {
         host::ProgressDialogCommand(progressDialog, host::ProgressCommand::ProcessMessages);
     else
         host::PumpMessages(appHandle, 1);
+}
+
+bool ZXFRPCSCLIENT::isDemonstration() const {
+    return host::GetSetting(settings, host::setting::ConnectionType) == host::value::DemonstrationConnection;
 }
 
 bool ZXFRPCSCLIENT::tfStart() {

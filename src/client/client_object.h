@@ -45,6 +45,8 @@ struct ZXFRPCSCLIENT {
     void pumpMessages();
     // Makes the transfer-function session when it is missing, then starts it.
     bool tfStart();
+    // Whether the connection of the session is the demonstration now.
+    bool isDemonstration() const;
     // A transfer, or a call that waits for the provider, has the shared buffer: what comes in from its message pump
     // would write over what stands there.
     bool isBusy() const { return transferRunning || (tfSession && tfSession->isWaiting()); }

@@ -68,9 +68,11 @@ public:
             force(client, settings::Dif);
         }
     }
-    void restore() const {
+    ~ForcedFileType() {
         if (forced_) host::SetSetting(settings_, id::ReceiveFileType, saved_);
     }
+    ForcedFileType(const ForcedFileType&) = delete;
+    ForcedFileType& operator=(const ForcedFileType&) = delete;
 
 private:
     void force(ZXFRPCSCLIENT& client, settings::PcFileType type) {
@@ -140,7 +142,6 @@ void runDriver(ZXFRPCSCLIENT& client, bool receive) {
             send::sendToHost(client);
     }
     releaseFileAndDialog(client);
-    forcedType.restore();
 }
 
 void runActiveTransfer(ZXFRPCSCLIENT& client, bool receive, host::WindowHandle ownerWindow) {

@@ -58,9 +58,9 @@ private:
 class PathServices {
 public:
     bool fileExists(const char* name) { return table_.call<std::uint32_t>(this, 1, name, std::uint32_t{1}) != 0; }
-    // The name without directory and extension. `buffer` has 261 characters.
+    // The name without directory and extension. `buffer` has 261 characters, and room for the whole of a longer name.
     void baseName(const char* name, char* buffer) { table_.call<void>(this, 10, name, buffer); }
-    // The directory with its trailing separator, empty when the name has none. `buffer` has 261 characters.
+    // The directory with its trailing separator, empty when the name has none. `buffer` as above.
     void directoryPart(const char* name, char* buffer) { table_.call<void>(this, 11, name, buffer); }
     void setCurrentDirectory(const char* path) { table_.call<void>(this, 13, path); }
 

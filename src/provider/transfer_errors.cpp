@@ -31,7 +31,7 @@ constexpr char NotCompletedTemplate[] =
     "Refer to job log on host system %3.\nJob name %4, user profile %5, job number %6";
 constexpr std::uint32_t NotCompletedCapacity = 1500;
 
-// Transports whose own error texts are shown alone; a narrower list than the one above.
+// Transports whose own error texts are shown alone; fewer than the transports of the own providers.
 bool showsOwnTextAlone(std::int32_t transportType) {
     return transportType == 5 || transportType == 7 || transportType == 8 || transportType == 13;
 }

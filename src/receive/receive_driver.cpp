@@ -116,7 +116,7 @@ void ReceiveRun::run() {
     if (!client_.fileObject) prepareDisplay();
     resetJobSettings();
     if (createProgressDialog()) {
-        if (host::GetSetting(client_.settings, id::ConnectionType) == host::value::DemonstrationConnection)
+        if (client_.isDemonstration())
             client::runDemonstration(client_, true);
         else if (transfer())
             finishOutput();

@@ -10,6 +10,7 @@ constexpr std::int32_t MaximumExchanges = 8192;
 
 constexpr char DescriptionTooShort[] =
     "The host's description of a field is shorter than 40 bytes. The fields behind it are not read.";
+constexpr char NotConverted[] = "A text of the file cannot be converted between the code pages of the host and the PC.";
 constexpr char NoTextServices[] = "This session cannot convert the text of host code page 43.";
 constexpr char TooManyDescriptions[] =
     "The host does not stop describing fields. The fields behind the last are not read.";
@@ -89,8 +90,12 @@ bool RecordConverter::pcToHost(const char* source, char* destination, std::uint3
 
 bool RecordConverter::converted(std::uint32_t result) const {
     if (result == 0) return true;
-    if (tfSession->codePage().lacksTables()) provider::showMessage(messageOwner(), provider::OutOfMemory);
-    if (tfSession->codePage().lacksTextServices()) provider::showOwnText(messageOwner(), NoTextServices);
+    if (tfSession->codePage().lacksTables())
+        provider::showMessage(messageOwner(), provider::OutOfMemory);
+    else if (tfSession->codePage().lacksTextServices())
+        provider::showOwnText(messageOwner(), NoTextServices);
+    else
+        provider::showOwnText(messageOwner(), NotConverted);
     return false;
 }
 

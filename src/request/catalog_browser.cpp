@@ -17,10 +17,6 @@ namespace {
 
 constexpr char NotConverted[] = "An entry of the host's list cannot be converted to the code page of the PC.";
 
-bool isDemonstration(const ZXFRPCSCLIENT& client) {
-    return host::GetSetting(client.settings, host::setting::ConnectionType) == host::value::DemonstrationConnection;
-}
-
 void endRequest(ZXFRPCSCLIENT& client) { client.tfSession->tfEndRequest(); }
 
 // The entry of an answer that is no record; the request ends with it.
@@ -98,7 +94,7 @@ std::uint32_t listFirst(ZXFRPCSCLIENT& client, HostCatalogEntry& entry, const ch
 std::uint32_t getFirstHostFilename(ZXFRPCSCLIENT& client, const char* filter, HostCatalogEntry* entry) {
     if (!entry || client.isBusy()) return CatalogFailure;
     if (!filter) filter = "";
-    if (isDemonstration(client)) return firstDemoEntry(client, filter, *entry);
+    if (client.isDemonstration()) return firstDemoEntry(client, filter, *entry);
     const std::uint32_t result = listFirst(client, *entry, filter);
     client.browseFilter = nullptr;
     return result;
@@ -106,7 +102,7 @@ std::uint32_t getFirstHostFilename(ZXFRPCSCLIENT& client, const char* filter, Ho
 
 std::uint32_t getNextHostFilename(ZXFRPCSCLIENT& client, HostCatalogEntry* entry) {
     if (!entry || client.isBusy()) return CatalogFailure;
-    if (isDemonstration(client)) return nextDemoEntry(client, *entry);
+    if (client.isDemonstration()) return nextDemoEntry(client, *entry);
     if (!client.tfStart() || !fetchRecord(client)) return CatalogFailure;
     return fillHostCatalogEntry(client, *entry);
 }

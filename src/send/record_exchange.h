@@ -9,7 +9,7 @@
 namespace send {
 
 // Fills the shared buffer with `fill` and puts the record at its start. False, reported, when the session, stopped in
-// the meantime, cannot be started again.
+// the meantime, is no more.
 bool placeRecord(ZXFRPCSCLIENT& client, std::string_view record, char fill);
 
 // Sends the host record at the start of the shared buffer and judges the answer.

@@ -23,8 +23,7 @@ namespace id = host::setting;
 using host::ProgressCommand;
 
 constexpr std::uint32_t SourceOfSeveralFields = 4601;
-constexpr std::uint16_t TargetAnswer = 0x0400;  // may say that the target exists
-constexpr std::string_view TargetExists[] = {"IWS2036", "IWS2023"};
+constexpr std::string_view TargetExistsMessages[] = {"IWS2036", "IWS2023"};
 constexpr std::uint32_t QuestionTable = 17;
 constexpr std::uint32_t QuestionText = 4;
 constexpr std::uint32_t QuestionFlags = 0x28;
@@ -66,9 +65,6 @@ private:
     ReadOutcome sendBinaryRecord(std::string_view read);
     void finish();
 
-    bool isDemonstration() const {
-        return host::GetSetting(client_.settings, id::ConnectionType) == host::value::DemonstrationConnection;
-    }
     bool goesOn() const { return client_.cancelRequested == 0; }
     void command(ProgressCommand code) { host::ProgressDialogCommand(client_.progressDialog, code); }
     void showPosition() {
@@ -96,7 +92,7 @@ private:
 
 void SendRun::run() {
     if (!createProgressDialog()) return;
-    if (isDemonstration()) {
+    if (client_.isDemonstration()) {
         client::runDemonstration(client_, false);
         return;
     }
@@ -159,9 +155,9 @@ bool SendRun::isAccepted() {
 }
 
 bool SendRun::targetExists() const {
-    if (client_.lastResult.returnCode != TargetAnswer) return false;
+    if (client_.lastResult.returnCode != provider::TargetExists) return false;
     const std::string_view hostText = client_.tfSession->returned(client_.lastResult);
-    return std::any_of(std::begin(TargetExists), std::end(TargetExists),
+    return std::any_of(std::begin(TargetExistsMessages), std::end(TargetExistsMessages),
                        [&](std::string_view id) { return hostText.starts_with(id); });
 }
 

@@ -23,10 +23,10 @@ std::uint32_t returnCode(std::string_view result) {
     return code;
 }
 
-// The icon of a message box, and the help topic of the message that a count has found no records.
+// The icon of a message box, and the message that a count has found no records.
 constexpr std::uint32_t IconMask = 0xF0;
 constexpr std::uint32_t QuestionIcon = 0x20;
-constexpr std::uint32_t NoRecordsHelp = 124;
+constexpr std::uint32_t NoRecordsMessage = 70416;
 
 }  // namespace
 
@@ -76,7 +76,7 @@ void TransferWatch::message(const emulator::MessageBox& box) {
         asked_ = true;
         return;
     }
-    if (box.helpId == NoRecordsHelp) noRecords_ = true;
+    if (box.id == NoRecordsMessage) noRecords_ = true;
     ++errors_;
 }
 

@@ -14,6 +14,7 @@ std::string ownFolder() {
         wchar_t path[MAX_PATH];
         if (!GetModuleHandleExW(FromAddress, reinterpret_cast<LPCWSTR>(&ownFolder), &module)) return std::string(".");
         const DWORD length = GetModuleFileNameW(module, path, MAX_PATH);
+        if (length == 0 || length == MAX_PATH) return std::string(".");
         return std::filesystem::path(path, path + length).parent_path().string();
     }();
     return folder;

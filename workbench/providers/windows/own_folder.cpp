@@ -10,6 +10,7 @@ std::filesystem::path ownFolder() {
     wchar_t path[MAX_PATH];
     if (!GetModuleHandleExW(FromAddress, reinterpret_cast<LPCWSTR>(&ownFolder), &module)) return {};
     const DWORD length = GetModuleFileNameW(module, path, MAX_PATH);
+    if (length == 0 || length == MAX_PATH) return {};
     return std::filesystem::path(path, path + length).parent_path();
 }
 
