@@ -56,7 +56,7 @@ private:
     }
 
     std::optional<std::uint64_t> bytes() const {
-        if (sending_) return static_cast<std::uint32_t>(number(setting::ProgressCount));
+        if (sending_) return bytesRead();
         if (!toFile()) return std::nullopt;
         const std::string file = emulator::text(session_, setting::PcFileName);
         if (file == "-") return streamedBytes();
@@ -64,6 +64,12 @@ private:
         const auto size = std::filesystem::file_size(emulator::nativePath(file), error);
         if (error || size < user_.appendedBehind()) return std::nullopt;
         return size - user_.appendedBehind();
+    }
+
+    // As far as the file was read and done with: nothing is known of a read that was not.
+    std::optional<std::uint64_t> bytesRead() const {
+        const auto position = static_cast<std::uint32_t>(number(setting::ProgressCount));
+        return position == 0 && any() ? std::nullopt : std::optional<std::uint64_t>(position);
     }
 
     // The heading of a DIF file passes unseen.
