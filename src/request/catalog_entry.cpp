@@ -33,10 +33,11 @@ std::size_t nameBytes(std::size_t recordLength) {
 }
 
 // Host text in the PC code page; room for every text that the shared buffer can hold. A text whose length the code page
-// changes comes out longer or shorter.
+// changes comes out longer or shorter. Where there is none, the converter is not asked.
 class PcText {
 public:
-    PcText(const ZXFRPCSCLIENT& client, std::string_view hostText) {
+    PcText(const ZXFRPCSCLIENT& client, std::string_view hostText) : converts_(hostText.empty()) {
+        if (converts_) return;
         const auto length = static_cast<std::uint32_t>(std::min<std::size_t>(hostText.size(), sizeof(text_)));
         std::uint32_t converted = 0;
         converts_ =
@@ -49,7 +50,7 @@ public:
 private:
     char text_[provider::BufferSize];
     std::uint32_t length_ = 0;
-    bool converts_ = false;
+    bool converts_;
 };
 
 // The name of an entry, piece by piece. A piece ends at its first zero byte; what does not fit is cut.
