@@ -69,6 +69,7 @@ TEST_F(Cli, WrongUsageIsStatusTwoAndLeavesStandardOutputAlone) {
         {"send a.csv A/B --create always", "always"},
         {"browse A/B --files 0", "files"}};
     for (const auto& [arguments, word] : cases) EXPECT_EQ(expect(2, arguments, word).output, "") << arguments;
+    expect(2, "receive A/B --where \"N = '" + std::string(4000, 'x') + "'\"", "a request takes 4000");
 }
 
 TEST_F(Cli, HelpAndVersionSucceedOnStandardOutput) {

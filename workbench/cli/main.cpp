@@ -55,6 +55,17 @@ void setUpPc(const CommandLine& line, const fs::path& folder) {
     process::setEnvironment("Z7X_PC_CODE_PAGE", std::to_string(line.pc.ansiCodePage));
 }
 
+// A clause that does not fit into the request is left out, and without its condition the transfer would take
+// everything.
+void checkLength(const emulator::Clauses& clauses, const std::string& hostFiles) {
+    constexpr std::size_t Longest = 4000;  // of 4095, the others are for keywords
+    const std::size_t length = hostFiles.size() + clauses.where.size() + clauses.join.size() + clauses.groupBy.size() +
+                               clauses.having.size() + clauses.orderBy.size();
+    if (length > Longest)
+        throw std::invalid_argument("host files and clauses have " + std::to_string(length) +
+                                    " characters; a request takes " + std::to_string(Longest));
+}
+
 host::SessionHandle openSession(const CommandLine& line, const PcText& pcText) {
     const host::SessionHandle session = emulator::newSession();
     apply(session, defaultSettings(), pcText);
@@ -64,6 +75,7 @@ host::SessionHandle openSession(const CommandLine& line, const PcText& pcText) {
          {&clauses.select, &clauses.where, &clauses.orderBy, &clauses.groupBy, &clauses.having, &clauses.join}) {
         *clause = pcText.toPc(*clause);
     }
+    checkLength(clauses, emulator::text(session, host::setting::HostFileName));
     emulator::setClauses(session, clauses);
     process::setEnvironment("Z7X_HOST_CODE_PAGE",
                             std::to_string(emulator::number(session, host::setting::HostCodePage)));
