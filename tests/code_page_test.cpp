@@ -55,6 +55,7 @@ TEST_F(CodePage, ConverterThatFailsEndsTheTransferUnlessOemHidesIt) {
     setFault(&emulator::Faults::failConversion, true);
     EXPECT_EQ(received(CommaSeparated, {character("T", 1)}, {hostText("A")}), "");
     EXPECT_EQ(scripted::entries().back(), "TF_END_REQUEST");
+    EXPECT_EQ(user.messages.size(), 1u);
     set(setting::ConvertToOem, 1);
     hostFile.records = {hostText("A"), hostText("B")};
     receive();

@@ -439,6 +439,10 @@ TEST_F(Send, LayoutsThatCannotBeSent) {
     EXPECT_EQ(sendFile("A;1\r\n"), NothingSent);
     EXPECT_EQ(user.messageIds(), std::vector<std::uint32_t>{4418});
     EXPECT_EQ(firstInserts(), "LONGERTHAN|");
+    hostFile.fields = {hf::zoned("NOLENGTH", 0)};
+    EXPECT_EQ(sendFile("1\r\n"), NothingSent);
+    EXPECT_EQ(firstInserts(), "NOLENGTH|");
+    hostFile.fields = {hf::character("A", 1), hf::character("B", 1)};
     useSource();
     EXPECT_EQ(sendFile("AAA\r\n"), NothingSent);
     EXPECT_EQ(user.messageIds(), std::vector<std::uint32_t>{4601});
