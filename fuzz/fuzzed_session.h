@@ -37,8 +37,6 @@ struct Head {
 // A session as the head of an input has it, with a provider that answers from the rest.
 class FuzzedSession {
 public:
-    using Direction = ReadySession::Direction;
-
     explicit FuzzedSession(const Head& head);
     // Deletes the client. Ends the process when anything is left open, active or allocated.
     ~FuzzedSession();

@@ -10,9 +10,9 @@
 // 1. Every handle is 32 bits wide and owned by the emulator; 0 means none. Addresses have the width of the machine.
 //    A module handle is an address.
 // 2. Every service, call-back and object operation uses ZHST_CALL: the called function removes its arguments.
-// 3. The link name of a service is its name with the prefix "zhst" (zhstFormatStringSet has it in front of a capital;
-//    zhstMessageBox_scroll has it in its name), so that none can be taken for a function of the
-//    operating system (which has a LoadModule of its own). Code calls host::LoadModule and so on.
+// 3. The link name of a service is its name with the prefix "zhst", so that none can be taken for a function of the
+//    operating system (which has a LoadModule of its own). Code calls host::LoadModule and so on. Two differ:
+//    formatStringSet is zhstFormatStringSet, and zhstMessageBox_scroll has the prefix in its name.
 // 4. Texts are 8-bit, zero-terminated, in the PC's ANSI code page. Lengths are in bytes.
 // 5. All calls are made on the emulator's user-interface thread. Services that let the emulator process window messages
 //    (message boxes, PumpMessages, progress dialog command 16) may enter the library's exports again.
