@@ -14,15 +14,15 @@
 namespace bench {
 namespace {
 
-namespace setting = host::setting;
+namespace setting = zhst::setting;
 
-std::uint32_t ZHST_CALL ignoreSetting(host::SessionHandle, std::uint32_t, std::int32_t, std::int32_t) { return 1; }
+std::uint32_t ZHST_CALL ignoreSetting(ZhstSession, std::uint32_t, std::int32_t, std::int32_t) { return 1; }
 void ZHST_CALL doNotYield() {}
 
-host::SessionHandle sessionFor(std::int32_t fileType) {
+ZhstSession sessionFor(std::int32_t fileType) {
     emulator::reset();
     emulator::setUpPc({});
-    const host::SessionHandle session = emulator::newSession();
+    const ZhstSession session = emulator::newSession();
     emulator::set(session, setting::ReceiveFileType, fileType);
     emulator::set(session, setting::ReceiveOutput, 1);
     return session;
@@ -36,11 +36,11 @@ struct Conversion {
           snapshot(session, &functions),
           converter(session, &functions, nullptr, &snapshot, 0, 0) {
         for (const Field& field : fields())
-            converter.fields.append(
-                host::Owned<receive::HostField>::make(converter.messageOwner(), field.description.data(), &snapshot));
+            converter.fields.append(services::Owned<receive::HostField>::make(converter.messageOwner(),
+                                                                              field.description.data(), &snapshot));
     }
 
-    host::SessionHandle session;
+    ZhstSession session;
     provider::TransferFunctionSession functions;
     settings::TransferSettings snapshot;
     receive::RecordConverter converter;
@@ -72,14 +72,14 @@ void pcText(benchmark::State& state, const Field& field) {
     state.SetItemsProcessed(state.iterations());
 }
 
-using ToRecord = bool (*)(receive::RecordConverter&, std::string_view, host::OwnedBytes&, std::uint32_t&);
+using ToRecord = bool (*)(receive::RecordConverter&, std::string_view, services::OwnedBytes&, std::uint32_t&);
 
 void pcRecord(benchmark::State& state, std::int32_t fileType, ToRecord toRecord) {
     Conversion conversion(fileType);
     std::uint32_t number = 0;
     std::uint64_t bytes = 0;
     for ([[maybe_unused]] const auto iteration : state) {
-        host::OwnedBytes record;
+        services::OwnedBytes record;
         std::uint32_t length = 0;
         if (!toRecord(conversion.converter, nextRecord(number), record, length))
             return state.SkipWithError("a record could not be converted");

@@ -7,7 +7,7 @@ namespace {
 
 void receive(benchmark::State& state, std::int32_t fileType, std::int32_t countFirst, std::uint64_t& peak) {
     TransferSession session(fileType, receivedFile());
-    session.set(host::setting::RecordProgress, countFirst);
+    session.set(zhst::setting::RecordProgress, countFirst);
     measureTransfers(state, session, Direction::Receive, peak);
 }
 

@@ -5,7 +5,7 @@
 namespace bench {
 namespace {
 
-namespace setting = host::setting;
+namespace setting = zhst::setting;
 
 // Empty, or why there is no file to send.
 std::string makeSentFile(std::int32_t fileType, std::uint32_t count) {

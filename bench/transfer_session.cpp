@@ -5,7 +5,7 @@
 
 namespace bench {
 
-namespace setting = host::setting;
+namespace setting = zhst::setting;
 
 TransferSession::TransferSession(std::int32_t fileType, const std::string& pcFile)
     : session_(pcFile, emulator::PcSetup{}) {

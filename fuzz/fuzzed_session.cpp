@@ -5,14 +5,14 @@
 #include <filesystem>
 #include <fstream>
 
-#include "host/setting_values.h"
+#include "Z7XFRPCS/settings.h"
 #include "platform/platform.h"
 #include "scripted/script.h"
 
 namespace fuzz {
 namespace {
 
-namespace setting = host::setting;
+namespace setting = zhst::setting;
 using scripted::Answer;
 using scripted::Place;
 
@@ -40,9 +40,9 @@ const Pages pages[] = {{37, {}},
 // An answer begins with its kind: 0 to 3 data; 4 the end; 5 a return code with a host message; 6 a length with the
 // shared buffer as it is; 7 a length without data. Then the length or code, then the bytes.
 Answer takeAnswer(Input& input) {
-    if (input.ended()) return Answer::code(provider::NoMoreData);
+    if (input.ended()) return Answer::code(TF_NO_MORE_DATA);
     const int kind = input.byte() % 8;
-    if (kind == 4) return Answer::code(provider::NoMoreData);
+    if (kind == 4) return Answer::code(TF_NO_MORE_DATA);
     const std::uint16_t number = input.word();
     if (kind < 4) return Answer::data(input.stretch(number));
     if (kind == 5) return Answer::code(number, input.stretch(input.byte()));
@@ -80,14 +80,14 @@ FuzzedSession::FuzzedSession(const Head& head) : head_(head), session_(temporary
     session_.set(setting::HostCodePage, pages[head.page].host);
     session_.set(setting::ReceiveFileType, head.fileType);
     session_.set(setting::SendFileType, head.fileType);
-    if (head.has(Head::Screen)) session_.set(setting::ReceiveOutput, host::value::ToDisplay);
-    if (head.has(Head::Spreadsheet)) session_.set(setting::ReceiveOutput, host::value::ToSpreadsheet);
-    if (head.has(Head::Append)) session_.set(setting::ExistingFileAction, host::value::Append);
+    if (head.has(Head::Screen)) session_.set(setting::ReceiveOutput, zhst::value::ToDisplay);
+    if (head.has(Head::Spreadsheet)) session_.set(setting::ReceiveOutput, zhst::value::ToSpreadsheet);
+    if (head.has(Head::Append)) session_.set(setting::ExistingFileAction, zhst::value::Append);
     session_.set(setting::WriteDescriptionFile, head.has(Head::Description));
     session_.set(setting::UseDescriptionFile, head.has(Head::Description));
     session_.set(setting::SendDescriptionFile, temporaryFile("description.fdf"));
     session_.set(setting::ReceiveDescriptionFile, temporaryFile("description.fdf"));
-    session_.set(setting::HostFileType, head.has(Head::Source) ? host::value::SourceFile : host::value::DataFile);
+    session_.set(setting::HostFileType, head.has(Head::Source) ? zhst::value::SourceFile : zhst::value::DataFile);
     session_.set(setting::RecordLength, 92);
     session_.set(setting::ConvertToOem, head.has(Head::Oem));
     session_.set(setting::IgnoreDecimalErrors, head.has(Head::IgnoreErrors));
@@ -100,7 +100,7 @@ FuzzedSession::FuzzedSession(const Head& head) : head_(head), session_(temporary
 void FuzzedSession::answerFrom(Input& answers) {
     scripted::setHandler([this, &answers](const scripted::Call& call) {
         if (++calls_ == head_.cancellingCall) Library::get().pcsCancelTransfer(session_.client());
-        const bool fetches = call.function == provider::TF_GET_FIELD || call.function == provider::TF_GET_DATA;
+        const bool fetches = call.function == TF_GET_FIELD || call.function == TF_GET_DATA;
         return fetches ? takeAnswer(answers) : scripted::defaultAnswer(call);
     });
 }

@@ -26,7 +26,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     }
     fuzz::writeFile(fuzz::temporaryFile("pcfile"), file);
     fuzzed.answerFrom(input);
-    for (const std::string& field : fields) scripted::answerNext(provider::TF_GET_FIELD, scripted::Answer::data(field));
+    for (const std::string& field : fields) scripted::answerNext(TF_GET_FIELD, scripted::Answer::data(field));
     fuzzed.session().transfer(ReadySession::Direction::Send);
     return 0;
 }

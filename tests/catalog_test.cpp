@@ -95,7 +95,7 @@ TEST_F(Catalog, RecordsOfEveryLengthStayInTheEntry) {
             guarded.entry.entryKind = kind;
             guarded.entry.fileCount = static_cast<std::int32_t>(length % 3);
             guarded.entry.description[0] = '\0';
-            scripted::answerNext(provider::TF_GET_DATA, record);
+            scripted::answerNext(TF_GET_DATA, record);
             ASSERT_EQ(next(), 0u);
             expectUntouched();
             ASSERT_TRUE(std::memchr(guarded.entry.description, 0, sizeof(guarded.entry.description)));
@@ -123,8 +123,8 @@ TEST_F(Catalog, FiltersOfEveryLengthFitOrAreRefused) {
 }
 
 TEST_F(Catalog, AnswersThatAreNoRecords) {
-    const std::uint32_t request = provider::TF_SEND_REQUEST;
-    const std::uint32_t data = provider::TF_GET_DATA;
+    const std::uint32_t request = TF_SEND_REQUEST;
+    const std::uint32_t data = TF_GET_DATA;
     const struct {
         const char* what;
         int transport;

@@ -2,11 +2,12 @@
 #include <cstring>
 #include <tuple>
 
-#include "host/conversion.h"
-#include "host/dialogs.h"
-#include "host/runtime.h"
-#include "host/session.h"
+#include "Z7XFRPCS/conversion.h"
+#include "Z7XFRPCS/dialogs.h"
+#include "Z7XFRPCS/runtime.h"
+#include "Z7XFRPCS/session.h"
 #include "platform/platform.h"
+#include "services/objects.h"
 #include "support/transfer_fixture.h"
 
 namespace {
@@ -18,8 +19,8 @@ class Emulator : public TransferFixture {
 protected:
     Emulator() { std::filesystem::create_directory(path("Data")); }
 
-    host::FileObject* file(const std::string& name, std::uint32_t action = 1) const {
-        host::FileObject* object = host::CreateFileObject(session);
+    services::FileObject* file(const std::string& name, std::uint32_t action = 1) const {
+        services::FileObject* object = services::CreateFileObject(session);
         object->setName(path(name).c_str());
         object->setExistingFileAction(action);
         return object;
@@ -38,7 +39,7 @@ TEST_F(Emulator, ExistingFileIsTreatedAsAskedFor) {
         writeFile(path("out.txt"), "old");
         user.messages.clear();
         user.answer = answer;
-        host::FileObject* object = file("OUT.TXT", action);
+        services::FileObject* object = file("OUT.TXT", action);
         if (newFileOnly) object->prepareNewFile();
         EXPECT_EQ(object->openForWriting(), left != "old");
         EXPECT_EQ(object->write("new", 3), left != "old");
@@ -52,7 +53,7 @@ TEST_F(Emulator, ExistingFileIsTreatedAsAskedFor) {
 }
 
 TEST_F(Emulator, FileFailureIsToldOnce) {
-    host::FileObject* object = file("missing.txt");
+    services::FileObject* object = file("missing.txt");
     EXPECT_EQ(object->size(), 0u);
     EXPECT_TRUE(user.messages.empty());
     for (int i = 0; i < 2; ++i) EXPECT_TRUE(object->errorState());
@@ -75,7 +76,7 @@ TEST_F(Emulator, FileFailureIsToldOnce) {
 }
 
 TEST_F(Emulator, LongOutputArrivesWholeAndInOrder) {
-    host::FileObject* object = file("long.txt");
+    services::FileObject* object = file("long.txt");
     ASSERT_TRUE(object->openForWriting());
     std::string expected;
     for (int i = 0; i < 2000; ++i) {
@@ -91,7 +92,7 @@ TEST_F(Emulator, LongOutputArrivesWholeAndInOrder) {
 
 TEST_F(Emulator, NamesAreFoundAsOnThePc) {
     writeFile(path("Data/Cust.Txt"), "x");
-    auto* paths = static_cast<host::PathServices*>(host::GetSessionObject(session, host::PathServicesKind));
+    auto* paths = services::GetPathServices(session);
     const std::string root = folder.string(), expected = root + "/Data/Cust.Txt";
     std::string backslashed = root + "/dATA/CUST.txt";
     std::ranges::replace(backslashed, '/', '\\');
@@ -126,7 +127,7 @@ TEST_F(Emulator, DoubleByteNamesAreNotCut) {
     japanese.ansiCodePage = japanese.oemCodePage = 932;
     japanese.languageId = 0x0411;
     if (!emulator::setUpPc(japanese)) GTEST_SKIP() << "on another PC";
-    auto* paths = static_cast<host::PathServices*>(host::GetSessionObject(session, host::PathServicesKind));
+    auto* paths = services::GetPathServices(session);
     char base[261];
     paths->baseName("C:\\A\\\x95\x5C.TXT", base);
     EXPECT_STREQ(base, "\x95\x5C");
@@ -141,15 +142,15 @@ TEST_F(Emulator, LibrariesAreFoundLoadedAndCounted) {
     for (const auto& entry : files::directory_iterator(files::absolute(testing::internal::GetArgvs()[0]).parent_path()))
         if (entry.path().filename().string().find("z7xscript") != std::string::npos)
             files::copy_file(entry, folder / "Probe.Dll", files::copy_options::overwrite_existing);
-    host::ModuleHandle module = nullptr;
-    EXPECT_EQ(host::LoadModule("NONE.DLL", 1, &module), 2u);
-    EXPECT_NE(host::LoadModule("TEXT.DLL", 1, &module), 0u);
+    ZhstModule module = nullptr;
+    EXPECT_EQ(zhstLoadModule("NONE.DLL", 1, &module), 2u);
+    EXPECT_NE(zhstLoadModule("TEXT.DLL", 1, &module), 0u);
     EXPECT_EQ(module, nullptr);
-    ASSERT_EQ(host::LoadModule("PROBE.DLL", 0, &module), 0u);
+    ASSERT_EQ(zhstLoadModule("PROBE.DLL", 0, &module), 0u);
     EXPECT_EQ(emulator::openObjects().modules, 1u);
     // malloc would be found in what the module depends on.
     EXPECT_EQ(platform::GetProcAddress(module, "malloc"), nullptr);
-    host::FreeModule(module);
+    zhstFreeModule(module);
     EXPECT_EQ(emulator::openObjects().modules, 0u);
 }
 
@@ -166,60 +167,60 @@ TEST_F(Emulator, CatalogueHasASentenceForEverything) {
     for (const auto& [table, first, last, longest] : ranges)
         for (std::uint32_t index = first; index <= last; ++index) {
             char text[1000] = "?";
-            host::LoadMessageText(session, table, index, text, sizeof text);
+            zhstLoadMessageText(session, table, index, text, sizeof text);
             EXPECT_TRUE(*text && std::strlen(text) <= longest) << table << ',' << index;
-            ids.push_back(host::MessageId(table, index));
+            ids.push_back(zhstMessageId(table, index));
         }
     for (std::uint32_t code :
          {0x05, 0x06, 0x07, 0x16, 0x1C, 0x32, 0x33, 0x37, 0x48, 0x4B, 0x51, 0x87, 0xD4, 0xD5, 0xD7, 0xD8, 0xEC, 0xF5})
-        for (const std::uint32_t table : {22, 45}) ids.push_back(host::MessageId(table, code));
-    host::ShowMessage(session, 0, 1, 0x30, 1, 0);
+        for (const std::uint32_t table : {22, 45}) ids.push_back(zhstMessageId(table, code));
+    zhstShowMessage(session, 0, 1, 0x30, 1, 0);
     const std::string absent = user.messages.back().text;
     for (std::uint32_t id : ids) {
-        host::ShowMessage(session, 0, id, 0x30, 1, id);
+        zhstShowMessage(session, 0, id, 0x30, 1, id);
         EXPECT_NE(user.messages.back().text, absent) << id;
     }
 }
 
 TEST_F(Emulator, InsertsFillTheirPlaces) {
-    using host::insert;
-    host::ShowMessage3(session, 3, 4406, 0x30, 1, 4406, insert("a %2"), insert(8193u), insert(""));
-    host::ShowMessage2(session, 3, host::MessageId(7, 439), 0x30, 1, 124, insert(3u), insert(2u));
-    host::ShowMessageCode(session, 3, 4408, 0x30, 1, 530, 12288, "refused", "IWS0001");
+    const auto insert = [](const char* text) { return reinterpret_cast<ZhstInsert>(text); };
+    zhstShowMessage3(session, 3, 4406, 0x30, 1, 4406, insert("a %2"), 8193, insert(""));
+    zhstShowMessage2(session, 3, zhstMessageId(7, 439), 0x30, 1, 124, 3, 2);
+    zhstShowMessageCode(session, 3, 4408, 0x30, 1, 530, 12288, "refused", "IWS0001");
     const char* expected[] = {"An error occurred while a %2 (return code 8193).",
                               "Record 3: the value of field 2 cannot be stored in the host field.",
                               "The host reported an error (return code 12288). refused Message of the host: IWS0001"};
     for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(user.messages[i].text, expected[i]);
     char bounded[21] = "%1 of %2 %3", one[] = "%2", two[] = "7", tooLong[] = "123456789012345678";
-    host::TextRecord text{bounded, 20}, first{one, 0}, second{two, 0}, third{tooLong, 0};
-    const host::TextRecord* inserts[] = {&first, &second, &third};
-    host::formatStringSet(&text, inserts, 3);
+    ZhstTextRecord text{bounded, 20}, first{one, 0}, second{two, 0}, third{tooLong, 0};
+    const ZhstTextRecord* inserts[] = {&first, &second, &third};
+    zhstFormatStringSet(&text, inserts, 3);
     EXPECT_STREQ(bounded, "%1 of %2 %3");  // would not fit
-    host::formatStringSet(&text, inserts, 2);
+    zhstFormatStringSet(&text, inserts, 2);
     EXPECT_STREQ(bounded, "%2 of 7 %3");
 }
 
 TEST_F(Emulator, JournalLinesHaveTheirShape) {
-    const host::SettingsHandle settings = host::GetSessionSettings(session);
-    user.onPump = [settings] { host::IsMessageEnabled(settings, 4315); };
+    const ZhstSettings settings = zhstGetSessionSettings(session);
+    user.onPump = [settings] { zhstIsMessageEnabled(settings, 4315); };
     set(40, std::string("AS400"));
     set(215, 9);
     emulator::clearJournal();
-    host::GetSetting(settings, 215);
+    zhstGetSetting(settings, 215);
     char buffer[4];
-    host::GetStringSetting(settings, 40, buffer, sizeof buffer);
-    const host::StoreHandle store = host::OpenStore("ZHST");
-    host::StorePartHandle node = 0, list = 0, item = 0;
-    host::OpenStoreNode(store, 0, 0x58465234, 0, &node);
-    host::OpenStoreList(store, node, 0x58345250, 0, &list);
-    host::OpenStoreItem(store, list, 0x58445449, 0, &item);
-    host::SetStoreItem(store, item, "lost", 4);  // not locked
-    host::LockStoreList(store, list);
-    host::SetStoreItem(store, item, "\x01\"\\\r\n\t\xFF", 7);
-    host::UnlockStoreList(store, list);
-    host::PumpMessages(host::GetSessionApp(session), 1);
+    zhstGetStringSetting(settings, 40, buffer, sizeof buffer);
+    const ZhstStore store = zhstOpenStore("ZHST");
+    ZhstStorePart node = 0, list = 0, item = 0;
+    zhstOpenStoreNode(store, 0, 0x58465234, 0, &node);
+    zhstOpenStoreList(store, node, 0x58345250, 0, &list);
+    zhstOpenStoreItem(store, list, 0x58445449, 0, &item);
+    zhstSetStoreItem(store, item, "lost", 4);  // not locked
+    zhstLockStoreList(store, list);
+    zhstSetStoreItem(store, item, "\x01\"\\\r\n\t\xFF", 7);
+    zhstUnlockStoreList(store, list);
+    zhstPumpMessages(zhstGetSessionApp(session), 1);
     emulator::note("-- mine");
-    host::SetStringSetting(settings, 9999, std::string(65, 'x').c_str());
+    zhstSetStringSetting(settings, 9999, std::string(65, 'x').c_str());
     EXPECT_EQ(emulator::journal(),
               (Lines{"GetSetting(7, 215 TransportType) = 9", "GetStringSetting(7, 40 HostSystemName, \"AS4\", 4) = 1",
                      "OpenStore(\"ZHST\") = 1", "OpenStoreNode(1, 0, XFR4, 0, XFR4)",
@@ -233,16 +234,16 @@ TEST_F(Emulator, JournalLinesHaveTheirShape) {
 }
 
 TEST_F(Emulator, ConversionKnowsPage43AndRefusesUnknownPages) {
-    const host::ConverterHandle converter = host::GetEmulatorConverter(session);
+    const ZhstConverter converter = zhstGetEmulatorConverter(session);
     unsigned char text[] = {0x4A, 0x4A};  // the cent sign, as in page 37
     set(105, 43);
-    EXPECT_EQ(host::ConvertHostText(converter, host::HostToPc, 1, text), 0u);
+    EXPECT_EQ(zhstConvertHostText(converter, ZhstHostToPc, 1, text), 0u);
     EXPECT_EQ(text[0], 0xA2);
     EXPECT_EQ(text[1], 0x4A);
-    EXPECT_EQ(host::ConvertHostText(converter, host::PcToHost, 1, text), 0u);
+    EXPECT_EQ(zhstConvertHostText(converter, ZhstPcToHost, 1, text), 0u);
     EXPECT_EQ(text[0], 0x4A);
     set(105, 99999);
-    EXPECT_NE(host::ConvertHostText(converter, host::HostToPc, 1, text), 0u);
+    EXPECT_NE(zhstConvertHostText(converter, ZhstHostToPc, 1, text), 0u);
 }
 
 // Tests that fail each allocation in turn say nothing where none fails.
@@ -250,21 +251,21 @@ TEST_F(Emulator, AllocationsFailWhenAskedFor) {
     emulator::Faults faults;
     faults.failAllocation = 2;
     emulator::setFaults(faults);
-    auto* block = static_cast<char*>(host::AllocateObject(10, 1));
-    EXPECT_EQ(host::ReallocateObject(block, 20), nullptr);
-    block = static_cast<char*>(host::ReallocateObject(block, 30));
+    auto* block = static_cast<char*>(zhstAllocateObject(10, 1));
+    EXPECT_EQ(zhstReallocateObject(block, 20), nullptr);
+    block = static_cast<char*>(zhstReallocateObject(block, 30));
     ASSERT_NE(block, nullptr);
     EXPECT_EQ(block[9], 0);
     EXPECT_EQ(emulator::allocations().calls, 3u);
     EXPECT_EQ(emulator::allocations().liveBlocks, 1u);
     EXPECT_EQ(emulator::allocations().liveBytes, 30u);
-    host::FreeObject(block);
+    zhstFreeObject(block);
     EXPECT_EQ(emulator::allocations().liveBytes, 0u);
     faults.failAllAfter = faults.refuseStore = true;
     emulator::setFaults(faults);
-    host::FreeObject(host::AllocateObject(1, 0));
-    for (int i = 0; i < 2; ++i) EXPECT_EQ(host::AllocateObject(1, 0), nullptr);
-    EXPECT_EQ(host::OpenStore("ZHST"), 0u);
+    zhstFreeObject(zhstAllocateObject(1, 0));
+    for (int i = 0; i < 2; ++i) EXPECT_EQ(zhstAllocateObject(1, 0), nullptr);
+    EXPECT_EQ(zhstOpenStore("ZHST"), 0u);
 }
 
 }  // namespace

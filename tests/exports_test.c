@@ -5,7 +5,7 @@
 #include <stdlib.h>
 #include <string.h>
 
-#include "calling_convention.h"
+#include "Z7XFRPCS/calling_convention.h"
 #include "exports_session.h"
 #include "support/dynamic_library.h"
 

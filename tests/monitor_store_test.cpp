@@ -68,11 +68,11 @@ TEST_F(MonitorStore, EveryExchangeOfATransferByteForByte) {
 }
 
 TEST_F(MonitorStore, ResultsKeepTheirDataButForTwoKinds) {
-    scripted::answerNext(provider::TF_RESET, Answer::code(0x2005, "RESET DATA"));
-    scripted::answerNext(provider::TF_SEND_REQUEST, Answer::code(0, "IGNORED"));
+    scripted::answerNext(TF_RESET, Answer::code(0x2005, "RESET DATA"));
+    scripted::answerNext(TF_SEND_REQUEST, Answer::code(0, "IGNORED"));
     Answer refused = Answer::code(0xFFFF3000u, "NO SUCH FILE");
     refused.detail = 0xABCD0102u;
-    scripted::answerNext(provider::TF_SEND_REQUEST, refused);
+    scripted::answerNext(TF_SEND_REQUEST, refused);
     receive();
     const Values results = of("XDGI");
     ASSERT_GE(results.size(), 3u);

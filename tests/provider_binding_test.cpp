@@ -1,6 +1,6 @@
 #include <cstdlib>
 
-#include "host/session.h"
+#include "Z7XFRPCS/session.h"
 #include "support/transfer_fixture.h"
 
 namespace {
@@ -16,7 +16,7 @@ protected:
         std::filesystem::remove(pcFile());
         user.messages.clear();
     }
-    std::uint32_t sessionWindow() { return host::GetSessionWindow(host::GetSessionSettings(session)); }
+    std::uint32_t sessionWindow() { return zhstGetSessionWindow(zhstGetSessionSettings(session)); }
 };
 
 struct Refusal {
@@ -148,7 +148,7 @@ TEST_F(ProviderBinding, EachTransportReachesItsFamilyAndLeavesIt) {
         const auto& [load, atEnd] = Families[static_cast<std::size_t>(row.family)];
         EXPECT_EQ(journalCount(load), 1u);
         ASSERT_FALSE(scripted::calls().empty());
-        EXPECT_EQ(scripted::calls().front().function, provider::TF_RESET);
+        EXPECT_EQ(scripted::calls().front().function, TF_RESET);
         EXPECT_EQ(scripted::calls().front().conversation, 0u);
         EXPECT_EQ(scripted::calls().back().conversation, 1u);
         for (const auto& call : scripted::calls()) {

@@ -6,13 +6,11 @@
 #include <utility>
 #include <vector>
 
-#include "provider/provider_call.h"
+#include "Z7XFRPCS/provider.h"
 #include "support/dynamic_library.h"
 #include "support/library.h"
 
 namespace {
-
-using namespace provider;
 
 void* load(const std::string& name) { return openLibrary((binFolder() + "/providers/" + name + ".DLL").c_str()); }
 
@@ -39,7 +37,7 @@ TEST(Providers, ExactlyTheirEntriesAreVisible) {
             EXPECT_EQ(findFunction(library, entry.c_str()) != nullptr, wanted) << name << " " << entry;
         }
     }
-    EXPECT_NE(entryOf<IsRouterLoadedEntry>(load("E32APPC"), "EHNAPPC_IsRouterLoaded")(1), 0u);
+    EXPECT_NE(entryOf<TfIsRouterLoadedEntry>(load("E32APPC"), "EHNAPPC_IsRouterLoaded")(1), 0u);
 }
 
 TEST(Providers, HandlesOfNobodyAreRefused) {
@@ -47,23 +45,23 @@ TEST(Providers, HandlesOfNobodyAreRefused) {
         {"ZEHNTFW", "zehnRequestor", "newZEHNTFWCLIENT", "deleteZEHNTFWCLIENT"},
         {"ZTFWAPPC", "zehnRequestor", "newZTFWAPPCCLIENT", "deleteZTFWAPPCCLIENT"},
         {"AS4XFER", "as400Request", "newAS4XFERCLIENT", "deleteZAS4XFERCLIENT"}};
-    std::array<char, BufferSize> buffer{};
+    std::array<char, TF_BUFFER_SIZE> buffer{};
     for (const auto& [name, request, create, destroy] : families) {
         void* const library = load(name);
-        const std::uint32_t client = entryOf<NewClientEntry>(library, create)(21, 22);
-        const auto call = [&, entry = entryOf<RequestEntry>(library, request)](std::uint32_t of, std::uint32_t talk) {
+        const std::uint32_t client = entryOf<TfNewClientEntry>(library, create)(21, 22);
+        const auto call = [&, entry = entryOf<TfRequestEntry>(library, request)](std::uint32_t of, std::uint32_t talk) {
             void* data = nullptr;
             std::uint32_t length = 0, detail = 0;
-            return entry(of, &talk, TF_GET_DATA, buffer.data(), BufferSize, 0, nullptr, 0, &data, &length, &detail);
+            return entry(of, &talk, TF_GET_DATA, buffer.data(), TF_BUFFER_SIZE, 0, nullptr, 0, &data, &length, &detail);
         };
         EXPECT_EQ(call(client, 0), 0x2002u);
         EXPECT_EQ(call(client, 99999), 0x2003u);
         EXPECT_EQ(call(client + 1, 0), 0x2003u);
-        if (const auto find = entryOf<GetClientEntry>(library, "getAS4XFERCLIENT")) {
+        if (const auto find = entryOf<TfGetClientEntry>(library, "getAS4XFERCLIENT")) {
             EXPECT_EQ(find(21), client);
             EXPECT_EQ(find(23), 0u);
         }
-        entryOf<DeleteClientEntry>(library, destroy)(client);
+        entryOf<TfDeleteClientEntry>(library, destroy)(client);
     }
 }
 

@@ -2,7 +2,7 @@
 #include <numeric>
 #include <sstream>
 
-#include "host/session.h"
+#include "Z7XFRPCS/session.h"
 #include "platform/platform.h"
 #include "support/transfer_fixture.h"
 
@@ -155,7 +155,7 @@ TEST_F(ReceiveDriver, EmptyFileIsToldOnlyWhenItWasCounted) {
         emulator::clearJournal();
         receive(1);
         ASSERT_EQ(user.messages.size(), 1u);
-        EXPECT_EQ(user.messages[0].id, host::MessageId(7, 416));
+        EXPECT_EQ(user.messages[0].id, zhstMessageId(7, 416));
         EXPECT_EQ(user.messages[0].helpId, 124u);
         expectInOrder({"ProgressDialogHide(", "ShowMessage(", "ProgressDialogShow(", "command 1"});
         EXPECT_FALSE(pcFileExists());
@@ -175,11 +175,11 @@ TEST_F(ReceiveDriver, CancelAtEachCheck) {
         int nth;
         std::size_t entries;  // of a whole transfer, then its end
         std::size_t records;  // 99: no file
-    } rows[] = {{provider::TF_SEND_REQUEST, 1, 1, 99},
-                {provider::TF_SEND_REQUEST, 2, 2, 99},
-                {provider::TF_GET_FIELD, 1, 4, 99},
-                {provider::TF_GET_DATA, 1, 5, 1},
-                {provider::TF_GET_DATA, 2, 6, 2}};
+    } rows[] = {{TF_SEND_REQUEST, 1, 1, 99},
+                {TF_SEND_REQUEST, 2, 2, 99},
+                {TF_GET_FIELD, 1, 4, 99},
+                {TF_GET_DATA, 1, 5, 1},
+                {TF_GET_DATA, 2, 6, 2}};
     for (const auto& row : rows) {
         SCOPED_TRACE(std::string(scripted::functionName(row.function)) + " " + std::to_string(row.nth));
         std::filesystem::remove(pcFile());
@@ -204,7 +204,7 @@ TEST_F(ReceiveDriver, RequestIsEndedWhenItWasLeftOrTheClientWantsIt) {
     receive();
     EXPECT_EQ(scripted::entries().back(), "TF_END_REQUEST");
     useTransport(2);
-    scripted::answerNext(provider::TF_GET_DATA, Answer::code(0x2001));
+    scripted::answerNext(TF_GET_DATA, Answer::code(0x2001));
     receive();
     EXPECT_EQ(scripted::entries().back(), "TF_END_REQUEST");
 }

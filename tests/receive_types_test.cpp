@@ -176,8 +176,8 @@ TEST_F(ReceiveTypes, AnswersBeyondTheBufferEndTheTransferAndKeepWhatCameBefore) 
             user.messages.clear();
             Answer tooLong = Answer::data(std::string(4096, '\xC1'));
             tooLong.dataLength = length;
-            scripted::answerNext(provider::TF_GET_DATA, Answer::data(hostText("ALPHA")));
-            scripted::answerNext(provider::TF_GET_DATA, tooLong);
+            scripted::answerNext(TF_GET_DATA, Answer::data(hostText("ALPHA")));
+            scripted::answerNext(TF_GET_DATA, tooLong);
             const std::string line = type == CommaSeparated ? "ALPHA\r\n"
                                      : type == BasicRandom  ? "ALPHA"
                                                             : hostText("ALPHA");
@@ -189,7 +189,7 @@ TEST_F(ReceiveTypes, AnswersBeyondTheBufferEndTheTransferAndKeepWhatCameBefore) 
 }
 
 TEST_F(ReceiveTypes, NullDataAndShortDescriptionsDoNoHarm) {
-    for (const std::uint32_t function : {provider::TF_SEND_REQUEST, provider::TF_GET_FIELD, provider::TF_GET_DATA}) {
+    for (const std::uint32_t function : {TF_SEND_REQUEST, TF_GET_FIELD, TF_GET_DATA}) {
         for (const std::uint32_t length : {0u, 40u, 0xFFFFFFF0u, 0xFFFFFFFFu}) {
             for (const std::uint32_t code : {0u, 0x2001u, 0x3000u}) {
                 SCOPED_TRACE(std::to_string(function) + ", " + std::to_string(length) + ", " + std::to_string(code));

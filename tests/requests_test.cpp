@@ -105,9 +105,9 @@ TEST_F(Requests, CountIsAskedForOnlyWhenItIsNeeded) {
         bool counting = false;
         for (auto i = before; i < scripted::calls().size(); ++i) {
             const auto& call = scripted::calls()[i];
-            if (call.function == provider::TF_SEND_REQUEST) counting = call.request.rfind("SELECT COUNT", 0) == 0;
-            fetches += counting && call.function == provider::TF_GET_DATA;
-            ends += counting && call.function == provider::TF_END_REQUEST;
+            if (call.function == TF_SEND_REQUEST) counting = call.request.rfind("SELECT COUNT", 0) == 0;
+            fetches += counting && call.function == TF_GET_DATA;
+            ends += counting && call.function == TF_END_REQUEST;
         }
         EXPECT_EQ(fetches, row.fetches);
         EXPECT_EQ(ends, row.ends);
@@ -137,8 +137,7 @@ TEST_F(Requests, DesignationOfTheHostSystem) {
         ASSERT_GT(scripted::calls().size(), before);
         for (auto i = before; i < scripted::calls().size(); ++i) {
             const auto& call = scripted::calls()[i];
-            const bool designated =
-                call.function == provider::TF_SEND_REQUEST || call.function == provider::TF_GET_FIELD;
+            const bool designated = call.function == TF_SEND_REQUEST || call.function == TF_GET_FIELD;
             EXPECT_EQ(call.designation, designated ? row.designation : std::nullopt)
                 << scripted::functionName(call.function);
         }

@@ -449,7 +449,7 @@ TEST_F(Send, LayoutsThatCannotBeSent) {
 }
 
 TEST_F(Send, FailuresOfTheHostEndTheSendAndTheRequest) {
-    const std::uint32_t functions[] = {provider::TF_SEND_REQUEST, provider::TF_GET_FIELD, provider::TF_PUT_DATA};
+    const std::uint32_t functions[] = {TF_SEND_REQUEST, TF_GET_FIELD, TF_PUT_DATA};
     for (const std::uint32_t function : functions) {
         emulator::clearJournal();
         scripted::answerNext(function, Answer::code(0x2001));

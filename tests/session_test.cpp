@@ -60,7 +60,7 @@ TEST_F(Session, StopWithoutAConversationIsSilent) {
     setFault(&emulator::Faults::failWriteAfterBytes, 3);
     // Behind the end of the data the provider gives no conversation any more.
     hostFile.observe = [](const scripted::Call& call) {
-        EXPECT_TRUE(call.function != provider::TF_END_REQUEST || call.conversation == 0);
+        EXPECT_TRUE(call.function != TF_END_REQUEST || call.conversation == 0);
     };
     receive();
     EXPECT_EQ(entered("TF_END_DATA"), 1);
@@ -84,8 +84,7 @@ TEST_F(Session, StopDuringAProviderCallWaitsForItsEnd) {
                       set(setting::ConnectionChanging, 0);
                   }}};
     for (const auto& stop : stops) {
-        for (const std::uint32_t function :
-             {provider::TF_RESET, provider::TF_SEND_REQUEST, provider::TF_GET_FIELD, provider::TF_GET_DATA}) {
+        for (const std::uint32_t function : {TF_RESET, TF_SEND_REQUEST, TF_GET_FIELD, TF_GET_DATA}) {
             SCOPED_TRACE(std::string(stop.name) + " during " + scripted::functionName(function));
             library.xferCleanup(session);
             useTransport(2);
@@ -98,7 +97,7 @@ TEST_F(Session, StopDuringAProviderCallWaitsForItsEnd) {
             receive();
             ASSERT_GT(behind, 0u);
             // The conversation, when there is one, is ended at once.
-            if (function != provider::TF_RESET) {
+            if (function != TF_RESET) {
                 const auto& entries = scripted::entries();
                 ASSERT_GE(entries.size(), behind + 2);
                 EXPECT_EQ(entries[behind], "TF_END_DATA");
@@ -117,8 +116,7 @@ TEST_F(Session, StopDuringAProviderCallWaitsForItsEnd) {
 TEST_F(Session, StopBehindTheCountEndsTheTransfer) {
     useTransport(9);
     set(setting::RecordProgress, 1);
-    hostFile.during(provider::TF_GET_DATA,
-                    [this] { hostFile.during(provider::TF_GET_DATA, [this] { library.xferCleanup(session); }); });
+    hostFile.during(TF_GET_DATA, [this] { hostFile.during(TF_GET_DATA, [this] { library.xferCleanup(session); }); });
     receive(1);
     EXPECT_EQ(user.messages.size(), 1u);
     EXPECT_FALSE(bound());
@@ -129,7 +127,7 @@ TEST_F(Session, TransferInAListingIsTurnedAway) {
     hostFile.catalogue = {hostText("QGPL      ")};
     HostCatalogEntry entry = {};
     client();
-    hostFile.during(provider::TF_GET_DATA, [this] { receive(); });
+    hostFile.during(TF_GET_DATA, [this] { receive(); });
     EXPECT_EQ(library.pcsGetFirstHostFilename(session, "", &entry), 0u);
     EXPECT_EQ(hostFile.statements.size(), 1u);
     EXPECT_TRUE(user.messages.empty());
@@ -152,7 +150,7 @@ TEST_F(Session, YieldPumpsTheDialogOfTheExchange) {
     library.EHNTF_STF_Callback();
     EXPECT_TRUE(user.progressCommands.empty()) << "no exchange, no dialog";
     std::vector<std::uint32_t> commands;
-    hostFile.during(provider::TF_SEND_REQUEST, [&] {
+    hostFile.during(TF_SEND_REQUEST, [&] {
         user.progressCommands.clear();
         scripted::calls().back().yield();
         commands = user.progressCommands;
@@ -165,7 +163,7 @@ TEST_F(Session, CancelInTheYieldEndsTheTransfer) {
     user.onProgressCommand = [this](std::uint32_t command) {
         if (command == 16 && user.progressCommands.size() == 99) library.pcsCancelTransfer(client());
     };
-    hostFile.during(provider::TF_GET_DATA, [this] {
+    hostFile.during(TF_GET_DATA, [this] {
         user.progressCommands.resize(98);
         scripted::calls().back().yield();
     });
@@ -181,7 +179,7 @@ TEST_F(Session, OnlyTheFirstSessionIsCalledBack) {
     library.EHNTF_STF_Callback();
     library.deleteZXFRPCSCLIENT(second);
     std::size_t pumped = 0;
-    hostFile.during(provider::TF_SEND_REQUEST, [&] {
+    hostFile.during(TF_SEND_REQUEST, [&] {
         const auto before = user.progressCommands.size();
         library.EHNTF_STF_Callback();
         pumped = user.progressCommands.size() - before;

@@ -107,16 +107,12 @@ TEST_F(TransferDriver, TransferIsActiveOnlyWhileItRunsHoweverItEnds) {
     const auto refuse = [](bool emulator::Faults::*fault) { return [fault] { setFault(fault, true); }; };
     const std::vector<Ending> endings = {
         {"complete", [] {}, {}},
-        {"request refused",
-         [this] { scripted::answerNext(provider::TF_SEND_REQUEST, scripted::Answer::code(0x2001)); },
-         {4406}},
-        {"silent failure",
-         [this] { scripted::answerNext(provider::TF_SEND_REQUEST, scripted::Answer::code(0x7101)); },
-         {}},
+        {"request refused", [this] { scripted::answerNext(TF_SEND_REQUEST, scripted::Answer::code(0x2001)); }, {4406}},
+        {"silent failure", [this] { scripted::answerNext(TF_SEND_REQUEST, scripted::Answer::code(0x7101)); }, {}},
         {"no file object", refuse(&emulator::Faults::refuseFileObject), {4001}},
         {"no progress dialog", refuse(&emulator::Faults::refuseProgressDialog), {4001}},
         {"cancelled",
-         [this] { hostFile.during(provider::TF_SEND_REQUEST, [this] { library.pcsCancelTransfer(client()); }); },
+         [this] { hostFile.during(TF_SEND_REQUEST, [this] { library.pcsCancelTransfer(client()); }); },
          {}},
     };
     receive();  // binds the provider
@@ -146,7 +142,7 @@ TEST_F(TransferDriver, WithoutAFileObjectNoDriverRunsAndTheTypeIsRestored) {
 
 TEST_F(TransferDriver, SettingsFileRunsFirstAndMovesToItsFolder) {
     std::filesystem::create_directory(path("elsewhere"));
-    emulator::setSettingsFileReader([this](host::SessionHandle of, const std::string& file) {
+    emulator::setSettingsFileReader([this](ZhstSession of, const std::string& file) {
         EXPECT_EQ(of, session);
         EXPECT_EQ(file, "daily.xfr");
         set(setting::WorkingDirectory, path("elsewhere"));
@@ -160,7 +156,7 @@ TEST_F(TransferDriver, SettingsFileRunsFirstAndMovesToItsFolder) {
 }
 
 TEST_F(TransferDriver, FailingSettingsFileEndsBeforeAnythingStarts) {
-    emulator::setSettingsFileReader([](host::SessionHandle, const std::string&) { return false; });
+    emulator::setSettingsFileReader([](ZhstSession, const std::string&) { return false; });
     library.pcsTransferFile(client(), "daily.xfr", 0, 0, 0);
     EXPECT_TRUE(scripted::entries().empty());
     EXPECT_EQ(emulator::openObjects().modules, 0u);

@@ -11,7 +11,7 @@ protected:
     // Receives when the request is answered with this; the messages of this transfer alone.
     const std::vector<emulator::MessageBox>& told(const Answer& answer, std::uint32_t showProgress = 0) {
         user.messages.clear();
-        scripted::answerNext(provider::TF_SEND_REQUEST, answer);
+        scripted::answerNext(TF_SEND_REQUEST, answer);
         receive(showProgress);
         return user.messages;
     }
@@ -33,7 +33,7 @@ struct Row {
     const char* inserts;
 };
 
-constexpr std::uint32_t Ask = provider::TF_SEND_REQUEST, Fetch = provider::TF_GET_DATA;
+constexpr std::uint32_t Ask = TF_SEND_REQUEST, Fetch = TF_GET_DATA;
 
 const Row Rows[] = {
     {"request refused", 2, Ask, 0x2001, 0, "", 4406, 4406, 7, 506, "CNE"},
@@ -125,12 +125,12 @@ TEST_F(TransferErrors, TextsAndHelpOfTheWholeTable) {
 
 TEST_F(TransferErrors, CodesThatAreNoErrors) {
     set(setting::LastErrorText, "before");
-    scripted::answerNext(provider::TF_SEND_REQUEST, Answer::code(0x5057));
-    scripted::answerNext(provider::TF_GET_DATA, Answer::code(0x7101));
+    scripted::answerNext(TF_SEND_REQUEST, Answer::code(0x5057));
+    scripted::answerNext(TF_GET_DATA, Answer::code(0x7101));
     receive();
     EXPECT_EQ(number(setting::LastReturnCode), 0x7101);
-    scripted::answerNext(provider::TF_SEND_REQUEST, Answer::code(0));
-    scripted::answerNext(provider::TF_SEND_REQUEST, Answer::code(0x5057));
+    scripted::answerNext(TF_SEND_REQUEST, Answer::code(0));
+    scripted::answerNext(TF_SEND_REQUEST, Answer::code(0x5057));
     hostFile.records.clear();
     receive();
     EXPECT_EQ(number(setting::LastReturnCode), 0x5057) << "the end of data is not judged";
@@ -178,7 +178,7 @@ TEST_F(TransferErrors, CountAndJobAreThoseOfTheFailingTransfer) {
     hostFile.count = 17;
     int fetches = 0;  // of the count and two records
     hostFile.intercept = [&](const scripted::Call& call) -> std::optional<Answer> {
-        if (call.function != provider::TF_GET_DATA || ++fetches != 3) return std::nullopt;
+        if (call.function != TF_GET_DATA || ++fetches != 3) return std::nullopt;
         set(setting::JobName, "QZDASOINIT");
         set(setting::JobUser, "QUSER");
         set(setting::JobNumber, "123456");

@@ -1,6 +1,6 @@
 #include "client/client_lifecycle.h"
 
-#include "client/exports.h"
+#include "Z7XFRPCS/exports.h"
 
 namespace client {
 namespace {
@@ -9,7 +9,7 @@ constexpr std::uint32_t CleanupSlot = 104;
 constexpr std::uint32_t RequestCapacity = 4096;
 
 ZXFRPCSCLIENT* currentClient = nullptr;
-host::SessionHandle currentSession = 0;
+services::SessionHandle currentSession = 0;
 
 // A second client for the session that is current already does not take its place.
 void registerClient(ZXFRPCSCLIENT* client) {
@@ -18,28 +18,28 @@ void registerClient(ZXFRPCSCLIENT* client) {
     currentSession = client->session;
 }
 
-host::Owned<text::TextBuffer> makeRequestText() {
-    auto text = host::Owned<text::TextBuffer>::make(RequestCapacity);
+services::Owned<text::TextBuffer> makeRequestText() {
+    auto text = services::Owned<text::TextBuffer>::make(RequestCapacity);
     if (text && !text->hasBlock()) text.reset();
     return text;
 }
 
 }  // namespace
 
-ZXFRPCSCLIENT* createClient(host::SessionHandle session) {
-    auto owned = host::Owned<ZXFRPCSCLIENT>::make(session);
+ZXFRPCSCLIENT* createClient(services::SessionHandle session) {
+    auto owned = services::Owned<ZXFRPCSCLIENT>::make(session);
     if (!owned) return nullptr;
     ZXFRPCSCLIENT* client = owned.release();
     registerClient(client);
-    client->settings = host::GetSessionSettings(session);
-    client->appHandle = host::GetSessionApp(session);
-    client->sessionServices = host::GetSessionServices(session);
-    client->mainWindow = host::GetSessionWindow(client->settings);
-    client->pathServices = static_cast<host::PathServices*>(host::GetSessionObject(session, host::PathServicesKind));
+    client->settings = services::GetSessionSettings(session);
+    client->appHandle = services::GetSessionApp(session);
+    client->sessionServices = services::GetSessionServices(session);
+    client->mainWindow = services::GetSessionWindow(client->settings);
+    client->pathServices = services::GetPathServices(session);
     client->tfSession = makeTransferFunctionSession(session);
     client->requestText = makeRequestText();
-    client->workText = host::Owned<text::TextBuffer>::make();
-    host::RegisterCleanup(session, CleanupSlot, xferCleanup);
+    client->workText = services::Owned<text::TextBuffer>::make();
+    services::RegisterCleanup(session, CleanupSlot, xferCleanup);
     return client;
 }
 
@@ -48,14 +48,16 @@ void destroyClient(ZXFRPCSCLIENT* client) {
     client->tfSession.reset();
     client->requestText.reset();
     client->workText.reset();
-    host::RegisterCleanup(client->session, CleanupSlot, nullptr);
+    services::RegisterCleanup(client->session, CleanupSlot, nullptr);
     if (client == currentClient) {
         currentClient = nullptr;
         currentSession = 0;
     }
-    host::Owned<ZXFRPCSCLIENT>::adopt(client).reset();
+    services::Owned<ZXFRPCSCLIENT>::adopt(client).reset();
 }
 
-ZXFRPCSCLIENT* findClient(host::SessionHandle session) { return session == currentSession ? currentClient : nullptr; }
+ZXFRPCSCLIENT* findClient(services::SessionHandle session) {
+    return session == currentSession ? currentClient : nullptr;
+}
 
 }  // namespace client

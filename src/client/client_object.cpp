@@ -1,26 +1,25 @@
 #include "client/client_object.h"
 
-#include "client/exports.h"
-#include "host/setting_ids.h"
-#include "host/setting_values.h"
+#include "Z7XFRPCS/exports.h"
+#include "Z7XFRPCS/settings.h"
 
 namespace client {
 
-host::Owned<provider::TransferFunctionSession> makeTransferFunctionSession(host::SessionHandle session) {
-    return host::Owned<provider::TransferFunctionSession>::make(session, stateChangeProc, EHNTF_STF_Callback);
+services::Owned<provider::TransferFunctionSession> makeTransferFunctionSession(services::SessionHandle session) {
+    return services::Owned<provider::TransferFunctionSession>::make(session, stateChangeProc, EHNTF_STF_Callback);
 }
 
 }  // namespace client
 
 void ZXFRPCSCLIENT::pumpMessages() {
     if (progressDialog && showProgress)
-        host::ProgressDialogCommand(progressDialog, host::ProgressCommand::ProcessMessages);
+        services::ProgressDialogCommand(progressDialog, services::ProgressCommand::ProcessMessages);
     else
-        host::PumpMessages(appHandle, 1);
+        services::PumpMessages(appHandle, 1);
 }
 
 bool ZXFRPCSCLIENT::isDemonstration() const {
-    return host::GetSetting(settings, host::setting::ConnectionType) == host::value::DemonstrationConnection;
+    return services::GetSetting(settings, zhst::setting::ConnectionType) == zhst::value::DemonstrationConnection;
 }
 
 bool ZXFRPCSCLIENT::tfStart() {

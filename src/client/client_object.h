@@ -2,9 +2,9 @@
 
 #include <cstddef>
 
-#include "host/objects.h"
-#include "host/owned.h"
 #include "provider/transfer_function_session.h"
+#include "services/objects.h"
+#include "services/owned.h"
 #include "settings/transfer_context.h"
 #include "settings/transfer_settings.h"
 #include "text/text_buffer.h"
@@ -12,34 +12,34 @@
 // The transfer client of one host session: plain state that the requests and drivers work on. It lives from
 // newZXFRPCSCLIENT to deleteZXFRPCSCLIENT; what the comments call "running" is meaningful during one transfer only.
 struct ZXFRPCSCLIENT {
-    explicit ZXFRPCSCLIENT(host::SessionHandle handle) : session(handle) {}
+    explicit ZXFRPCSCLIENT(services::SessionHandle handle) : session(handle) {}
 
     // The two flags that the text display's notifications set: they must stay the first two words.
     std::uint32_t moreRequested = 0;
     std::uint32_t displayClosed = 0;
-    host::Owned<provider::TransferFunctionSession> tfSession;  // made again by tfStart when it is missing
-    host::SessionHandle session;
-    host::SettingsHandle settings = 0;
-    host::PathServices* pathServices = nullptr;
-    host::FileObject* fileObject = nullptr;   // running: the PC file
-    host::TextDisplayHandle textDisplay = 0;  // running, output to the screen
-    host::WindowHandle ownerWindow = 0;       // running
-    host::WindowHandle mainWindow = 0;
-    std::uint32_t cancelRequested = 0;              // running: set by pcsCancelTransfer
-    std::uint32_t showProgress = 0;                 // running
-    host::ProgressDialogHandle progressDialog = 0;  // running
-    char pcFileName[1025] = {};                     // running
-    char hostFileName[1025] = {};                   // running
-    host::AppHandle appHandle = 0;
+    services::Owned<provider::TransferFunctionSession> tfSession;  // made again by tfStart when it is missing
+    services::SessionHandle session;
+    services::SettingsHandle settings = 0;
+    services::PathServices* pathServices = nullptr;
+    services::FileObject* fileObject = nullptr;   // running: the PC file
+    services::TextDisplayHandle textDisplay = 0;  // running, output to the screen
+    services::WindowHandle ownerWindow = 0;       // running
+    services::WindowHandle mainWindow = 0;
+    std::uint32_t cancelRequested = 0;                  // running: set by pcsCancelTransfer
+    std::uint32_t showProgress = 0;                     // running
+    services::ProgressDialogHandle progressDialog = 0;  // running
+    char pcFileName[1025] = {};                         // running
+    char hostFileName[1025] = {};                       // running
+    services::AppHandle appHandle = 0;
     provider::TfResult lastResult;
-    host::Owned<settings::TransferContext> transferContext;    // running
-    host::Owned<settings::TransferSettings> transferSettings;  // running
-    const host::SessionServices* sessionServices = nullptr;
+    services::Owned<settings::TransferContext> transferContext;    // running
+    services::Owned<settings::TransferSettings> transferSettings;  // running
+    const services::SessionServices* sessionServices = nullptr;
     std::uint32_t demoIndex = 0;
-    host::Owned<text::TextBuffer> workText;     // the filter of a demonstration catalogue
-    host::Owned<text::TextBuffer> requestText;  // 4096 characters: statements are composed in it
-    bool transferRunning = false;               // from the first step of a transfer to its end
-    const char* browseFilter = nullptr;         // while a first catalogue call runs
+    services::Owned<text::TextBuffer> workText;     // the filter of a demonstration catalogue
+    services::Owned<text::TextBuffer> requestText;  // 4096 characters: statements are composed in it
+    bool transferRunning = false;                   // from the first step of a transfer to its end
+    const char* browseFilter = nullptr;             // while a first catalogue call runs
 
     // Lets the emulator process pending window messages once.
     void pumpMessages();
@@ -64,6 +64,6 @@ static_assert(sizeof(void*) != 4 || offsetof(ZXFRPCSCLIENT, tfSession) == 8);
 namespace client {
 
 // The transfer-function session of a client; null when there is no memory for it.
-host::Owned<provider::TransferFunctionSession> makeTransferFunctionSession(host::SessionHandle session);
+services::Owned<provider::TransferFunctionSession> makeTransferFunctionSession(services::SessionHandle session);
 
 }  // namespace client

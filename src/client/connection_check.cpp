@@ -1,21 +1,21 @@
 #include "client/connection_check.h"
 
+#include "Z7XFRPCS/settings.h"
 #include "client/client_object.h"
 #include "client/library.h"
-#include "host/setting_ids.h"
 #include "platform/platform.h"
 
 namespace client {
 namespace {
 
-namespace id = host::setting;
+namespace id = zhst::setting;
 
 constexpr std::int32_t NamedSystemTransport = 9;
 
 // Two characters are enough: whether the text is empty, and what it begins with.
 struct SettingStart {
-    SettingStart(host::SettingsHandle settings, std::uint32_t setting) {
-        host::GetStringSetting(settings, setting, text, sizeof(text));
+    SettingStart(services::SettingsHandle settings, std::uint32_t setting) {
+        services::GetStringSetting(settings, setting, text, sizeof(text));
     }
     bool isEmpty() const { return text[0] == '\0'; }
     char text[2] = {};
@@ -27,13 +27,13 @@ bool isServedByDialog(std::int32_t transportType) {
 
 // Everything the check looks at, read before anything is decided.
 struct ConnectionSettings {
-    explicit ConnectionSettings(host::SettingsHandle settings)
+    explicit ConnectionSettings(services::SettingsHandle settings)
         : system(settings, id::HostSystemName),
           param250(settings, id::ConnectionParam250),
           param248(settings, id::ConnectionParam248),
           param512(settings, id::ConnectionParam512),
-          messagesEnabled(host::IsMessageEnabled(settings, 0) != 0),
-          transportType(host::GetSetting(settings, id::TransportType)) {}
+          messagesEnabled(services::IsMessageEnabled(settings, 0) != 0),
+          transportType(services::GetSetting(settings, id::TransportType)) {}
 
     bool isIncomplete() const {
         return system.isEmpty() || (param250.isEmpty() && system.text[0] != '.') || param248.isEmpty() ||
@@ -51,7 +51,8 @@ bool checkConnection(const ZXFRPCSCLIENT& client) {
     const ConnectionSettings connection(client.settings);
     if (!connection.isIncomplete() || !connection.messagesEnabled || !isServedByDialog(connection.transportType))
         return true;
-    return host::ConnectionDialog(client.session, moduleHandle(), platform::GetLastActivePopup(client.mainWindow)) != 0;
+    return services::ConnectionDialog(client.session, moduleHandle(),
+                                      platform::GetLastActivePopup(client.mainWindow)) != 0;
 }
 
 }  // namespace client

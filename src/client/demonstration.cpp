@@ -4,18 +4,17 @@
 #include <iterator>
 #include <string_view>
 
+#include "Z7XFRPCS/settings.h"
 #include "client/library.h"
-#include "host/setting_ids.h"
-#include "host/setting_values.h"
-#include "host/text_display.h"
 #include "platform/platform.h"
+#include "services/text_display.h"
 #include "settings/pc_file_types.h"
 
 namespace client {
 namespace {
 
-namespace id = host::setting;
-using host::ProgressCommand;
+namespace id = zhst::setting;
+using services::ProgressCommand;
 
 constexpr std::uint32_t FirstRowResource = 3;
 constexpr std::uint32_t LastRowResource = 25;
@@ -47,27 +46,28 @@ struct ResourceText {
 
 void setStatus(const ZXFRPCSCLIENT& client, std::uint32_t index, std::uint32_t size) {
     char text[std::max(NormalStatusSize, MoreSize)] = {};
-    host::LoadMessageText(client.session, TextTable, index, text, size);
-    host::TextDisplaySetStatus(client.textDisplay, text);
+    services::LoadMessageText(client.session, TextTable, index, text, size);
+    services::TextDisplaySetStatus(client.textDisplay, text);
 }
 
 void addColumns(const ZXFRPCSCLIENT& client) {
     for (std::uint32_t column = 0; column < ColumnCount; ++column) {
         const ResourceText title(FirstTitleResource + column);
-        host::TextDisplayAddColumn(client.textDisplay, column, title.text, columnWidths[column], host::AlignLeft);
+        services::TextDisplayAddColumn(client.textDisplay, column, title.text, columnWidths[column],
+                                       services::AlignLeft);
     }
 }
 
 void addRow(const ZXFRPCSCLIENT& client, std::uint32_t resource) {
     const ResourceText line(resource);
     std::string_view rest = line.text;
-    const host::TextRowHandle row = host::TextDisplayAddRow(client.textDisplay, 0);
+    const services::TextRowHandle row = services::TextDisplayAddRow(client.textDisplay, 0);
     for (std::uint32_t column = 0; column < ColumnCount; ++column) {
         const bool last = column + 1 == ColumnCount;
         const std::string_view text = last ? rest : rest.substr(0, columnWidths[column] - 1);
         char cell[sizeof(line.text)] = {};
         std::copy(text.begin(), text.end(), cell);
-        host::TextDisplaySetCell(client.textDisplay, cell, row, column);
+        services::TextDisplaySetCell(client.textDisplay, cell, row, column);
         rest.remove_prefix(std::min<std::size_t>(columnWidths[column], rest.size()));
     }
 }
@@ -76,10 +76,10 @@ void showTable(ZXFRPCSCLIENT& client, std::int32_t pageSize) {
     client.displayClosed = 0;
     client.moreRequested = 1;
     if (client.progressDialog) {
-        host::ProgressDialogDestroy(client.progressDialog);
+        services::ProgressDialogDestroy(client.progressDialog);
         client.progressDialog = 0;
     }
-    host::TextDisplayBegin(client.textDisplay, pageSize, 0);
+    services::TextDisplayBegin(client.textDisplay, pageSize, 0);
     addColumns(client);
     std::int32_t pageLine = 0;
     for (std::uint32_t resource = FirstRowResource; resource <= LastRowResource; ++resource) {
@@ -96,7 +96,7 @@ void showTable(ZXFRPCSCLIENT& client, std::int32_t pageSize) {
         client.moreRequested = 1;
         setStatus(client, NormalStatusText, NormalStatusSize);
     }
-    host::TextDisplayEnd(client.textDisplay);
+    services::TextDisplayEnd(client.textDisplay);
     while (!client.displayClosed) client.pumpMessages();
 }
 
@@ -108,34 +108,36 @@ void wait(std::uint32_t milliseconds) {
 std::uint32_t setTotal(const ZXFRPCSCLIENT& client, bool fromHost) {
     const std::uint32_t size = client.fileObject && !fromHost ? client.fileObject->size() : 0;
     const std::uint32_t total = fromHost ? SimulatedRecords : size;
-    host::SetSetting(client.settings, id::TransferDirection, fromHost ? host::FromHost : host::ToHost);
-    host::ProgressDialogSetTotal(client.progressDialog, total, fromHost ? host::Records : host::Bytes);
+    services::SetSetting(client.settings, id::TransferDirection, fromHost ? services::FromHost : services::ToHost);
+    services::ProgressDialogSetTotal(client.progressDialog, total, fromHost ? services::Records : services::Bytes);
     return total;
 }
 
 void simulateProgress(const ZXFRPCSCLIENT& client, bool fromHost) {
     const settings::TransferSettings& settings = *client.transferSettings;
     const auto* type = settings::pcFileType(fromHost ? settings.receiveFileType : settings.sendFileType);
-    if (type) host::ProgressDialogCommand(client.progressDialog, static_cast<ProgressCommand>(type->progressCommand));
+    if (type)
+        services::ProgressDialogCommand(client.progressDialog, static_cast<ProgressCommand>(type->progressCommand));
     const std::uint32_t total = setTotal(client, fromHost);
-    host::ProgressDialogCommand(client.progressDialog, ProgressCommand::DataBegins);
+    services::ProgressDialogCommand(client.progressDialog, ProgressCommand::DataBegins);
     for (std::uint32_t step = 1; step <= SimulatedSteps; ++step) {
         wait(StepMilliseconds);
-        host::SetSetting(client.settings, id::ProgressCount, static_cast<std::int32_t>(total / SimulatedSteps * step));
-        host::PumpMessages(client.appHandle, 1);
+        services::SetSetting(client.settings, id::ProgressCount,
+                             static_cast<std::int32_t>(total / SimulatedSteps * step));
+        services::PumpMessages(client.appHandle, 1);
         if (client.cancelRequested) {
-            host::ProgressDialogCommand(client.progressDialog, ProgressCommand::SimulationCancelled);
+            services::ProgressDialogCommand(client.progressDialog, ProgressCommand::SimulationCancelled);
             return;
         }
     }
-    host::ProgressDialogCommand(client.progressDialog, ProgressCommand::Ended);
+    services::ProgressDialogCommand(client.progressDialog, ProgressCommand::Ended);
 }
 
 }  // namespace
 
 void runDemonstration(ZXFRPCSCLIENT& client, bool fromHost) {
-    const std::int32_t pageSize = host::GetSetting(client.settings, id::DisplayRowsPerPage);
-    if (fromHost && client.transferSettings->receiveOutput == host::value::ToDisplay) {
+    const std::int32_t pageSize = services::GetSetting(client.settings, id::DisplayRowsPerPage);
+    if (fromHost && client.transferSettings->receiveOutput == zhst::value::ToDisplay) {
         if (client.textDisplay) showTable(client, pageSize);
     } else if (client.progressDialog) {
         simulateProgress(client, fromHost);

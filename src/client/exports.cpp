@@ -1,4 +1,4 @@
-#include "client/exports.h"
+#include "Z7XFRPCS/exports.h"
 
 #include "client/client_lifecycle.h"
 #include "client/transfer_driver.h"
@@ -21,12 +21,13 @@ void ZHST_CALL pcsTransferFile(ZXFRPCSCLIENT* client, const char* settingsFile, 
 
 std::uint32_t ZHST_CALL pcsGetFirstHostFilename(std::uint32_t session, const char* pattern, HostCatalogEntry* entry) {
     ZXFRPCSCLIENT* client = client::findClient(session);
-    return client && entry ? request::getFirstHostFilename(*client, pattern ? pattern : "", entry) : CatalogFailure;
+    return client && entry ? request::getFirstHostFilename(*client, pattern ? pattern : "", entry)
+                           : std::uint32_t{CatalogFailure};
 }
 
 std::uint32_t ZHST_CALL pcsGetNextHostFilename(std::uint32_t session, HostCatalogEntry* entry) {
     ZXFRPCSCLIENT* client = client::findClient(session);
-    return client && entry ? request::getNextHostFilename(*client, entry) : CatalogFailure;
+    return client && entry ? request::getNextHostFilename(*client, entry) : std::uint32_t{CatalogFailure};
 }
 
 std::uint32_t ZHST_CALL pcsAreXferCmdsEnabled(ZXFRPCSCLIENT*, std::uint32_t stateCode) {
@@ -48,7 +49,7 @@ void ZHST_CALL pcsCancelTransfer(ZXFRPCSCLIENT* client) {
     if (!client) return;
     client->cancelRequested = 1;
     // Asked so that the session notes the message; nothing is shown.
-    host::IsMessageEnabled(client->settings, TransferCancelled);
+    services::IsMessageEnabled(client->settings, TransferCancelled);
 }
 
 std::uint32_t ZHST_CALL stateChangeProc(std::uint32_t session, std::uint32_t settingId, std::int32_t newValue,

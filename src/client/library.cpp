@@ -2,10 +2,10 @@
 
 namespace client {
 namespace {
-host::ModuleHandle libraryModule = nullptr;
+services::ModuleHandle libraryModule = nullptr;
 }
 
-void attachLibrary(host::ModuleHandle module) { libraryModule = module; }
-host::ModuleHandle moduleHandle() { return libraryModule; }
+void attachLibrary(services::ModuleHandle module) { libraryModule = module; }
+services::ModuleHandle moduleHandle() { return libraryModule; }
 
 }  // namespace client

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "host/types.h"
+#include "services/handles.h"
 
 // The library as a module of the process.
 namespace client {
 
 // Called once, by the platform's library entry, when the library is attached to the process.
-void attachLibrary(host::ModuleHandle module);
+void attachLibrary(services::ModuleHandle module);
 
 // The library's own handle: holds its string resources and is passed to the connection dialog.
-host::ModuleHandle moduleHandle();
+services::ModuleHandle moduleHandle();
 
 }  // namespace client

@@ -2,9 +2,8 @@
 
 #include <cstring>
 
+#include "Z7XFRPCS/settings.h"
 #include "client/connection_check.h"
-#include "host/setting_ids.h"
-#include "host/setting_values.h"
 #include "platform/platform.h"
 #include "receive/receive_driver.h"
 #include "send/send_driver.h"
@@ -13,7 +12,7 @@
 namespace client {
 namespace {
 
-namespace id = host::setting;
+namespace id = zhst::setting;
 
 constexpr std::uint32_t SettingsFileCommand = 67;
 constexpr std::uint32_t SettingsFileSubCode = 24;
@@ -25,29 +24,30 @@ constexpr std::uint32_t PcFileOpenFlags = 11;
 constexpr char TraceFileName[] = "XFERLOG.TXT";
 
 bool runSettingsFile(const ZXFRPCSCLIENT& client, const char* settingsFile) {
-    const host::AppCommandArgument argument = {TextArgument, settingsFile};
-    host::RunAppCommand(client.appHandle, SettingsFileCommand, SettingsFileSubCode, SettingsFileMode, &argument);
-    if (host::CheckCommandFailed(client.settings)) {
-        host::SetSetting(client.settings, id::TransferActive, 0);
+    const services::AppCommandArgument argument = {TextArgument, settingsFile};
+    services::RunAppCommand(client.appHandle, SettingsFileCommand, SettingsFileSubCode, SettingsFileMode, &argument);
+    if (services::CheckCommandFailed(client.settings)) {
+        services::SetSetting(client.settings, id::TransferActive, 0);
         return false;
     }
     char directory[WorkingDirectorySize] = {};
-    host::GetStringSetting(client.settings, id::WorkingDirectory, directory, sizeof(directory));
+    services::GetStringSetting(client.settings, id::WorkingDirectory, directory, sizeof(directory));
     if (directory[0] && client.pathServices) client.pathServices->setCurrentDirectory(directory);
     return true;
 }
 
-host::WindowHandle chooseOwner(const ZXFRPCSCLIENT& client, host::WindowHandle wanted) {
+services::WindowHandle chooseOwner(const ZXFRPCSCLIENT& client, services::WindowHandle wanted) {
     if (platform::IsWindow(wanted)) return wanted;
-    const auto fallback = static_cast<host::WindowHandle>(host::GetSetting(client.settings, id::TransferOwnerWindow));
+    const auto fallback =
+        static_cast<services::WindowHandle>(services::GetSetting(client.settings, id::TransferOwnerWindow));
     return platform::GetLastActivePopup(fallback ? fallback : client.mainWindow);
 }
 
 void readFileNames(ZXFRPCSCLIENT& client) {
     client.pcFileName[0] = '\0';
     client.hostFileName[0] = '\0';
-    host::GetStringSetting(client.settings, id::PcFileName, client.pcFileName, sizeof(client.pcFileName));
-    host::GetStringSetting(client.settings, id::HostFileName, client.hostFileName, sizeof(client.hostFileName));
+    services::GetStringSetting(client.settings, id::PcFileName, client.pcFileName, sizeof(client.pcFileName));
+    services::GetStringSetting(client.settings, id::HostFileName, client.hostFileName, sizeof(client.hostFileName));
 }
 
 bool asksForTrace(const char* pcFileName) {
@@ -61,27 +61,27 @@ public:
         : settings_(client.settings), saved_(client.transferSettings->receiveFileType) {
         const std::int32_t output = client.transferSettings->receiveOutput;
         if (!receive) return;
-        if (output == host::value::ToDisplay) {
+        if (output == zhst::value::ToDisplay) {
             force(client, settings::AsciiText);
             client.showProgress = 0;
-        } else if (output == host::value::ToSpreadsheet) {
+        } else if (output == zhst::value::ToSpreadsheet) {
             force(client, settings::Dif);
         }
     }
     ~ForcedFileType() {
-        if (forced_) host::SetSetting(settings_, id::ReceiveFileType, saved_);
+        if (forced_) services::SetSetting(settings_, id::ReceiveFileType, saved_);
     }
     ForcedFileType(const ForcedFileType&) = delete;
     ForcedFileType& operator=(const ForcedFileType&) = delete;
 
 private:
     void force(ZXFRPCSCLIENT& client, settings::PcFileType type) {
-        host::SetSetting(settings_, id::ReceiveFileType, type);
+        services::SetSetting(settings_, id::ReceiveFileType, type);
         client.transferSettings->receiveFileType = type;
         forced_ = true;
     }
 
-    host::SettingsHandle settings_;
+    services::SettingsHandle settings_;
     std::int32_t saved_;
     bool forced_ = false;
 };
@@ -93,10 +93,10 @@ void reportOutOfMemory(const ZXFRPCSCLIENT& client) {
 
 bool makeSnapshotAndContext(ZXFRPCSCLIENT& client) {
     provider::TransferFunctionSession* tf = client.tfSession.get();
-    client.transferSettings = host::Owned<settings::TransferSettings>::make(client.session, tf);
+    client.transferSettings = services::Owned<settings::TransferSettings>::make(client.session, tf);
     if (client.transferSettings)
         client.transferContext =
-            host::Owned<settings::TransferContext>::make(client.session, tf, client.transferSettings.get());
+            services::Owned<settings::TransferContext>::make(client.session, tf, client.transferSettings.get());
     if (client.transferContext) return true;
     reportOutOfMemory(client);
     return false;
@@ -104,19 +104,19 @@ bool makeSnapshotAndContext(ZXFRPCSCLIENT& client) {
 
 bool makeFileObject(ZXFRPCSCLIENT& client, bool receive) {
     const std::int32_t output = client.transferSettings->receiveOutput;
-    if (receive && output != host::value::ToPcFile && output != host::value::ToSpreadsheet) return true;
-    client.fileObject = host::CreateFileObject(client.session);
+    if (receive && output != zhst::value::ToPcFile && output != zhst::value::ToSpreadsheet) return true;
+    client.fileObject = services::CreateFileObject(client.session);
     if (!client.fileObject) {
         reportOutOfMemory(client);
         return false;
     }
     client.fileObject->setName(client.pcFileName);
-    const std::int32_t type = host::GetSetting(client.settings, receive ? id::ReceiveFileType : id::SendFileType);
+    const std::int32_t type = services::GetSetting(client.settings, receive ? id::ReceiveFileType : id::SendFileType);
     const bool binary = type == settings::BasicRandom || type == settings::NoConversion;
     client.fileObject->setTypeFlag(binary ? 1 : 0);
     client.fileObject->setOpenFlags(PcFileOpenFlags);
     client.fileObject->setExistingFileAction(
-        static_cast<std::uint32_t>(host::GetSetting(client.settings, id::ExistingFileAction)));
+        static_cast<std::uint32_t>(services::GetSetting(client.settings, id::ExistingFileAction)));
     return true;
 }
 
@@ -127,7 +127,7 @@ void releaseFileAndDialog(ZXFRPCSCLIENT& client) {
         client.fileObject = nullptr;
     }
     if (client.progressDialog) {
-        host::ProgressDialogDestroy(client.progressDialog);
+        services::ProgressDialogDestroy(client.progressDialog);
         client.progressDialog = 0;
     }
 }
@@ -144,8 +144,8 @@ void runDriver(ZXFRPCSCLIENT& client, bool receive) {
     releaseFileAndDialog(client);
 }
 
-void runActiveTransfer(ZXFRPCSCLIENT& client, bool receive, host::WindowHandle ownerWindow) {
-    host::SetSetting(client.settings, id::TransferActive, 1);
+void runActiveTransfer(ZXFRPCSCLIENT& client, bool receive, services::WindowHandle ownerWindow) {
+    services::SetSetting(client.settings, id::TransferActive, 1);
     client.ownerWindow = chooseOwner(client, ownerWindow);
     readFileNames(client);
     if (asksForTrace(client.pcFileName)) client.tfSession->tfTraceOn(TraceFileName);
@@ -153,11 +153,11 @@ void runActiveTransfer(ZXFRPCSCLIENT& client, bool receive, host::WindowHandle o
     if (makeSnapshotAndContext(client)) runDriver(client, receive);
     client.transferSettings.reset();
     client.transferContext.reset();
-    host::SetSetting(client.settings, id::TransferActive, 0);
+    services::SetSetting(client.settings, id::TransferActive, 0);
 }
 
 void runTransfer(ZXFRPCSCLIENT& client, const char* settingsFile, std::uint32_t direction, std::uint32_t showProgress,
-                 host::WindowHandle ownerWindow) {
+                 services::WindowHandle ownerWindow) {
     client.showProgress = showProgress;
     if (settingsFile && *settingsFile && !runSettingsFile(client, settingsFile)) return;
     if (!checkConnection(client) || !client.tfStart()) return;
@@ -167,7 +167,7 @@ void runTransfer(ZXFRPCSCLIENT& client, const char* settingsFile, std::uint32_t 
 }  // namespace
 
 void transferFile(ZXFRPCSCLIENT& client, const char* settingsFile, std::uint32_t direction, std::uint32_t showProgress,
-                  host::WindowHandle ownerWindow) {
+                  services::WindowHandle ownerWindow) {
     if (client.isBusy()) return;
     client.transferRunning = true;
     runTransfer(client, settingsFile, direction, showProgress, ownerWindow);

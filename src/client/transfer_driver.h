@@ -10,6 +10,6 @@ namespace client {
 // PC file object, the driver of the direction (0 = from the host), and the teardown in its fixed order. A transfer that
 // comes in while one of the same client runs is turned away.
 void transferFile(ZXFRPCSCLIENT& client, const char* settingsFile, std::uint32_t direction, std::uint32_t showProgress,
-                  host::WindowHandle ownerWindow);
+                  services::WindowHandle ownerWindow);
 
 }  // namespace client

@@ -30,19 +30,19 @@ bool hasPlaceOfItsOwn(std::string_view name) {
 }
 
 // A path that was cut could be that of another file.
-host::OwnedFile refuse(const settings::TransferContext& context, const char* fdfName) {
+services::OwnedFile refuse(const settings::TransferContext& context, const char* fdfName) {
     char message[480];
     std::snprintf(message, sizeof(message), "The path of the PC file description %s is longer than 260 characters.",
                   fdfName);
     provider::showOwnText({context.session, context.settings, context.mainWindow}, message);
-    return host::OwnedFile();
+    return services::OwnedFile();
 }
 
 }  // namespace
 
-host::OwnedFile resolveFdfPath(const settings::TransferContext& context, const char* pcFileName, const char* fdfName,
-                               char (&path)[PathSize]) {
-    host::OwnedFile file(host::CreateFileObject(context.session));
+services::OwnedFile resolveFdfPath(const settings::TransferContext& context, const char* pcFileName,
+                                   const char* fdfName, char (&path)[PathSize]) {
+    services::OwnedFile file(services::CreateFileObject(context.session));
     if (!file) {
         provider::showMessage({context.session, context.settings, context.mainWindow}, provider::OutOfMemory);
         return file;
@@ -51,7 +51,7 @@ host::OwnedFile resolveFdfPath(const settings::TransferContext& context, const c
     const std::string_view pattern(fdfName);
     if (hasPlaceOfItsOwn(pattern)) return append(path, pattern) ? std::move(file) : refuse(context, fdfName);
     NameBuffer part = {};
-    host::PathServices* paths = context.pathServices;
+    services::PathServices* paths = context.pathServices;
     if (paths) paths->directoryPart(pcFileName, part);
     bool fits = append(path, part);
     if (paths && pattern.substr(0, 2) == "*.") {

@@ -4,11 +4,11 @@
 #include <cstdio>
 #include <string_view>
 
+#include "Z7XFRPCS/settings.h"
 #include "fdf/code_tables.h"
 #include "fdf/fdf_path.h"
-#include "host/owned.h"
-#include "host/setting_ids.h"
 #include "provider/transfer_function_session.h"
+#include "services/owned.h"
 #include "text/parse_unsigned.h"
 
 namespace fdf {
@@ -168,11 +168,11 @@ bool Reader::failText(const char* text) const {
     return false;
 }
 
-bool readText(const settings::TransferContext& context, host::FileObject& file, const Reader& reader,
-              host::OwnedBytes& text) {
+bool readText(const settings::TransferContext& context, services::FileObject& file, const Reader& reader,
+              services::OwnedBytes& text) {
     const std::uint32_t size = file.size();
     if (file.errorState()) return false;
-    text = host::OwnedBytes::adopt(file.readWhole(), size);
+    text = services::OwnedBytes::adopt(file.readWhole(), size);
     if (file.errorState()) return false;
     if (size == 0) return reader.fail(EmptyFile);
     if (text) return true;
@@ -189,15 +189,15 @@ bool readFdf(const settings::TransferContext& context, const char* pcFileName, c
         provider::showMessage({context.session, context.settings, context.mainWindow}, DescriptionNotUsed);
         return false;
     }
-    const host::OwnedFile file =
+    const services::OwnedFile file =
         resolveFdfPath(context, pcFileName, context.transferSettings->sendDescriptionFile, path);
     if (!file) return false;
     file->setName(path);
     file->setTypeFlag(0);
     file->setOpenFlags(OpenFlags);
     file->setExistingFileAction(
-        static_cast<std::uint32_t>(host::GetSetting(context.settings, host::setting::ExistingFileAction)));
-    host::OwnedBytes text;
+        static_cast<std::uint32_t>(services::GetSetting(context.settings, zhst::setting::ExistingFileAction)));
+    services::OwnedBytes text;
     if (!readText(context, *file, reader, text)) return false;
     const std::string_view whole(text.data(), text.size());
     if (monitor::MonitorStore* store = context.tfSession->monitorStore()) store->recordSendDescription(whole);

@@ -2,28 +2,27 @@
 
 #include <cstdio>
 
+#include "Z7XFRPCS/settings.h"
 #include "fdf/code_tables.h"
 #include "fdf/fdf_path.h"
-#include "host/setting_ids.h"
-#include "host/setting_values.h"
 #include "settings/pc_file_types.h"
 
 namespace fdf {
 namespace {
 
-namespace id = host::setting;
+namespace id = zhst::setting;
 
 constexpr std::uint32_t LineSize = 256;
 
 // Written and published; false when the write failed.
-bool writeText(const receive::RecordConverter& converter, host::FileObject& file, const char* text, int length) {
+bool writeText(const receive::RecordConverter& converter, services::FileObject& file, const char* text, int length) {
     if (length < 0 || !file.write(text, static_cast<std::uint32_t>(length))) return false;
     if (monitor::MonitorStore* store = converter.tfSession->monitorStore())
         store->recordReceiveDescription({text, static_cast<std::size_t>(length)});
     return true;
 }
 
-bool writeHead(const receive::RecordConverter& converter, host::FileObject& file) {
+bool writeHead(const receive::RecordConverter& converter, services::FileObject& file) {
     const settings::TransferSettings& options = *converter.transferSettings;
     const std::int32_t decimal = valueToFdfCode(FdfDecimalSeparators, options.decimalSeparatorMode);
     char decimalText[12] = "*";
@@ -40,13 +39,13 @@ bool writeHead(const receive::RecordConverter& converter, host::FileObject& file
 
 // The length as the PC file has it: of a number in a text file the declared digits, with room for sign and point unless
 // FdfNumericLengthMode says otherwise.
-void formatLength(const receive::HostField& field, host::SettingsHandle settings, char (&text)[32]) {
+void formatLength(const receive::HostField& field, services::SettingsHandle settings, char (&text)[32]) {
     const receive::FieldLength length = field.fieldLength();
     if (length.isCharacter() || !settings::isTextLike(field.transferSettings().receiveFileType)) {
         std::snprintf(text, sizeof(text), "%d", static_cast<int>(length.bytes));
         return;
     }
-    const int extra = host::GetSetting(settings, id::FdfNumericLengthMode) == 0 ? 1 : 0;
+    const int extra = services::GetSetting(settings, id::FdfNumericLengthMode) == 0 ? 1 : 0;
     const int digits = static_cast<int>(field.precision()) + extra;
     if (length.decimals > 0)
         std::snprintf(text, sizeof(text), "%d/%d", digits + extra, length.decimals);
@@ -54,7 +53,7 @@ void formatLength(const receive::HostField& field, host::SettingsHandle settings
         std::snprintf(text, sizeof(text), "%d", digits);
 }
 
-void writeFdfFieldLines(const receive::RecordConverter& converter, host::FileObject& file) {
+void writeFdfFieldLines(const receive::RecordConverter& converter, services::FileObject& file) {
     for (const receive::HostField& field : converter.fields) {
         char length[32];
         formatLength(field, converter.settings, length);
@@ -69,17 +68,17 @@ void writeFdfFieldLines(const receive::RecordConverter& converter, host::FileObj
 
 void writeFdf(const receive::RecordConverter& converter, const char* pcFileName) {
     const settings::TransferContext& context = *converter.transferContext;
-    const std::int32_t mode = host::GetSetting(context.settings, id::ExistingFileAction);
+    const std::int32_t mode = services::GetSetting(context.settings, id::ExistingFileAction);
     char path[PathSize];
-    const host::OwnedFile file =
+    const services::OwnedFile file =
         resolveFdfPath(context, pcFileName, context.transferSettings->receiveDescriptionFile, path);
     if (!file) return;
     file->setName(path);
     file->setTypeFlag(0);
     file->setOpenFlags(OpenFlags);
     // A description is never appended to.
-    file->setExistingFileAction(static_cast<std::uint32_t>(mode == host::value::Append ? host::value::Replace : mode));
-    if (mode == host::value::AskUser) file->prepareNewFile();
+    file->setExistingFileAction(static_cast<std::uint32_t>(mode == zhst::value::Append ? zhst::value::Replace : mode));
+    if (mode == zhst::value::AskUser) file->prepareNewFile();
     if (file->openForWriting() && writeHead(converter, *file)) writeFdfFieldLines(converter, *file);
     file->close();
 }

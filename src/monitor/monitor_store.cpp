@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "host/owned.h"
-#include "provider/provider_call.h"
+#include "Z7XFRPCS/provider.h"
+#include "services/owned.h"
 
 namespace monitor {
 namespace {
@@ -43,12 +43,12 @@ void putLittleEndian(char* bytes, std::uint32_t value) {
 
 }  // namespace
 
-MonitorStore::MonitorStore() : store_(host::OpenStore("ZHST")) {
+MonitorStore::MonitorStore() : store_(services::OpenStore("ZHST")) {
     if (store_ == 0) return;
-    host::OpenStoreNode(store_, 0, TransferNode, 0, &node_);
+    services::OpenStoreNode(store_, 0, TransferNode, 0, &node_);
     if (node_ == 0) return;
-    host::OpenStoreList(store_, node_, ReceiveList, 0, &receive_.handle);
-    host::OpenStoreList(store_, node_, SendList, 0, &send_.handle);
+    services::OpenStoreList(store_, node_, ReceiveList, 0, &receive_.handle);
+    services::OpenStoreList(store_, node_, SendList, 0, &send_.handle);
     openItems(receive_, ReceiveItems);
     openItems(send_, SendItems);
 }
@@ -57,44 +57,44 @@ MonitorStore::~MonitorStore() {
     if (store_ == 0) return;
     closeItems(receive_);
     closeItems(send_);
-    if (receive_.handle) host::CloseStoreList(store_, node_, receive_.handle);
-    if (send_.handle) host::CloseStoreList(store_, node_, send_.handle);
-    if (node_) host::CloseStoreNode(store_, 0, node_);
+    if (receive_.handle) services::CloseStoreList(store_, node_, receive_.handle);
+    if (send_.handle) services::CloseStoreList(store_, node_, send_.handle);
+    if (node_) services::CloseStoreNode(store_, 0, node_);
 }
 
 void MonitorStore::openItems(List& list, const std::uint32_t (&itemCodes)[ItemsPerList]) {
     if (list.handle == 0) return;
     for (std::uint32_t at = 0; at < ItemsPerList; ++at)
-        host::OpenStoreItem(store_, list.handle, itemCodes[at], 0, &list.items[at]);
+        services::OpenStoreItem(store_, list.handle, itemCodes[at], 0, &list.items[at]);
 }
 
 void MonitorStore::closeItems(const List& list) {
-    for (const host::StorePartHandle item : list.items)
-        if (item) host::CloseStoreItem(store_, list.handle, item);
+    for (const services::StorePartHandle item : list.items)
+        if (item) services::CloseStoreItem(store_, list.handle, item);
 }
 
-bool MonitorStore::lock(const List& list) { return list.handle && host::LockStoreList(store_, list.handle) != 0; }
+bool MonitorStore::lock(const List& list) { return list.handle && services::LockStoreList(store_, list.handle) != 0; }
 
 void MonitorStore::write(const List& list, std::uint32_t item, std::string_view value) {
     if (!list.items[item] || !lock(list)) return;
-    host::SetStoreItem(store_, list.items[item], value.data(), static_cast<std::uint32_t>(value.size()));
-    host::UnlockStoreList(store_, list.handle);
+    services::SetStoreItem(store_, list.items[item], value.data(), static_cast<std::uint32_t>(value.size()));
+    services::UnlockStoreList(store_, list.handle);
 }
 
 void MonitorStore::touch(const List& list) {
-    if (lock(list)) host::UnlockStoreList(store_, list.handle);
+    if (lock(list)) services::UnlockStoreList(store_, list.handle);
 }
 
 // What must be built is built, zero-filled, in memory of its own, freed once the list is unlocked again.
 template <class Fill>
 void MonitorStore::writeBuilt(const List& list, std::uint32_t item, std::uint32_t size, Fill fill) {
     if (!list.items[item] || !lock(list)) return;
-    const auto record = host::OwnedBytes::make(size, true);
+    const auto record = services::OwnedBytes::make(size, true);
     if (record) {
         fill(record.data());
-        host::SetStoreItem(store_, list.items[item], record.data(), size);
+        services::SetStoreItem(store_, list.items[item], record.data(), size);
     }
-    host::UnlockStoreList(store_, list.handle);
+    services::UnlockStoreList(store_, list.handle);
 }
 
 void MonitorStore::recordRequest(std::uint32_t function, std::uint32_t reserved, std::string_view data,
@@ -112,8 +112,7 @@ void MonitorStore::recordRequest(std::uint32_t function, std::uint32_t reserved,
 
 void MonitorStore::recordResult(std::uint32_t function, std::uint16_t returnCode, std::uint16_t detailCode,
                                 std::string_view data) {
-    const bool withoutData =
-        function == provider::TF_RESET || (function == provider::TF_SEND_REQUEST && returnCode == provider::Success);
+    const bool withoutData = function == TF_RESET || (function == TF_SEND_REQUEST && returnCode == TF_SUCCESS);
     if (withoutData) data = {};
     const auto length = static_cast<std::uint32_t>(data.size());
     writeBuilt(receive_, Exchange, ResultHeader + length + Trailer, [&](char* bytes) {

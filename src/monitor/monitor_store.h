@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "host/runtime.h"
+#include "services/runtime.h"
 
 namespace monitor {
 
@@ -47,8 +47,8 @@ public:
 
 private:
     struct List {
-        host::StorePartHandle handle = 0;
-        host::StorePartHandle items[ItemsPerList] = {};
+        services::StorePartHandle handle = 0;
+        services::StorePartHandle items[ItemsPerList] = {};
     };
 
     void openItems(List& list, const std::uint32_t (&itemCodes)[ItemsPerList]);
@@ -60,8 +60,8 @@ private:
     void writeStatement(const List& list, std::string_view statement);
     void touch(const List& list);
 
-    host::StoreHandle store_;
-    host::StorePartHandle node_ = 0;
+    services::StoreHandle store_;
+    services::StorePartHandle node_ = 0;
     List receive_;
     List send_;
 };

@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-#include "host/dialogs.h"
-#include "host/session.h"
+#include "services/dialogs.h"
+#include "services/session.h"
 
 // The one pattern of the library's message boxes: shown only when the user wants the message, exclamation icon and one
 // button, the message's own help unless another is named.
@@ -13,9 +13,9 @@ inline constexpr std::uint32_t BoxFlags = 0x30;
 inline constexpr std::uint32_t OutOfMemory = 4001;  // an object needed for the transfer could not be created
 
 struct MessageOwner {
-    host::SessionHandle session;
-    host::SettingsHandle settings;
-    host::WindowHandle window;
+    services::SessionHandle session;
+    services::SettingsHandle settings;
+    services::WindowHandle window;
 };
 
 void showMessage(const MessageOwner& owner, std::uint32_t id);
@@ -23,20 +23,20 @@ void showMessage(const MessageOwner& owner, std::uint32_t id, const char* insert
 // Hides a progress dialog (0: none) while a message box is up.
 class HiddenDialog {
 public:
-    explicit HiddenDialog(host::ProgressDialogHandle dialog) : dialog_(dialog) {
-        if (dialog_) host::ProgressDialogHide(dialog_);
+    explicit HiddenDialog(services::ProgressDialogHandle dialog) : dialog_(dialog) {
+        if (dialog_) services::ProgressDialogHide(dialog_);
     }
     ~HiddenDialog() {
-        if (dialog_) host::ProgressDialogShow(dialog_);
+        if (dialog_) services::ProgressDialogShow(dialog_);
     }
     HiddenDialog(const HiddenDialog&) = delete;
     HiddenDialog& operator=(const HiddenDialog&) = delete;
 
 private:
-    host::ProgressDialogHandle dialog_;
+    services::ProgressDialogHandle dialog_;
 };
 
 // A sentence of the library's own, for what the message catalogue has no message for.
-void showOwnText(const MessageOwner& owner, const char* text, host::ProgressDialogHandle dialog = 0);
+void showOwnText(const MessageOwner& owner, const char* text, services::ProgressDialogHandle dialog = 0);
 
 }  // namespace provider

@@ -2,11 +2,11 @@
 
 #include <utility>
 
-#include "host/runtime.h"
-#include "host/setting_values.h"
+#include "Z7XFRPCS/settings.h"
 #include "platform/platform.h"
 #include "provider/message_box.h"
 #include "provider/transports.h"
+#include "services/runtime.h"
 
 namespace provider {
 namespace {
@@ -42,13 +42,13 @@ constexpr std::uint32_t ReplacementText = 202;
 
 }  // namespace
 
-bool ProviderBinding::bind(host::SessionHandle session, std::int32_t transportType, std::int32_t routerKind) {
+bool ProviderBinding::bind(services::SessionHandle session, std::int32_t transportType, std::int32_t routerKind) {
     session_ = session;
-    settings_ = host::GetSessionSettings(session);
-    window_ = host::GetSessionWindow(settings_);
+    settings_ = services::GetSessionSettings(session);
+    window_ = services::GetSessionWindow(settings_);
     bool bound = false;
     if (checkRouter(transportType, routerKind)) {
-        if (routerKind != host::value::RouterIbm) {
+        if (routerKind != zhst::value::RouterIbm) {
             bound = bindAs400(routerKind);
         } else {
             const Transport transport = transportOf(transportType);
@@ -65,7 +65,7 @@ bool ProviderBinding::bind(host::SessionHandle session, std::int32_t transportTy
 }
 
 bool ProviderBinding::checkRouter(std::int32_t transportType, std::int32_t routerKind) {
-    if (routerKind != host::value::RouterIbm) return true;
+    if (routerKind != zhst::value::RouterIbm) return true;
     const Transport transport = transportOf(transportType);
     if (transport == Transport::Ibm) return checkIbmRouter();
     return transport != Transport::Unknown;
@@ -73,24 +73,24 @@ bool ProviderBinding::checkRouter(std::int32_t transportType, std::int32_t route
 
 bool ProviderBinding::checkIbmRouter() {
     if (!libraryExists(IbmRouterLibrary)) return false;
-    if (host::LoadModule(IbmRouterLibrary, SearchIbm, &routerModule_) != 0) {
+    if (services::LoadModule(IbmRouterLibrary, SearchIbm, &routerModule_) != 0) {
         routerModule_ = nullptr;
         return fail(RouterNotLoaded);
     }
     if (platform::GetProcAddress(routerModule_, "EHNAPPC_KVX")) {
         char text[300] = {};
-        host::LoadMessageText(session_, ReplacementTextTable, ReplacementText, text, sizeof(text));
+        services::LoadMessageText(session_, ReplacementTextTable, ReplacementText, text, sizeof(text));
         return fail(RouterIsReplacement, text);
     }
-    const auto isLoaded = lookUp<IsRouterLoadedEntry>(routerModule_, "EHNAPPC_IsRouterLoaded");
+    const auto isLoaded = lookUp<TfIsRouterLoadedEntry>(routerModule_, "EHNAPPC_IsRouterLoaded");
     return (isLoaded && isLoaded(session_) != 0) || fail(RouterNotRunning);
 }
 
 bool ProviderBinding::bindIbm() {
     if (!libraryExists(IbmLibrary)) return false;
     if (!loadProvider(IbmLibrary, SearchIbm)) return fail(IbmProviderNotLoaded);
-    stfEntry_ = lookUp<StfEntry>(providerModule_, "EHNTF_STF");
-    stfCleanupEntry_ = lookUp<StfCleanupEntry>(providerModule_, "E32TF_Cleanup");
+    stfEntry_ = lookUp<TfStfEntry>(providerModule_, "EHNTF_STF");
+    stfCleanupEntry_ = lookUp<TfStfCleanupEntry>(providerModule_, "E32TF_Cleanup");
     if (!stfEntry_) return fail(IbmEntryMissing);
     family_ = Family::Ibm;
     return true;
@@ -99,7 +99,7 @@ bool ProviderBinding::bindIbm() {
 bool ProviderBinding::bindEmulator() {
     if (!libraryExists(EmulatorLibrary)) return false;
     if (!loadProvider(EmulatorLibrary, SearchOwn)) return fail(OwnProviderNotLoaded);
-    const auto newClient = lookUp<NewClientEntry>(providerModule_, "newZEHNTFWCLIENT");
+    const auto newClient = lookUp<TfNewClientEntry>(providerModule_, "newZEHNTFWCLIENT");
     if (!lookUpEmulatorEntries(newClient, "deleteZEHNTFWCLIENT")) return fail(EmulatorEntryMissing);
     return makeClient(newClient);
 }
@@ -107,7 +107,7 @@ bool ProviderBinding::bindEmulator() {
 bool ProviderBinding::bindAppc() {
     if (!libraryExists(AppcLibrary)) return false;
     if (!loadProvider(AppcLibrary, SearchOwn)) return fail(AppcProviderNotLoaded, AppcLibrary);
-    const auto newClient = lookUp<NewClientEntry>(providerModule_, "newZTFWAPPCCLIENT");
+    const auto newClient = lookUp<TfNewClientEntry>(providerModule_, "newZTFWAPPCCLIENT");
     if (!lookUpEmulatorEntries(newClient, "deleteZTFWAPPCCLIENT")) return fail(AppcEntryMissing, AppcLibrary);
     return makeClient(newClient);
 }
@@ -116,12 +116,12 @@ bool ProviderBinding::bindAs400(std::int32_t routerKind) {
     if (!libraryExists(As400Library)) return false;
     if (!loadProvider(As400Library, SearchOwn)) return fail(OwnProviderNotLoaded);
     // The client is made before the other entries are looked at; without a destructor it cannot be ended either.
-    const auto newClient = lookUp<NewClientEntry>(providerModule_, "newAS4XFERCLIENT");
+    const auto newClient = lookUp<TfNewClientEntry>(providerModule_, "newAS4XFERCLIENT");
     client_ = newClient ? newClient(session_, window_) : 0;
     if (client_ == 0) return false;
-    deleteClientEntry_ = lookUp<DeleteClientEntry>(providerModule_, "deleteZAS4XFERCLIENT");
-    const auto getClient = lookUp<GetClientEntry>(providerModule_, "getAS4XFERCLIENT");
-    requestEntry_ = lookUp<RequestEntry>(providerModule_, "as400Request");
+    deleteClientEntry_ = lookUp<TfDeleteClientEntry>(providerModule_, "deleteZAS4XFERCLIENT");
+    const auto getClient = lookUp<TfGetClientEntry>(providerModule_, "getAS4XFERCLIENT");
+    requestEntry_ = lookUp<TfRequestEntry>(providerModule_, "as400Request");
     if (!deleteClientEntry_ || !getClient || !requestEntry_)
         return fail(routerKind == MisplacedRouterKind ? As400EntryMissingOtherKind : As400EntryMissing);
     family_ = Family::As400;
@@ -129,23 +129,23 @@ bool ProviderBinding::bindAs400(std::int32_t routerKind) {
 }
 
 bool ProviderBinding::libraryExists(const char* name) const {
-    auto* paths = static_cast<host::PathServices*>(host::GetSessionObject(session_, host::PathServicesKind));
+    auto* paths = services::GetPathServices(session_);
     return (paths && paths->fileExists(name)) || fail(LibraryNotFound, name);
 }
 
 bool ProviderBinding::loadProvider(const char* name, std::uint32_t search) {
-    if (host::LoadModule(name, search, &providerModule_) == 0) return true;
+    if (services::LoadModule(name, search, &providerModule_) == 0) return true;
     providerModule_ = nullptr;
     return false;
 }
 
-bool ProviderBinding::lookUpEmulatorEntries(NewClientEntry newClient, const char* deleteName) {
-    requestEntry_ = lookUp<RequestEntry>(providerModule_, "zehnRequestor");
-    deleteClientEntry_ = lookUp<DeleteClientEntry>(providerModule_, deleteName);
+bool ProviderBinding::lookUpEmulatorEntries(TfNewClientEntry newClient, const char* deleteName) {
+    requestEntry_ = lookUp<TfRequestEntry>(providerModule_, "zehnRequestor");
+    deleteClientEntry_ = lookUp<TfDeleteClientEntry>(providerModule_, deleteName);
     return requestEntry_ && newClient && deleteClientEntry_;
 }
 
-bool ProviderBinding::makeClient(NewClientEntry newClient) {
+bool ProviderBinding::makeClient(TfNewClientEntry newClient) {
     client_ = newClient(session_, window_);
     if (client_ == 0) return false;
     family_ = Family::Emulator;
@@ -153,7 +153,7 @@ bool ProviderBinding::makeClient(NewClientEntry newClient) {
 }
 
 template <class Entry>
-Entry ProviderBinding::lookUp(host::ModuleHandle module, const char* name) const {
+Entry ProviderBinding::lookUp(services::ModuleHandle module, const char* name) const {
     return reinterpret_cast<Entry>(platform::GetProcAddress(module, name));
 }
 
@@ -196,8 +196,8 @@ void ProviderBinding::freeModules() {
     stfCleanupEntry_ = nullptr;
     requestEntry_ = nullptr;
     deleteClientEntry_ = nullptr;
-    if (routerModule_) host::FreeModule(std::exchange(routerModule_, nullptr));
-    if (providerModule_) host::FreeModule(std::exchange(providerModule_, nullptr));
+    if (routerModule_) services::FreeModule(std::exchange(routerModule_, nullptr));
+    if (providerModule_) services::FreeModule(std::exchange(providerModule_, nullptr));
 }
 
 }  // namespace provider

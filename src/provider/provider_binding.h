@@ -2,10 +2,10 @@
 
 #include <cstdint>
 
-#include "host/objects.h"
-#include "host/session.h"
-#include "provider/provider_call.h"
+#include "Z7XFRPCS/provider.h"
 #include "provider/tf_result.h"
+#include "services/objects.h"
+#include "services/session.h"
 
 namespace provider {
 
@@ -27,7 +27,7 @@ public:
     ProviderBinding& operator=(const ProviderBinding&) = delete;
 
     // True when the provider is bound.
-    bool bind(host::SessionHandle session, std::int32_t transportType, std::int32_t routerKind);
+    bool bind(services::SessionHandle session, std::int32_t transportType, std::int32_t routerKind);
 
     // Calls the provider. `conversation` is read and updated by it; out values start at zero.
     struct Call {
@@ -36,7 +36,7 @@ public:
         std::uint32_t length;
         std::uint32_t reserved;
         const char* designation;
-        YieldCallback yield;
+        TfYield yield;
     };
     TfResult call(const Call& call, std::uint32_t* conversation) const;
 
@@ -59,23 +59,23 @@ private:
     bool bindAs400(std::int32_t routerKind);
     bool libraryExists(const char* name) const;
     bool loadProvider(const char* name, std::uint32_t search);
-    bool lookUpEmulatorEntries(NewClientEntry newClient, const char* deleteName);
-    bool makeClient(NewClientEntry newClient);
+    bool lookUpEmulatorEntries(TfNewClientEntry newClient, const char* deleteName);
+    bool makeClient(TfNewClientEntry newClient);
     template <class Entry>
-    Entry lookUp(host::ModuleHandle module, const char* name) const;
+    Entry lookUp(services::ModuleHandle module, const char* name) const;
     bool fail(std::uint32_t messageId, const char* insert = nullptr) const;
 
-    host::SessionHandle session_ = 0;
-    host::SettingsHandle settings_ = 0;
-    host::WindowHandle window_ = 0;
+    services::SessionHandle session_ = 0;
+    services::SettingsHandle settings_ = 0;
+    services::WindowHandle window_ = 0;
     Family family_ = Family::None;
-    host::ModuleHandle providerModule_ = nullptr;
-    host::ModuleHandle routerModule_ = nullptr;
-    StfEntry stfEntry_ = nullptr;
-    StfCleanupEntry stfCleanupEntry_ = nullptr;
+    services::ModuleHandle providerModule_ = nullptr;
+    services::ModuleHandle routerModule_ = nullptr;
+    TfStfEntry stfEntry_ = nullptr;
+    TfStfCleanupEntry stfCleanupEntry_ = nullptr;
     // zehnRequestor or as400Request, with the constructor and destructor beside it.
-    RequestEntry requestEntry_ = nullptr;
-    DeleteClientEntry deleteClientEntry_ = nullptr;
+    TfRequestEntry requestEntry_ = nullptr;
+    TfDeleteClientEntry deleteClientEntry_ = nullptr;
     std::uint32_t client_ = 0;
 };
 

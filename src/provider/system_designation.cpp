@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "host/setting_ids.h"
+#include "Z7XFRPCS/settings.h"
 #include "provider/transfer_function_session.h"
 #include "text/double_byte.h"
 
@@ -33,7 +33,7 @@ void upperAscii(char* name) {
 const char* TransferFunctionSession::hostSystemDesignation() {
     std::fill(std::begin(systemDesignation_), std::end(systemDesignation_), ' ');
     char buffer[sizeof(systemDesignation_)] = {};
-    host::GetStringSetting(settings_, host::setting::HostSystemName, buffer, sizeof(buffer));
+    services::GetStringSetting(settings_, zhst::setting::HostSystemName, buffer, sizeof(buffer));
     const char* name = transportType_ == QualifiedNameTransport ? withoutNetwork(buffer) : buffer;
     char shown[NameLength + 1];
     text::copyCut(name, shown, sizeof(shown));

@@ -3,7 +3,12 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "Z7XFRPCS/provider.h"
+
 namespace provider {
+
+// Bytes of the buffer that is shared with the provider, and the most that one exchange carries.
+inline constexpr std::uint32_t BufferSize = TF_BUFFER_SIZE;
 
 // Result of one exchange with the provider. `data` is in the provider's memory (records: in the shared buffer), valid
 // until the next exchange; its length is the provider's word and not yet checked (TransferFunctionSession::returned

@@ -1,7 +1,6 @@
 #include <cstdio>
 
-#include "host/setting_ids.h"
-#include "host/setting_values.h"
+#include "Z7XFRPCS/settings.h"
 #include "platform/platform.h"
 #include "provider/return_codes.h"
 #include "provider/transfer_function_session.h"
@@ -12,7 +11,7 @@
 namespace provider {
 namespace {
 
-namespace id = host::setting;
+namespace id = zhst::setting;
 
 constexpr std::uint32_t TransferTable = 7;
 constexpr std::uint32_t OwnProviderTable = 22;
@@ -40,31 +39,31 @@ bool showsOwnTextAlone(std::int32_t transportType) {
 template <std::uint32_t Size>
 struct Insert {
     char text[Size] = {};
-    host::TextRecord record{text, Size};
+    services::TextRecord record{text, Size};
 
     void setNumber(std::int32_t number) { std::snprintf(text, Size, "%d", static_cast<int>(number)); }
-    void setSetting(host::SettingsHandle settings, std::uint32_t setting) {
-        host::GetStringSetting(settings, setting, text, Size);
+    void setSetting(services::SettingsHandle settings, std::uint32_t setting) {
+        services::GetStringSetting(settings, setting, text, Size);
     }
 };
 
 }  // namespace
 
 bool TransferFunctionSession::tfCheckResult(std::uint32_t contextText, const TfResult& result,
-                                            host::ProgressDialogHandle dialog) {
+                                            services::ProgressDialogHandle dialog) {
     if (!started_) return false;
-    host::SetSetting(settings_, id::LastReturnCode, result.returnCode);
+    services::SetSetting(settings_, id::LastReturnCode, result.returnCode);
     switch (result.returnCode) {
-        case Success:
-        case Completed:
+        case TF_SUCCESS:
+        case TF_COMPLETED:
             return true;
-        case FailedSilently:
+        case TF_FAILED_SILENTLY:
             return false;
-        case NotStarted:
-            if (host::IsMessageEnabled(settings_, TransferFunctionNotStarted)) {
+        case TF_NOT_STARTED:
+            if (services::IsMessageEnabled(settings_, TransferFunctionNotStarted)) {
                 const HiddenDialog hidden(dialog);
-                host::ShowMessage(session_, sessionWindow_, TransferFunctionNotStarted, BoxFlags, 1,
-                                  TransferFunctionNotStarted);
+                services::ShowMessage(session_, sessionWindow_, TransferFunctionNotStarted, BoxFlags, 1,
+                                      TransferFunctionNotStarted);
             }
             return false;
         default:
@@ -72,11 +71,11 @@ bool TransferFunctionSession::tfCheckResult(std::uint32_t contextText, const TfR
     }
     char errorText[TextSize] = {};
     loadErrorText(result, contextText, errorText);
-    if (host::IsMessageEnabled(settings_, ErrorWithContext)) {
+    if (services::IsMessageEnabled(settings_, ErrorWithContext)) {
         const HiddenDialog hidden(dialog);
         showError(result, contextText, errorText);
     }
-    host::SetStringSetting(settings_, id::LastErrorText, errorText);
+    services::SetStringSetting(settings_, id::LastErrorText, errorText);
     return false;
 }
 
@@ -84,18 +83,18 @@ bool TransferFunctionSession::tfCheckResult(std::uint32_t contextText, const TfR
 void TransferFunctionSession::loadErrorText(const TfResult& result, std::uint32_t& contextText,
                                             char (&buffer)[100]) const {
     const std::uint16_t code = result.returnCode;
-    if (transportType_ == host::value::TransportAs400) {
+    if (transportType_ == zhst::value::TransportAs400) {
         if (result.detailCode != 0) {
             contextText = 0;
             return;
         }
         const std::uint32_t table = code < FirstTransferCode ? OwnProviderTable : TransferTable;
-        host::LoadMessageText(session_, table, code, buffer, TextSize);
+        services::LoadMessageText(session_, table, code, buffer, TextSize);
     } else if (isOwnProviderTransport(transportType_) && code < FirstTransferCode) {
-        const std::uint32_t table = routerKind_ == host::value::RouterAs400 ? As400ProviderTable : OwnProviderTable;
-        host::LoadMessageText(session_, table, code, buffer, TextSize);
+        const std::uint32_t table = routerKind_ == zhst::value::RouterAs400 ? As400ProviderTable : OwnProviderTable;
+        services::LoadMessageText(session_, table, code, buffer, TextSize);
     } else if (const std::uint32_t index = errorTextIndex(code)) {
-        host::LoadMessageText(session_, TransferTable, index, buffer, TextSize);
+        services::LoadMessageText(session_, TransferTable, index, buffer, TextSize);
     }
 }
 
@@ -106,12 +105,13 @@ void TransferFunctionSession::showError(const TfResult& result, std::uint32_t co
         showHostText(result, hostText, errorText);
     } else if (contextText != 0) {
         char context[TextSize] = {};
-        host::LoadMessageText(session_, TransferTable, contextText, context, TextSize);
-        host::ShowMessage3(session_, sessionWindow_, ErrorWithContext, BoxFlags, 1, ErrorWithContext,
-                           host::insert(context), host::insert(std::uint32_t{result.returnCode}),
-                           host::insert(errorText));
+        services::LoadMessageText(session_, TransferTable, contextText, context, TextSize);
+        services::ShowMessage3(session_, sessionWindow_, ErrorWithContext, BoxFlags, 1, ErrorWithContext,
+                               services::insert(context), services::insert(std::uint32_t{result.returnCode}),
+                               services::insert(errorText));
     } else if (showsOwnTextAlone(transportType_) && result.returnCode < FirstTransferCode) {
-        host::ShowMessage1(session_, sessionWindow_, TextAlone, BoxFlags, 1, helpIdOf(result.returnCode), errorText);
+        services::ShowMessage1(session_, sessionWindow_, TextAlone, BoxFlags, 1, helpIdOf(result.returnCode),
+                               errorText);
     } else {
         showNotCompleted();
     }
@@ -121,14 +121,14 @@ void TransferFunctionSession::showHostText(const TfResult& result, std::string_v
                                            const char* errorText) const {
     char text[BufferSize + 1];
     text::copyCut(hostText, text, sizeof(text));
-    const bool alone = result.returnCode == HostMessage || result.returnCode == HostMessageInstead;
+    const bool alone = result.returnCode == TF_HOST_MESSAGE || result.returnCode == TF_HOST_MESSAGE_INSTEAD;
     if (alone && tfIsAs400Mode())
-        host::zhstMessageBox_scroll(session_, sessionWindow_, 0, BoxFlags, 1, TextAlone, text);
+        services::zhstMessageBox_scroll(session_, sessionWindow_, 0, BoxFlags, 1, TextAlone, text);
     else if (alone)
-        host::ShowMessage1(session_, sessionWindow_, TextAlone, BoxFlags, 1, TextAlone, text);
+        services::ShowMessage1(session_, sessionWindow_, TextAlone, BoxFlags, 1, TextAlone, text);
     else
-        host::ShowMessageCode(session_, sessionWindow_, ErrorWithHostText, BoxFlags, 1, helpIdOf(result.returnCode),
-                              result.returnCode, errorText, text);
+        services::ShowMessageCode(session_, sessionWindow_, ErrorWithHostText, BoxFlags, 1, helpIdOf(result.returnCode),
+                                  result.returnCode, errorText, text);
 }
 
 void TransferFunctionSession::showNotCompleted() const {
@@ -136,8 +136,8 @@ void TransferFunctionSession::showNotCompleted() const {
     Insert<301> system;
     Insert<11> jobName, jobUser;
     Insert<7> jobNumber;
-    received.setNumber(host::GetSetting(settings_, id::JobRecordsReceived));
-    total.setNumber(host::GetSetting(settings_, id::JobRecordsTotal));
+    received.setNumber(services::GetSetting(settings_, id::JobRecordsReceived));
+    total.setNumber(services::GetSetting(settings_, id::JobRecordsTotal));
     system.setSetting(settings_, id::HostSystemName);
     platform::CharUpperA(system.text);
     jobName.setSetting(settings_, id::JobName);
@@ -147,10 +147,10 @@ void TransferFunctionSession::showNotCompleted() const {
     Insert<NotCompletedCapacity + 1> message;
     message.record.capacity = NotCompletedCapacity;
     text::copyCut(NotCompletedTemplate, message.text, NotCompletedCapacity);
-    const host::TextRecord* inserts[] = {&received.record, &total.record,   &system.record,
-                                         &jobName.record,  &jobUser.record, &jobNumber.record};
-    host::formatStringSet(&message.record, inserts, 6);
-    host::ShowMessage1(session_, sessionWindow_, TextAlone, BoxFlags, 1, TextAlone, message.text);
+    const services::TextRecord* inserts[] = {&received.record, &total.record,   &system.record,
+                                             &jobName.record,  &jobUser.record, &jobNumber.record};
+    services::formatStringSet(&message.record, inserts, 6);
+    services::ShowMessage1(session_, sessionWindow_, TextAlone, BoxFlags, 1, TextAlone, message.text);
 }
 
 }  // namespace provider

@@ -3,14 +3,13 @@
 #include <algorithm>
 #include <utility>
 
-#include "host/setting_ids.h"
-#include "host/setting_values.h"
+#include "Z7XFRPCS/settings.h"
 #include "platform/platform.h"
 
 namespace provider {
 namespace {
 
-namespace id = host::setting;
+namespace id = zhst::setting;
 
 constexpr std::uint32_t WatchedSettings[] = {id::TransportType, id::RouterKind, id::ConnectionChanging,
                                              id::ConvertToOem, id::HostCodePage};
@@ -35,22 +34,22 @@ bool isControl(std::uint32_t function) {
 
 }  // namespace
 
-TransferFunctionSession::TransferFunctionSession(host::SessionHandle session, host::SettingWatch watch,
-                                                 YieldCallback yield)
+TransferFunctionSession::TransferFunctionSession(services::SessionHandle session, services::SettingWatch watch,
+                                                 TfYield yield)
     : session_(session),
-      settings_(host::GetSessionSettings(session)),
+      settings_(services::GetSessionSettings(session)),
       codePage_(session),
-      monitorStore_(host::Owned<monitor::MonitorStore>::make()),
-      sessionWindow_(host::GetSessionWindow(settings_)),
+      monitorStore_(services::Owned<monitor::MonitorStore>::make()),
+      sessionWindow_(services::GetSessionWindow(settings_)),
       watch_(watch),
       yield_(yield) {
-    const std::int32_t hostCodePage = host::GetSetting(settings_, id::HostCodePage);
+    const std::int32_t hostCodePage = services::GetSetting(settings_, id::HostCodePage);
     if (!callbackSession) {
         callbackSession = this;
         callbackProcess = platform::GetCurrentProcessId();
     }
-    for (const std::uint32_t setting : WatchedSettings) host::WatchSetting(settings_, setting, watch_);
-    host::AttachSession(session);
+    for (const std::uint32_t setting : WatchedSettings) services::WatchSetting(settings_, setting, watch_);
+    services::AttachSession(session);
     codePage_.setHostCodePage(hostCodePage);
 }
 
@@ -58,12 +57,12 @@ TransferFunctionSession::~TransferFunctionSession() {
     tfStop();
     // A provider bound before the connection became a demonstration, and the buffer of a binding that failed.
     releaseProvider();
-    for (const std::uint32_t setting : WatchedSettings) host::UnwatchSetting(settings_, setting, watch_);
+    for (const std::uint32_t setting : WatchedSettings) services::UnwatchSetting(settings_, setting, watch_);
     if (callbackSession == this) callbackSession = nullptr;
 }
 
 bool TransferFunctionSession::isDemonstration() const {
-    return host::GetSetting(settings_, id::ConnectionType) == host::value::DemonstrationConnection;
+    return services::GetSetting(settings_, id::ConnectionType) == zhst::value::DemonstrationConnection;
 }
 
 bool TransferFunctionSession::tfStart() {
@@ -82,7 +81,7 @@ bool TransferFunctionSession::tfStart() {
     } else {
         started_ = true;
         sendControl(TF_RESET);
-        codePage_.setConvertToOem(host::GetSetting(settings_, id::ConvertToOem));
+        codePage_.setConvertToOem(services::GetSetting(settings_, id::ConvertToOem));
     }
     if (!started_) showOwnText(messageOwner(), StoppedText);
     return started_;
@@ -90,16 +89,17 @@ bool TransferFunctionSession::tfStart() {
 
 // Transport types that only one kind of provider serves settle the router kind.
 void TransferFunctionSession::adjustRouterKind() {
-    transportType_ = host::GetSetting(settings_, id::TransportType);
-    if (transportType_ == host::value::TransportAs400)
-        host::SetSetting(settings_, id::RouterKind, host::value::RouterAs400);
-    if (transportType_ == 2 || transportType_ == 4) host::SetSetting(settings_, id::RouterKind, host::value::RouterIbm);
-    routerKind_ = host::GetSetting(settings_, id::RouterKind);
+    transportType_ = services::GetSetting(settings_, id::TransportType);
+    if (transportType_ == zhst::value::TransportAs400)
+        services::SetSetting(settings_, id::RouterKind, zhst::value::RouterAs400);
+    if (transportType_ == 2 || transportType_ == 4)
+        services::SetSetting(settings_, id::RouterKind, zhst::value::RouterIbm);
+    routerKind_ = services::GetSetting(settings_, id::RouterKind);
 }
 
 void TransferFunctionSession::readConnectionSettings() {
-    transportType_ = host::GetSetting(settings_, id::TransportType);
-    routerKind_ = host::GetSetting(settings_, id::RouterKind);
+    transportType_ = services::GetSetting(settings_, id::TransportType);
+    routerKind_ = services::GetSetting(settings_, id::RouterKind);
 }
 
 bool TransferFunctionSession::allocateBuffer() {
@@ -154,11 +154,12 @@ void TransferFunctionSession::releaseProvider() {
 }
 
 void TransferFunctionSession::tfRequest(std::uint32_t function, std::uint32_t length, std::uint32_t reserved,
-                                        TfResult& result, const char* designation, host::ProgressDialogHandle dialog) {
+                                        TfResult& result, const char* designation,
+                                        services::ProgressDialogHandle dialog) {
     result = {};
     // The provider serves one call at a time; one that comes in through its yield call-back is turned away.
     if (inProviderCall_ || !tfStart() || !binding_.isBound()) {
-        result.returnCode = NotStarted;
+        result.returnCode = TF_NOT_STARTED;
         return;
     }
     activeDialog_ = dialog;
@@ -175,22 +176,24 @@ void TransferFunctionSession::tfRequest(std::uint32_t function, std::uint32_t le
 
 // What the provider returned goes with the provider.
 void TransferFunctionSession::carryOutPendingStop(std::uint32_t function, TfResult& result,
-                                                  host::ProgressDialogHandle dialog) {
+                                                  services::ProgressDialogHandle dialog) {
     if (stopping_ || !std::exchange(stopPending_, false)) return;
     tfStop();
     readConnectionSettings();
     result = {};
-    result.returnCode = NotStarted;
+    result.returnCode = TF_NOT_STARTED;
     if (!isControl(function)) tellInterruption(dialog);
 }
 
 // The code of the exchange before would stand in the settings and read as success.
-void TransferFunctionSession::tellInterruption(host::ProgressDialogHandle dialog) const {
-    host::SetSetting(settings_, id::LastReturnCode, NotStarted);
+void TransferFunctionSession::tellInterruption(services::ProgressDialogHandle dialog) const {
+    services::SetSetting(settings_, id::LastReturnCode, TF_NOT_STARTED);
     showOwnText(messageOwner(), StoppedText, dialog);
 }
 
-void TransferFunctionSession::sendControl(Function function) { tfRequest(function, 0, 0, controlResult_, nullptr, 0); }
+void TransferFunctionSession::sendControl(TfFunction function) {
+    tfRequest(function, 0, 0, controlResult_, nullptr, 0);
+}
 
 // A session that was stopped has no request left to end, and is not started again for it.
 void TransferFunctionSession::tfEndRequest() {
@@ -204,16 +207,16 @@ void TransferFunctionSession::tfEndData() {
 }
 
 bool TransferFunctionSession::tfIsAs400Mode() const {
-    return transportType_ == host::value::TransportAs400 ||
-           host::GetSetting(settings_, id::RouterKind) == host::value::RouterAs400;
+    return transportType_ == zhst::value::TransportAs400 ||
+           services::GetSetting(settings_, id::RouterKind) == zhst::value::RouterAs400;
 }
 
 void TransferFunctionSession::tfTraceOn(const char* fileName) {
-    if (!traceFile_) traceFile_ = host::CreateFileObject(session_);
+    if (!traceFile_) traceFile_ = services::CreateFileObject(session_);
     if (!traceFile_) return;
     traceFile_->setName(fileName);
     traceFile_->setTypeFlag(TraceIsBinary);
-    traceFile_->setExistingFileAction(host::value::Append);
+    traceFile_->setExistingFileAction(zhst::value::Append);
     traceFile_->setOption(TraceOption);
 }
 
@@ -228,8 +231,8 @@ std::string_view TransferFunctionSession::returned(const TfResult& result) const
 
 void TransferFunctionSession::yieldToDialog() {
     if (!callbackSession || callbackProcess != platform::GetCurrentProcessId()) return;
-    if (const host::ProgressDialogHandle dialog = callbackSession->activeDialog_)
-        host::ProgressDialogCommand(dialog, host::ProgressCommand::ProcessMessages);
+    if (const services::ProgressDialogHandle dialog = callbackSession->activeDialog_)
+        services::ProgressDialogCommand(dialog, services::ProgressCommand::ProcessMessages);
 }
 
 void TransferFunctionSession::onSettingChanged(std::uint32_t setting, std::int32_t newValue, std::int32_t oldValue) {

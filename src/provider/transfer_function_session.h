@@ -3,10 +3,10 @@
 #include <cstdint>
 #include <string_view>
 
-#include "host/owned.h"
 #include "monitor/monitor_store.h"
 #include "provider/message_box.h"
 #include "provider/provider_binding.h"
+#include "services/owned.h"
 #include "text/code_page_state.h"
 
 namespace provider {
@@ -22,7 +22,7 @@ class TransferFunctionSession {
 public:
     // `watch` is registered for the settings of the connection and the code page; it is to call onSettingChanged.
     // `yield` is what an IBM-style provider calls while it waits; it is to call yieldToDialog.
-    TransferFunctionSession(host::SessionHandle session, host::SettingWatch watch, YieldCallback yield);
+    TransferFunctionSession(services::SessionHandle session, services::SettingWatch watch, TfYield yield);
     ~TransferFunctionSession();
     TransferFunctionSession(const TransferFunctionSession&) = delete;
     TransferFunctionSession& operator=(const TransferFunctionSession&) = delete;
@@ -39,7 +39,7 @@ public:
     // session first; NotStarted when that fails. `designation` may be null; `dialog` (0: none) is kept alive while the
     // provider waits. Shows nothing.
     void tfRequest(std::uint32_t function, std::uint32_t length, std::uint32_t reserved, TfResult& result,
-                   const char* designation, host::ProgressDialogHandle dialog);
+                   const char* designation, services::ProgressDialogHandle dialog);
     void tfEndRequest();
     void tfEndData();
 
@@ -52,14 +52,14 @@ public:
     // Whether the transfer may go on after an exchange. A failure has been shown by the message rules, its code and
     // text are in the settings LastReturnCode and LastErrorText. `contextText` is the index in message table 7 of a
     // text that says what was being done, 0 for none; `dialog` (0: none) is hidden while a message is up.
-    bool tfCheckResult(std::uint32_t contextText, const TfResult& result, host::ProgressDialogHandle dialog);
+    bool tfCheckResult(std::uint32_t contextText, const TfResult& result, services::ProgressDialogHandle dialog);
 
     // "SYSTEM(NAME    )", built anew on each call; null when the session names no host system.
     const char* hostSystemDesignation();
 
     void onSettingChanged(std::uint32_t setting, std::int32_t newValue, std::int32_t oldValue);
     // Tells that the session was stopped under a request, which a session that is not started would not report.
-    void tellInterruption(host::ProgressDialogHandle dialog) const;
+    void tellInterruption(services::ProgressDialogHandle dialog) const;
     void setRuntimeSetting(std::uint32_t value) { runtimeSetting_ = value; }
 
     // The shared buffer of BufferSize bytes; null while there is none, as after a stop.
@@ -87,8 +87,8 @@ private:
     void readConnectionSettings();
     void endConversation();
     void releaseProvider();
-    void sendControl(Function function);
-    void carryOutPendingStop(std::uint32_t function, TfResult& result, host::ProgressDialogHandle dialog);
+    void sendControl(TfFunction function);
+    void carryOutPendingStop(std::uint32_t function, TfResult& result, services::ProgressDialogHandle dialog);
     void onConnectionChanging(bool changing);
     void stopForChange(std::int32_t& current, std::int32_t newValue);
 
@@ -98,20 +98,20 @@ private:
     void showNotCompleted() const;
 
     // In the order in which the constructor makes them.
-    host::SessionHandle session_;
-    host::SettingsHandle settings_;
+    services::SessionHandle session_;
+    services::SettingsHandle settings_;
     text::CodePageState codePage_;
-    host::Owned<monitor::MonitorStore> monitorStore_;
-    host::WindowHandle sessionWindow_;
-    host::SettingWatch watch_;
-    YieldCallback yield_;
+    services::Owned<monitor::MonitorStore> monitorStore_;
+    services::WindowHandle sessionWindow_;
+    services::SettingWatch watch_;
+    TfYield yield_;
 
     char* dataBuffer_ = nullptr;
-    host::FileObject* traceFile_ = nullptr;
+    services::FileObject* traceFile_ = nullptr;
     std::uint32_t runtimeSetting_ = 0;
     ProviderBinding binding_;
     std::uint32_t conversation_ = 0;
-    host::ProgressDialogHandle activeDialog_ = 0;
+    services::ProgressDialogHandle activeDialog_ = 0;
     TfResult controlResult_;  // of the exchanges the session makes itself
     void* bufferHandle_ = nullptr;
     bool started_ = false;

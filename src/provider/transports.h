@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "host/setting_values.h"
+#include "Z7XFRPCS/settings.h"
 
 namespace provider {
 
@@ -24,7 +24,7 @@ constexpr Transport transportOf(std::int32_t transportType) {
         case 7:
         case 13:
             return Transport::Appc;
-        case host::value::TransportAs400:
+        case zhst::value::TransportAs400:
             return Transport::As400;
         default:
             return Transport::Unknown;

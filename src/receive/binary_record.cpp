@@ -50,10 +50,10 @@ bool convertField(const RecordConverter& converter, const HostField& field, cons
 
 }  // namespace
 
-bool toBinaryRecord(RecordConverter& converter, std::string_view hostRecord, host::OwnedBytes& work,
+bool toBinaryRecord(RecordConverter& converter, std::string_view hostRecord, services::OwnedBytes& work,
                     std::uint32_t& length) {
     const auto hostLength = static_cast<std::uint32_t>(hostRecord.size());
-    work = host::OwnedBytes::make(std::max<std::uint32_t>(hostLength, 1), true);
+    work = services::OwnedBytes::make(std::max<std::uint32_t>(hostLength, 1), true);
     if (!work) {
         provider::showMessage(converter.messageOwner(), provider::OutOfMemory);
         return false;

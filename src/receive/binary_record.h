@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <string_view>
 
-#include "host/owned.h"
 #include "receive/record_converter.h"
+#include "services/owned.h"
 
 namespace receive {
 
@@ -13,7 +13,7 @@ namespace receive {
 //
 // Binary: bytes reversed. Zoned: 0x30 plus the digit, the last 0xB0 plus the digit when negative. Packed: the sign
 // nibble becomes 0xB when negative and 0x3 otherwise. Hexadecimal: unchanged.
-bool toBinaryRecord(RecordConverter& converter, std::string_view hostRecord, host::OwnedBytes& work,
+bool toBinaryRecord(RecordConverter& converter, std::string_view hostRecord, services::OwnedBytes& work,
                     std::uint32_t& length);
 
 }  // namespace receive

@@ -4,8 +4,7 @@
 #include <cstdio>
 #include <cstring>
 
-#include "host/setting_ids.h"
-#include "host/setting_values.h"
+#include "Z7XFRPCS/settings.h"
 #include "receive/dif_strings.h"
 #include "receive/numeric_field.h"
 #include "receive/quoting.h"
@@ -22,7 +21,7 @@ constexpr std::uint32_t FieldBytesPerHostByte = 4;
 // is written and failed() stays true.
 class GrowingRecord {
 public:
-    explicit GrowingRecord(host::OwnedBytes& bytes) : bytes_(bytes) {}
+    explicit GrowingRecord(services::OwnedBytes& bytes) : bytes_(bytes) {}
 
     bool ensure(std::uint32_t room) {
         while (!failed_ && bytes_.size() - length_ < room) failed_ = !bytes_.resize(2 * bytes_.size());
@@ -46,7 +45,7 @@ public:
     bool failed() const { return failed_; }
 
 private:
-    host::OwnedBytes& bytes_;
+    services::OwnedBytes& bytes_;
     std::uint32_t length_ = 0;
     bool failed_ = false;
 };
@@ -58,8 +57,8 @@ public:
         : converter_(converter),
           out_(out),
           type_(converter.transferSettings->receiveFileType),
-          display_(converter.transferSettings->receiveOutput == host::value::ToDisplay && converter.textDisplay != 0),
-          row_(display_ ? host::TextDisplayAddRow(converter.textDisplay, 0) : 0) {}
+          display_(converter.transferSettings->receiveOutput == zhst::value::ToDisplay && converter.textDisplay != 0),
+          row_(display_ ? services::TextDisplayAddRow(converter.textDisplay, 0) : 0) {}
 
     bool convert(std::string_view hostRecord);
     void finish();
@@ -78,7 +77,7 @@ private:
     GrowingRecord& out_;
     std::int32_t type_;
     bool display_;
-    host::TextRowHandle row_;
+    services::TextRowHandle row_;
     std::uint32_t index_ = 0;
 };
 
@@ -129,7 +128,7 @@ bool DelimitedRecord::convertCharacterField(const HostField& field, const char* 
     const std::uint32_t length = std::max(bytes, converted);
     out_.end()[length] = '\0';
     if (display_) {
-        host::TextDisplaySetCell(converter_.textDisplay, out_.end(), row_, index_);
+        services::TextDisplaySetCell(converter_.textDisplay, out_.end(), row_, index_);
         out_.advance(length);
         for (std::uint32_t at = bytes; at < field.columnWidth; ++at) out_.append(' ');
     } else if (quoted) {
@@ -182,7 +181,7 @@ bool DelimitedRecord::isSourceText(const HostField& field) const {
 void DelimitedRecord::convertNumericField(const HostField& field, const char* source) {
     const std::uint32_t length = formatNumericField(field, source, converter_.numberText);
     if (display_) {
-        host::TextDisplaySetCell(converter_.textDisplay, converter_.numberText, row_, index_);
+        services::TextDisplaySetCell(converter_.textDisplay, converter_.numberText, row_, index_);
         return;
     }
     const bool asString = field.type() == Hex;
@@ -201,7 +200,7 @@ bool DelimitedRecord::refuse(const HostField& field) const {
 
 void DelimitedRecord::finish() {
     if (display_) return;
-    if (host::GetSetting(converter_.settings, host::setting::TrimRecordBlanks) == 1)
+    if (services::GetSetting(converter_.settings, zhst::setting::TrimRecordBlanks) == 1)
         out_.shortenTo(static_cast<std::uint32_t>(text::trimmedEnd(out_.text()).size()));
     if (type_ != settings::Dif) out_.append("\r\n");
     if (!out_.failed()) blankOutNulls(out_.end() - out_.length(), out_.length());
@@ -209,11 +208,11 @@ void DelimitedRecord::finish() {
 
 }  // namespace
 
-bool toDelimitedRecord(RecordConverter& converter, std::string_view hostRecord, host::OwnedBytes& work,
+bool toDelimitedRecord(RecordConverter& converter, std::string_view hostRecord, services::OwnedBytes& work,
                        std::uint32_t& length) {
     GrowingRecord out(work);
     DelimitedRecord record(converter, out);
-    work = host::OwnedBytes::make(static_cast<std::uint32_t>(hostRecord.size()) * PcBytesPerHostByte + 2, true);
+    work = services::OwnedBytes::make(static_cast<std::uint32_t>(hostRecord.size()) * PcBytesPerHostByte + 2, true);
     if (work) {
         if (!record.convert(hostRecord)) return false;
         record.finish();

@@ -3,14 +3,14 @@
 #include <cstdint>
 #include <string_view>
 
-#include "host/owned.h"
 #include "receive/record_converter.h"
+#include "services/owned.h"
 
 namespace receive {
 
 // A record of a text-like PC file type, or the cells of a row of the text display. False after a reported failure;
 // `work` owns the `length` bytes of the record.
-bool toDelimitedRecord(RecordConverter& converter, std::string_view hostRecord, host::OwnedBytes& work,
+bool toDelimitedRecord(RecordConverter& converter, std::string_view hostRecord, services::OwnedBytes& work,
                        std::uint32_t& length);
 
 }  // namespace receive

@@ -14,13 +14,13 @@ constexpr std::uint32_t HeaderSize = 256;
 constexpr std::uint32_t NameCapacity = 80;
 
 // The file object tells the user when it is asked for its error state.
-bool writeToFile(host::FileObject& file, std::string_view bytes) {
+bool writeToFile(services::FileObject& file, std::string_view bytes) {
     if (file.write(bytes.data(), static_cast<std::uint32_t>(bytes.size()))) return true;
     file.errorState();
     return false;
 }
 
-bool writeName(host::FileObject& file, const char* name) {
+bool writeName(services::FileObject& file, const char* name) {
     char item[NameCapacity + 16];
     char* next = std::copy(dif::StringHead.begin(), dif::StringHead.end(), item);
     *next++ = '"';
@@ -32,7 +32,7 @@ bool writeName(host::FileObject& file, const char* name) {
 
 }  // namespace
 
-bool writeDifHeader(const RecordConverter& converter, host::FileObject& file) {
+bool writeDifHeader(const RecordConverter& converter, services::FileObject& file) {
     char header[HeaderSize];
     const int length =
         std::snprintf(header, sizeof(header), dif::HeaderTemplate, static_cast<long>(converter.fields.count()),

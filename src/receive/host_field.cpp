@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "host/setting_ids.h"
+#include "Z7XFRPCS/settings.h"
 #include "settings/pc_file_types.h"
 #include "text/double_byte.h"
 
@@ -61,7 +61,7 @@ std::uint32_t HostField::fieldTextWidth(char firstCharacter) const {
 
 bool HostField::hasSignPosition(char firstCharacter) const {
     if (firstCharacter == '\0' || transferSettings_->sendFileType != settings::AsciiText) return true;
-    if (host::GetSetting(owner_.settings, host::setting::NoSignPosition) == 1) return false;
+    if (services::GetSetting(owner_.settings, zhst::setting::NoSignPosition) == 1) return false;
     return firstCharacter == ' ' || firstCharacter == '-';
 }
 

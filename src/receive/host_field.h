@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <string_view>
 
-#include "host/types.h"
 #include "provider/message_box.h"
+#include "services/handles.h"
 #include "settings/transfer_settings.h"
 
 namespace receive {

@@ -1,10 +1,9 @@
 #include "receive/receive_driver.h"
 
+#include "Z7XFRPCS/exports.h"
+#include "Z7XFRPCS/settings.h"
 #include "client/demonstration.h"
-#include "client/exports.h"
 #include "fdf/fdf_writer.h"
-#include "host/setting_ids.h"
-#include "host/setting_values.h"
 #include "platform/platform.h"
 #include "receive/dif_header.h"
 #include "receive/dif_strings.h"
@@ -20,8 +19,8 @@
 namespace receive {
 namespace {
 
-namespace id = host::setting;
-using host::ProgressCommand;
+namespace id = zhst::setting;
+using services::ProgressCommand;
 
 enum Message : std::uint32_t {
     SeparatorsAlike = 4433,
@@ -51,8 +50,8 @@ public:
     explicit ReceiveRun(ZXFRPCSCLIENT& client)
         : client_(client),
           settings_(*client.transferSettings),
-          rowsPerPage_(host::GetSetting(client.settings, id::DisplayRowsPerPage)) {
-        client_.lastResult.returnCode = provider::NoMoreData;  // no request is open
+          rowsPerPage_(services::GetSetting(client.settings, id::DisplayRowsPerPage)) {
+        client_.lastResult.returnCode = TF_NO_MORE_DATA;  // no request is open
     }
 
     void run();
@@ -79,21 +78,21 @@ private:
     void finishOutput();
     void cleanUp();
 
-    bool toDisplay() const { return settings_.receiveOutput == host::value::ToDisplay; }
+    bool toDisplay() const { return settings_.receiveOutput == zhst::value::ToDisplay; }
     bool toFile() const {
-        return settings_.receiveOutput == host::value::ToPcFile ||
-               settings_.receiveOutput == host::value::ToSpreadsheet;
+        return settings_.receiveOutput == zhst::value::ToPcFile ||
+               settings_.receiveOutput == zhst::value::ToSpreadsheet;
     }
     bool isDif() const { return settings_.receiveFileType == settings::Dif; }
     bool existingFileActionIs(std::int32_t action) const {
-        return host::GetSetting(client_.settings, id::ExistingFileAction) == action;
+        return services::GetSetting(client_.settings, id::ExistingFileAction) == action;
     }
     // Completed without data, where records would go on for ever.
     bool isCompletion() const {
-        return client_.lastResult.returnCode == provider::Completed && client_.lastResult.dataLength == 0;
+        return client_.lastResult.returnCode == TF_COMPLETED && client_.lastResult.dataLength == 0;
     }
     bool goesOn() const { return client_.cancelRequested == 0; }
-    void command(ProgressCommand code) { host::ProgressDialogCommand(client_.progressDialog, code); }
+    void command(ProgressCommand code) { services::ProgressDialogCommand(client_.progressDialog, code); }
     provider::MessageOwner owner() const { return {client_.session, client_.settings, client_.ownerWindow}; }
     bool fail(std::uint32_t message) const {
         provider::showMessage(owner(), message);
@@ -108,7 +107,7 @@ private:
     std::int32_t pageLine_ = 0;
     char titleText_[40] = {};
     char moreText_[80] = {};
-    host::Owned<RecordConverter> converter_;
+    services::Owned<RecordConverter> converter_;
 };
 
 void ReceiveRun::run() {
@@ -128,32 +127,33 @@ bool ReceiveRun::settingsFit() {
     if (settings_.receiveFileType == settings::CommaSeparated && settings_.decimalSeparator == ',' &&
         settings_.listSeparator == ',')
         return fail(SeparatorsAlike);
-    return !isDif() || !existingFileActionIs(host::value::Append) || fail(DifNotAppended);
+    return !isDif() || !existingFileActionIs(zhst::value::Append) || fail(DifNotAppended);
 }
 
 void ReceiveRun::prepareDisplay() {
-    host::LoadMessageText(client_.session, TextTable, DisplayTitleText, titleText_, sizeof(titleText_));
-    const host::TextDisplayParameters parameters = {
+    services::LoadMessageText(client_.session, TextTable, DisplayTitleText, titleText_, sizeof(titleText_));
+    const services::TextDisplayParameters parameters = {
         client_.ownerWindow,          client_.session, titleText_, TextDisplayMoreNotification, 0,
         TextDisplayCloseNotification, &client_};
-    client_.textDisplay = host::TextDisplayCreate(&parameters);
-    host::LoadMessageText(client_.session, TextTable, DisplayNameText, client_.pcFileName, sizeof(client_.pcFileName));
+    client_.textDisplay = services::TextDisplayCreate(&parameters);
+    services::LoadMessageText(client_.session, TextTable, DisplayNameText, client_.pcFileName,
+                              sizeof(client_.pcFileName));
 }
 
 void ReceiveRun::resetJobSettings() {
-    host::SetSetting(client_.settings, id::JobRecordsReceived, 0);
-    host::SetSetting(client_.settings, id::JobRecordsTotal, 0);
+    services::SetSetting(client_.settings, id::JobRecordsReceived, 0);
+    services::SetSetting(client_.settings, id::JobRecordsTotal, 0);
     for (const std::uint32_t setting : {id::JobName, id::JobUser, id::JobNumber})
-        host::SetStringSetting(client_.settings, setting, "*");
+        services::SetStringSetting(client_.settings, setting, "*");
 }
 
 bool ReceiveRun::createProgressDialog() {
     const std::uint32_t mode = !client_.showProgress ? 0 : settings_.recordProgress == 1 ? 1 : 2;
-    client_.progressDialog = host::ProgressDialogCreate(client_.session, host::FromHost, mode, 0);
+    client_.progressDialog = services::ProgressDialogCreate(client_.session, services::FromHost, mode, 0);
     if (!client_.progressDialog) return fail(provider::OutOfMemory);
     if (client_.showProgress) {
-        host::ProgressDialogSetPcName(client_.progressDialog, client_.pcFileName);
-        host::ProgressDialogSetHostName(client_.progressDialog, client_.hostFileName);
+        services::ProgressDialogSetPcName(client_.progressDialog, client_.pcFileName);
+        services::ProgressDialogSetHostName(client_.progressDialog, client_.hostFileName);
     }
     command(ProgressCommand::Starting);
     return true;
@@ -171,15 +171,15 @@ bool ReceiveRun::countRecords() {
     if (count < 0) return false;
     if (count == 0) {
         const provider::HiddenDialog hidden(client_.progressDialog);
-        if (host::IsMessageEnabled(client_.settings, 0))
-            host::ShowMessage(client_.session, client_.ownerWindow, host::MessageId(TextTable, NoRecordsText),
-                              provider::BoxFlags, 1, NoRecordsHelp);
+        if (services::IsMessageEnabled(client_.settings, 0))
+            services::ShowMessage(client_.session, client_.ownerWindow, services::MessageId(TextTable, NoRecordsText),
+                                  provider::BoxFlags, 1, NoRecordsHelp);
         return false;
     }
     expectedCount_ = count;
-    host::SetSetting(client_.settings, id::JobRecordsTotal, count);
-    host::SetSetting(client_.settings, id::TransferDirection, host::FromHost);
-    host::ProgressDialogSetTotal(client_.progressDialog, static_cast<std::uint32_t>(count), host::Records);
+    services::SetSetting(client_.settings, id::JobRecordsTotal, count);
+    services::SetSetting(client_.settings, id::TransferDirection, services::FromHost);
+    services::ProgressDialogSetTotal(client_.progressDialog, static_cast<std::uint32_t>(count), services::Records);
     return true;
 }
 
@@ -207,8 +207,8 @@ bool ReceiveRun::sendQuery() {
 bool ReceiveRun::readFields() {
     command(ProgressCommand::PreparingConversion);
     converter_ =
-        host::Owned<RecordConverter>::make(client_.session, client_.tfSession.get(), client_.transferContext.get(),
-                                           client_.transferSettings.get(), client_.textDisplay, expectedCount_);
+        services::Owned<RecordConverter>::make(client_.session, client_.tfSession.get(), client_.transferContext.get(),
+                                               client_.transferSettings.get(), client_.textDisplay, expectedCount_);
     if (!converter_) return fail(provider::OutOfMemory);
     // Without descriptions the record loop goes on: there the provider says what became of the request.
     converter_->readHostFields(client_.progressDialog, false);
@@ -225,20 +225,20 @@ bool ReceiveRun::prepareOutput() {
 }
 
 bool ReceiveRun::beginDisplay() {
-    host::ProgressDialogDestroy(client_.progressDialog);
+    services::ProgressDialogDestroy(client_.progressDialog);
     client_.progressDialog = 0;
-    if (!client_.textDisplay || !host::TextDisplayBegin(client_.textDisplay, rowsPerPage_, 0))
+    if (!client_.textDisplay || !services::TextDisplayBegin(client_.textDisplay, rowsPerPage_, 0))
         return fail(DisplayNotBegun);
     defineDisplayColumns(*converter_);
     client_.displayClosed = 0;
     client_.moreRequested = 1;
-    host::LoadMessageText(client_.session, TextTable, MoreText, moreText_, sizeof(moreText_));
+    services::LoadMessageText(client_.session, TextTable, MoreText, moreText_, sizeof(moreText_));
     return true;
 }
 
 bool ReceiveRun::openPcFile() {
-    host::FileObject& file = *client_.fileObject;
-    if (isDif() && existingFileActionIs(host::value::AskUser)) file.prepareNewFile();
+    services::FileObject& file = *client_.fileObject;
+    if (isDif() && existingFileActionIs(zhst::value::AskUser)) file.prepareNewFile();
     if (!file.openForWriting()) return false;
     file.openedName(client_.pcFileName);
     platform::CharLowerA(client_.pcFileName);
@@ -252,9 +252,9 @@ bool ReceiveRun::transferRecords() {
     provider::TransferFunctionSession& tf = *client_.tfSession;
     for (;; ++recordNumber_) {
         if (!request::sessionStands(client_)) return false;
-        host::SetSetting(client_.settings, id::JobRecordsReceived, recordNumber_);
-        tf.tfRequest(provider::TF_GET_DATA, 0, 0, client_.lastResult, nullptr, client_.progressDialog);
-        if (client_.lastResult.returnCode == provider::NoMoreData) return true;
+        services::SetSetting(client_.settings, id::JobRecordsReceived, recordNumber_);
+        tf.tfRequest(TF_GET_DATA, 0, 0, client_.lastResult, nullptr, client_.progressDialog);
+        if (client_.lastResult.returnCode == TF_NO_MORE_DATA) return true;
         if (!request::checkLastResult(client_, request::NoContext)) return false;
         if (isCompletion()) return true;
         if (!transferRecord()) return false;
@@ -292,7 +292,7 @@ bool ReceiveRun::showRow() {
     } else {
         pageLine_ = 0;
         client_.moreRequested = 0;
-        host::TextDisplaySetStatus(client_.textDisplay, moreText_);
+        services::TextDisplaySetStatus(client_.textDisplay, moreText_);
     }
     while (!client_.moreRequested && !client_.displayClosed) client_.pumpMessages();
     if (client_.displayClosed) {
@@ -300,26 +300,26 @@ bool ReceiveRun::showRow() {
         return false;
     }
     client_.moreRequested = 1;
-    host::TextDisplaySetStatus(client_.textDisplay, titleText_);
+    services::TextDisplaySetStatus(client_.textDisplay, titleText_);
     return true;
 }
 
 void ReceiveRun::showProgress() {
     if (!isProgressStep(expectedCount_, recordNumber_)) return;
-    if (settings_.recordProgress == 1) host::SetSetting(client_.settings, id::ProgressCount, recordNumber_);
+    if (settings_.recordProgress == 1) services::SetSetting(client_.settings, id::ProgressCount, recordNumber_);
     command(ProgressCommand::ProcessMessages);
 }
 
 void ReceiveRun::finishOutput() {
     if (toDisplay()) {
-        host::TextDisplayEnd(client_.textDisplay);
+        services::TextDisplayEnd(client_.textDisplay);
         while (!client_.displayClosed) client_.pumpMessages();
     }
     if (!toFile()) return;
-    if (settings_.recordProgress == 1) host::SetSetting(client_.settings, id::ProgressCount, recordNumber_ - 1);
+    if (settings_.recordProgress == 1) services::SetSetting(client_.settings, id::ProgressCount, recordNumber_ - 1);
     command(ProgressCommand::AllDataTransferred);
     if (isDif() && !writePcRecord(dif::EndOfData)) return;
-    if (settings_.receiveOutput != host::value::ToSpreadsheet) return;
+    if (settings_.receiveOutput != zhst::value::ToSpreadsheet) return;
     client_.fileObject->close();
     launchSpreadsheet(client_);
 }
@@ -327,11 +327,11 @@ void ReceiveRun::finishOutput() {
 void ReceiveRun::cleanUp() {
     converter_.reset();
     // The request was left before its end, or the provider wants every request ended.
-    if (client_.lastResult.returnCode != provider::NoMoreData || client_.tfSession->tfIsAs400Mode())
+    if (client_.lastResult.returnCode != TF_NO_MORE_DATA || client_.tfSession->tfIsAs400Mode())
         client_.tfSession->tfEndRequest();
     if (client_.progressDialog) command(ProgressCommand::Ended);
     if (client_.textDisplay) {
-        host::TextDisplayDestroy(client_.textDisplay);
+        services::TextDisplayDestroy(client_.textDisplay);
         client_.textDisplay = 0;
     }
 }

@@ -11,7 +11,7 @@ namespace receive {
 namespace {
 
 // The finished record goes over the host record, if it fits there.
-bool deliver(RecordConverter& converter, host::OwnedBytes work, std::uint32_t length, PcRecord& record) {
+bool deliver(RecordConverter& converter, services::OwnedBytes work, std::uint32_t length, PcRecord& record) {
     if (length > provider::BufferSize) {
         record.bytes = {work.data(), length};
         record.longRecord = std::move(work);
@@ -29,7 +29,7 @@ bool deliver(RecordConverter& converter, host::OwnedBytes work, std::uint32_t le
 bool convertHostRecord(RecordConverter& converter, std::uint32_t hostLength, PcRecord& record) {
     const std::string_view hostRecord(converter.tfSession->dataBuffer(), hostLength);
     const std::int32_t type = converter.transferSettings->receiveFileType;
-    host::OwnedBytes work;
+    services::OwnedBytes work;
     std::uint32_t length = 0;
     if (settings::isTextLike(type)) {
         if (!toDelimitedRecord(converter, hostRecord, work, length)) return false;
@@ -48,8 +48,8 @@ bool defineDisplayColumns(RecordConverter& converter) {
         const std::uint32_t point = field.isNumber() && field.fieldLength().decimals > 0 ? 1 : 0;
         field.columnWidth = std::max(field.fieldTextWidth('\0') + point, field.nameLength());
         const bool toTheRight = !field.fieldLength().isCharacter();
-        host::TextDisplayAddColumn(converter.textDisplay, index++, field.name(), field.columnWidth,
-                                   toTheRight ? host::AlignRight : host::AlignLeft);
+        services::TextDisplayAddColumn(converter.textDisplay, index++, field.name(), field.columnWidth,
+                                       toTheRight ? services::AlignRight : services::AlignLeft);
     }
     return index > 0;
 }

@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-#include "host/owned.h"
 #include "receive/record_converter.h"
+#include "services/owned.h"
 
 namespace receive {
 
@@ -11,7 +11,7 @@ namespace receive {
 // it was built in, which this owns.
 struct PcRecord {
     std::string_view bytes;
-    host::OwnedBytes longRecord;
+    services::OwnedBytes longRecord;
 };
 
 // Turns the host record at the start of the shared buffer into a record of the receive file type, or into a row of the

@@ -20,39 +20,39 @@ constexpr char TooManyDescriptions[] =
 HostFieldList::~HostFieldList() {
     while (HostField* field = first_) {
         first_ = field->next;
-        host::Owned<HostField>::adopt(field).reset();
+        services::Owned<HostField>::adopt(field).reset();
     }
 }
 
-void HostFieldList::append(host::Owned<HostField> field) {
+void HostFieldList::append(services::Owned<HostField> field) {
     HostField* added = field.release();
     (last_ ? last_->next : first_) = added;
     last_ = added;
     ++count_;
 }
 
-RecordConverter::RecordConverter(host::SessionHandle owner, provider::TransferFunctionSession* functions,
+RecordConverter::RecordConverter(services::SessionHandle owner, provider::TransferFunctionSession* functions,
                                  settings::TransferContext* context, settings::TransferSettings* snapshot,
-                                 host::TextDisplayHandle display, std::int32_t count)
+                                 services::TextDisplayHandle display, std::int32_t count)
     : session(owner),
       tfSession(functions),
-      settings(host::GetSessionSettings(owner)),
+      settings(services::GetSessionSettings(owner)),
       transferSettings(snapshot),
       transferContext(context),
-      mainWindow(host::GetSessionWindow(settings)),
+      mainWindow(services::GetSessionWindow(settings)),
       textDisplay(display),
       expectedCount(count) {}
 
-bool RecordConverter::readHostFields(host::ProgressDialogHandle dialog, bool forSend) {
-    if (dialog) host::ProgressDialogCommand(dialog, host::ProgressCommand::ReadingFields);
+bool RecordConverter::readHostFields(services::ProgressDialogHandle dialog, bool forSend) {
+    if (dialog) services::ProgressDialogCommand(dialog, services::ProgressCommand::ReadingFields);
     for (std::int32_t exchange = 0;; ++exchange) {
         if (exchange == MaximumExchanges) {
             provider::showOwnText(messageOwner(), TooManyDescriptions, dialog);
             break;
         }
-        tfSession->tfRequest(provider::TF_GET_FIELD, 0, 0, fieldResult, tfSession->hostSystemDesignation(), dialog);
-        if (fieldResult.returnCode == provider::NoMoreData) break;
-        if (fieldResult.returnCode != provider::Success) {
+        tfSession->tfRequest(TF_GET_FIELD, 0, 0, fieldResult, tfSession->hostSystemDesignation(), dialog);
+        if (fieldResult.returnCode == TF_NO_MORE_DATA) break;
+        if (fieldResult.returnCode != TF_SUCCESS) {
             if (!tfSession->tfCheckResult(0, fieldResult, dialog)) break;
         } else if (!addField(tfSession->returned(fieldResult), forSend, dialog)) {
             break;
@@ -61,7 +61,7 @@ bool RecordConverter::readHostFields(host::ProgressDialogHandle dialog, bool for
     return !fields.isEmpty();
 }
 
-bool RecordConverter::addField(std::string_view description, bool forSend, host::ProgressDialogHandle dialog) {
+bool RecordConverter::addField(std::string_view description, bool forSend, services::ProgressDialogHandle dialog) {
     if (description.size() < DescriptionSize) {
         provider::showOwnText(messageOwner(), DescriptionTooShort, dialog);
         return false;
@@ -69,7 +69,7 @@ bool RecordConverter::addField(std::string_view description, bool forSend, host:
     description = description.substr(0, DescriptionSize);
     if (monitor::MonitorStore* store = tfSession->monitorStore())
         forSend ? store->recordSendField(description) : store->recordReceiveField(description);
-    auto field = host::Owned<HostField>::make(messageOwner(), description.data(), transferSettings);
+    auto field = services::Owned<HostField>::make(messageOwner(), description.data(), transferSettings);
     if (!field) {
         provider::showMessage(messageOwner(), provider::OutOfMemory);
         return false;

@@ -3,10 +3,10 @@
 #include <cstdint>
 #include <string_view>
 
-#include "host/owned.h"
-#include "host/text_display.h"
 #include "provider/transfer_function_session.h"
 #include "receive/host_field.h"
+#include "services/owned.h"
+#include "services/text_display.h"
 #include "settings/transfer_context.h"
 
 namespace receive {
@@ -19,7 +19,7 @@ public:
     HostFieldList(const HostFieldList&) = delete;
     HostFieldList& operator=(const HostFieldList&) = delete;
 
-    void append(host::Owned<HostField> field);
+    void append(services::Owned<HostField> field);
     bool isEmpty() const { return !first_; }
     std::int32_t count() const { return count_; }
 
@@ -48,13 +48,13 @@ private:
 // What converts the records of one transfer, in either direction: the host record layout and the buffers that are used
 // for record after record. Made by the driver once the statement is accepted, released at its end.
 struct RecordConverter {
-    RecordConverter(host::SessionHandle owner, provider::TransferFunctionSession* functions,
+    RecordConverter(services::SessionHandle owner, provider::TransferFunctionSession* functions,
                     settings::TransferContext* context, settings::TransferSettings* snapshot,
-                    host::TextDisplayHandle display, std::int32_t count);
+                    services::TextDisplayHandle display, std::int32_t count);
 
     // Fetches the field descriptions of the request, with the progress dialog (0: none) showing that it does. True when
     // there is at least one. The list ends where a description or memory for it fails, which has been reported.
-    bool readHostFields(host::ProgressDialogHandle dialog, bool forSend);
+    bool readHostFields(services::ProgressDialogHandle dialog, bool forSend);
 
     // The conversions of text::CodePageState for a field. False when one fails; missing code tables have been reported,
     // other failures are the emulator's converter's.
@@ -64,28 +64,28 @@ struct RecordConverter {
 
     provider::MessageOwner messageOwner() const { return {session, settings, mainWindow}; }
 
-    host::SessionHandle session;
+    services::SessionHandle session;
     provider::TransferFunctionSession* tfSession;
-    host::SettingsHandle settings;
+    services::SettingsHandle settings;
     settings::TransferSettings* transferSettings;
     settings::TransferContext* transferContext;
     provider::TfResult fieldResult;
     HostFieldList fields;
-    host::WindowHandle mainWindow;
+    services::WindowHandle mainWindow;
 
     // Receive.
-    host::TextDisplayHandle textDisplay;  // 0 for output to a PC file
-    std::int32_t expectedCount;           // records the query will return, as counted before
+    services::TextDisplayHandle textDisplay;  // 0 for output to a PC file
+    std::int32_t expectedCount;               // records the query will return, as counted before
     // Text of the number being converted: the longest is a hexadecimal field as large as a record, in double quotes.
     char numberText[2 * provider::BufferSize + 3] = {};
 
     // Send.
-    std::uint32_t recordCount = 0;  // records found so far in a text-like PC file
-    host::OwnedBytes hostRecord;    // the record being built
-    host::OwnedBytes fieldBuffer;   // one field's text on its way to the host code page
+    std::uint32_t recordCount = 0;     // records found so far in a text-like PC file
+    services::OwnedBytes hostRecord;   // the record being built
+    services::OwnedBytes fieldBuffer;  // one field's text on its way to the host code page
 
 private:
-    bool addField(std::string_view description, bool forSend, host::ProgressDialogHandle dialog);
+    bool addField(std::string_view description, bool forSend, services::ProgressDialogHandle dialog);
     bool converted(std::uint32_t result) const;
 };
 

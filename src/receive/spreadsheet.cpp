@@ -1,6 +1,6 @@
 #include "receive/spreadsheet.h"
 
-#include "host/setting_ids.h"
+#include "Z7XFRPCS/settings.h"
 #include "platform/platform.h"
 
 namespace receive {
@@ -13,15 +13,15 @@ constexpr std::int32_t FirstSuccess = 32;
 }  // namespace
 
 bool launchSpreadsheet(const ZXFRPCSCLIENT& client) {
-    const bool byName = host::GetSetting(client.settings, host::setting::LaunchByProgramName) != 0;
+    const bool byName = services::GetSetting(client.settings, zhst::setting::LaunchByProgramName) != 0;
     const char* file = byName ? "EXCEL.EXE" : client.pcFileName;
     const char* parameters = byName ? client.pcFileName : nullptr;
     const std::int32_t result = platform::ShellExecuteA(client.mainWindow, "open", file, parameters, "", NormalWindow);
     if (result >= FirstSuccess) return true;
-    if (host::IsMessageEnabled(client.settings, ProgramNotStarted))
-        host::ShowMessage3(client.session, client.ownerWindow, ProgramNotStarted, provider::BoxFlags, 1,
-                           ProgramNotStarted, host::insert(client.pcFileName),
-                           host::insert(static_cast<std::uint32_t>(result)), host::insert(" "));
+    if (services::IsMessageEnabled(client.settings, ProgramNotStarted))
+        services::ShowMessage3(client.session, client.ownerWindow, ProgramNotStarted, provider::BoxFlags, 1,
+                               ProgramNotStarted, services::insert(client.pcFileName),
+                               services::insert(static_cast<std::uint32_t>(result)), services::insert(" "));
     return false;
 }
 

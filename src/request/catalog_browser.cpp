@@ -3,9 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "Z7XFRPCS/settings.h"
 #include "client/connection_check.h"
-#include "host/setting_ids.h"
-#include "host/setting_values.h"
 #include "request/catalog_entry.h"
 #include "request/demo_catalog.h"
 #include "request/statement_exchange.h"
@@ -22,7 +21,7 @@ void endRequest(ZXFRPCSCLIENT& client) { client.tfSession->tfEndRequest(); }
 // The entry of an answer that is no record; the request ends with it.
 std::uint32_t finishListing(ZXFRPCSCLIENT& client, HostCatalogEntry& entry) {
     const std::uint16_t code = client.lastResult.returnCode;
-    if (code != provider::NoMoreData && code != provider::Completed) checkLastResult(client, ListingCatalog);
+    if (code != TF_NO_MORE_DATA && code != TF_COMPLETED) checkLastResult(client, ListingCatalog);
     entry.status = code;
     if (client.browseFilter) {
         text::copyCut(client.browseFilter, entry.name, sizeof(entry.name));
@@ -30,19 +29,19 @@ std::uint32_t finishListing(ZXFRPCSCLIENT& client, HostCatalogEntry& entry) {
     } else {
         entry.name[0] = '\0';
     }
-    if (code == provider::NoMoreData) return CatalogEnd;
+    if (code == TF_NO_MORE_DATA) return CatalogEnd;
     endRequest(client);
-    return code == provider::Completed ? CatalogCompleted : CatalogFailure;
+    return code == TF_COMPLETED ? CatalogCompleted : CatalogFailure;
 }
 
 std::uint32_t fillHostCatalogEntry(ZXFRPCSCLIENT& client, HostCatalogEntry& entry) {
-    if (client.lastResult.returnCode != provider::Success) return finishListing(client, entry);
+    if (client.lastResult.returnCode != TF_SUCCESS) return finishListing(client, entry);
     const char* buffer = client.tfSession->dataBuffer();
     if (!buffer) return CatalogFailure;
     const std::string_view record(buffer, std::min(client.lastResult.dataLength, provider::BufferSize));
     const bool formatted = entry.entryKind == FieldListing ? formatColumnEntry(client, record, entry)
                                                            : formatFileEntry(client, record, entry);
-    entry.status = provider::Success;
+    entry.status = TF_SUCCESS;
     if (formatted) return CatalogEntryDelivered;
     provider::showOwnText(client.messageOwner(), NotConverted);
     entry.name[0] = '\0';
@@ -55,7 +54,7 @@ bool fetchRecord(ZXFRPCSCLIENT& client) {
     if (!buffer) return false;
     std::memset(buffer, 0, provider::BufferSize);
     provider::TransferFunctionSession& tf = *client.tfSession;
-    tf.tfRequest(provider::TF_GET_DATA, 0, 0, client.lastResult, tf.hostSystemDesignation(), 0);
+    tf.tfRequest(TF_GET_DATA, 0, 0, client.lastResult, tf.hostSystemDesignation(), 0);
     return true;
 }
 
@@ -78,14 +77,14 @@ std::uint32_t listFirst(ZXFRPCSCLIENT& client, HostCatalogEntry& entry, const ch
     if (!client::checkConnection(client) || !client.tfStart() || !sendExtract(client, filter, entry.entryKind))
         return CatalogFailure;
     client.browseFilter = *filter ? filter : nullptr;
-    if (client.tfSession->tfIsAs400Mode() && client.lastResult.returnCode == provider::NoMoreData)
+    if (client.tfSession->tfIsAs400Mode() && client.lastResult.returnCode == TF_NO_MORE_DATA)
         return fillHostCatalogEntry(client, entry);
     const std::uint16_t answer = client.lastResult.returnCode;
     if (!checkLastResult(client, SendingRequest)) {
-        if (answer != provider::NoMoreData) endRequest(client);
+        if (answer != TF_NO_MORE_DATA) endRequest(client);
         return CatalogFailure;
     }
-    if (answer != provider::Completed && !fetchRecord(client)) return CatalogFailure;
+    if (answer != TF_COMPLETED && !fetchRecord(client)) return CatalogFailure;
     return fillHostCatalogEntry(client, entry);
 }
 

@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
+#include "Z7XFRPCS/exports.h"
 #include "client/client_object.h"
-#include "client/exports.h"
 
 // Lists what the host has: libraries, files, members, or the fields of a file. Entries are fetched one by one.
 //

@@ -70,7 +70,7 @@ public:
     }
     void appendLabel(const ZXFRPCSCLIENT& client, std::uint32_t index) {
         char label[LabelSize] = {};
-        host::LoadMessageText(client.session, TextTable, index, label, LabelSize);
+        services::LoadMessageText(client.session, TextTable, index, label, LabelSize);
         append({label, LabelSize});
     }
     void trimEnd() {

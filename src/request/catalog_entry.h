@@ -2,8 +2,8 @@
 
 #include <string_view>
 
+#include "Z7XFRPCS/exports.h"
 #include "client/client_object.h"
-#include "client/exports.h"
 
 namespace request {
 

@@ -31,8 +31,8 @@ std::uint32_t entriesOf(const HostCatalogEntry& entry) {
 void setName(const ZXFRPCSCLIENT& client, HostCatalogEntry& entry, std::string_view start, std::uint32_t text) {
     text::copyCut(start, entry.name, sizeof(entry.name));
     const auto length = static_cast<std::uint32_t>(std::strlen(entry.name));
-    host::LoadMessageText(client.session, TextTable, text, entry.name + length,
-                          static_cast<std::uint32_t>(sizeof(entry.name)) - length);
+    services::LoadMessageText(client.session, TextTable, text, entry.name + length,
+                              static_cast<std::uint32_t>(sizeof(entry.name)) - length);
 }
 
 void nameField(const ZXFRPCSCLIENT& client, HostCatalogEntry& entry) {
@@ -62,7 +62,7 @@ std::uint32_t nameFile(const ZXFRPCSCLIENT& client, std::string_view filter, Hos
 }
 
 std::uint32_t deliver(const ZXFRPCSCLIENT& client, HostCatalogEntry& entry) {
-    entry.status = provider::Success;
+    entry.status = TF_SUCCESS;
     entry.flags |= DemonstrationFlag;
     if (!isFieldList(entry)) return nameFile(client, client.workText->view(), entry);
     nameField(client, entry);

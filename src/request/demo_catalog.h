@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
+#include "Z7XFRPCS/exports.h"
 #include "client/client_object.h"
-#include "client/exports.h"
 
 // The catalogue of a demonstration connection: three libraries, files or members, or the six fields of one file and the
 // twelve of several, named by sample texts of the message catalogue.

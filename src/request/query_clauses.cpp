@@ -13,7 +13,7 @@ constexpr char NoClauseSource[] = "This session offers no clauses for a transfer
 struct Clauses {
     text::TextBuffer selection, join, groupBy, having, orderBy;
 
-    void fetch(const ZXFRPCSCLIENT& client, host::SessionServices::GetTransferClauses entry) {
+    void fetch(const ZXFRPCSCLIENT& client, ZhstGetTransferClauses entry) {
         entry(client.session, nullptr, selection.record(), orderBy.record(), groupBy.record(), having.record(),
               join.record());
         for (text::TextBuffer* clause : {&selection, &groupBy, &having, &orderBy}) {

@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-#include "host/setting_ids.h"
-#include "host/setting_values.h"
+#include "Z7XFRPCS/settings.h"
 #include "provider/transports.h"
 #include "request/query_clauses.h"
 #include "request/statement_exchange.h"
@@ -29,14 +28,14 @@ bool composeCountStatement(ZXFRPCSCLIENT& client, std::string_view& statement) {
     writer.append("SELECT COUNT(*)");
     writer.append(client.requestText->view());
     writer.shortenTo(static_cast<std::uint32_t>(text::trimmedEnd(writer.text()).size()));
-    if (host::GetSetting(client.settings, host::setting::RouterKind) == host::value::RouterAs400)
+    if (services::GetSetting(client.settings, zhst::setting::RouterKind) == zhst::value::RouterAs400)
         writer.append(" FOR FETCH ONLY");
     statement = writer.text();
     return writer.fits() || refuseLongStatement(client);
 }
 
 void fetchCountRecord(ZXFRPCSCLIENT& client) {
-    client.tfSession->tfRequest(provider::TF_GET_DATA, 0, 0, client.lastResult, nullptr, client.progressDialog);
+    client.tfSession->tfRequest(TF_GET_DATA, 0, 0, client.lastResult, nullptr, client.progressDialog);
 }
 
 // Providers that report the end of the count's single record have to be asked for it.

@@ -2,8 +2,8 @@
 
 #include <charconv>
 
+#include "Z7XFRPCS/settings.h"
 #include "fdf/fdf_reader.h"
-#include "host/setting_values.h"
 
 namespace request {
 namespace {
@@ -16,7 +16,7 @@ bool failWithoutMemory(const ZXFRPCSCLIENT& client) {
 }
 
 bool appendFields(ZXFRPCSCLIENT& client, text::TextBuffer& statement) {
-    const auto names = host::OwnedBytes::make(fdf::NameListCapacity + 1, false);
+    const auto names = services::OwnedBytes::make(fdf::NameListCapacity + 1, false);
     if (!names) return failWithoutMemory(client);
     if (!fdf::readFdf(*client.transferContext, client.pcFileName, names.data(), fdf::NameListCapacity)) return false;
     statement.append(names.data());
@@ -38,7 +38,7 @@ std::string_view authority(std::int32_t publicAuthority) {
 
 // Keyword and value go together, so that what does not fit leaves nothing behind.
 void appendLayout(text::TextBuffer& statement, const settings::TransferSettings& settings) {
-    if (settings.hostFileType == host::value::SourceFile) {
+    if (settings.hostFileType == zhst::value::SourceFile) {
         char digits[NumberText];
         const auto end = std::to_chars(digits, digits + NumberText, settings.recordLength).ptr;
         statement.append({"RCDLEN(", {digits, static_cast<std::size_t>(end - digits)}, ") "});
@@ -54,7 +54,7 @@ void appendMember(text::TextBuffer& statement, const settings::TransferSettings&
 
 void appendFile(text::TextBuffer& statement, const settings::TransferSettings& settings) {
     statement.append("CRTFILE(YES) ");
-    statement.append({"FILETYPE(", settings.hostFileType != host::value::DataFile ? "SOURCE) " : "DATA) "});
+    statement.append({"FILETYPE(", settings.hostFileType != zhst::value::DataFile ? "SOURCE) " : "DATA) "});
     appendLayout(statement, settings);
     statement.append(authority(settings.publicAuthority));
     if (*settings.fileText) statement.append({"FILETEXT('", settings.fileText, "') "});
@@ -67,15 +67,15 @@ bool composeSendStatement(ZXFRPCSCLIENT& client) {
     settings::TransferSettings& settings = *client.transferSettings;
     if (!client.requestText || !client.requestText->assign("REPLACE ")) return failWithoutMemory(client);
     text::TextBuffer& statement = *client.requestText;
-    if (settings.useDescriptionFile) settings.hostFileType = host::value::DataFile;
-    if (settings.hostFileType != host::value::DataFile)
+    if (settings.useDescriptionFile) settings.hostFileType = zhst::value::DataFile;
+    if (settings.hostFileType != zhst::value::DataFile)
         statement.append("*");
     else if (!appendFields(client, statement))
         return false;
     statement.append({" into ", client.hostFileName, " "});
-    if (settings.createMode == host::value::CreateFile) {
+    if (settings.createMode == zhst::value::CreateFile) {
         appendFile(statement, settings);
-    } else if (settings.createMode == host::value::CreateMember) {
+    } else if (settings.createMode == zhst::value::CreateMember) {
         statement.append("CRTFILE(NO) ");
         appendMember(statement, settings);
     }

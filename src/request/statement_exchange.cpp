@@ -10,12 +10,12 @@ constexpr char StatementTooLong[] =
 }  // namespace
 
 void sendStatement(ZXFRPCSCLIENT& client, std::string_view statement, Direction direction,
-                   host::ProgressDialogHandle dialog) {
+                   services::ProgressDialogHandle dialog) {
     provider::TransferFunctionSession& tf = *client.tfSession;
     monitor::MonitorStore* store = tf.monitorStore();
     const bool receive = direction == Direction::Receive;
     if (store) receive ? store->recordReceiveStatement(statement) : store->recordSendStatement(statement);
-    tf.tfRequest(provider::TF_SEND_REQUEST, static_cast<std::uint32_t>(statement.size()), 0, client.lastResult,
+    tf.tfRequest(TF_SEND_REQUEST, static_cast<std::uint32_t>(statement.size()), 0, client.lastResult,
                  tf.hostSystemDesignation(), dialog);
     if (store) receive ? store->touchReceiveList() : store->touchSendList();
 }

@@ -22,7 +22,7 @@ enum class Direction { Receive, Send };
 // Sends a statement that stands at the start of the shared buffer: publishes it, exchanges it with the system
 // designation into lastResult, touches the direction's list. The catalogue passes no dialog.
 void sendStatement(ZXFRPCSCLIENT& client, std::string_view statement, Direction direction,
-                   host::ProgressDialogHandle dialog);
+                   services::ProgressDialogHandle dialog);
 
 // Judges lastResult.
 bool checkLastResult(ZXFRPCSCLIENT& client, Context context);

@@ -4,7 +4,8 @@
 #include <cstdint>
 #include <string_view>
 
-#include "provider/provider_call.h"
+#include "Z7XFRPCS/provider.h"
+#include "provider/tf_result.h"
 
 namespace request {
 

@@ -61,7 +61,7 @@ bool convertField(receive::RecordConverter& converter, const receive::HostField&
 
 bool convertBinaryRecord(receive::RecordConverter& converter, std::uint32_t recordNumber) {
     char* record = converter.tfSession->dataBuffer();
-    const host::OwnedBytes& hostRecord = converter.hostRecord;
+    const services::OwnedBytes& hostRecord = converter.hostRecord;
     std::uint32_t position = 0;
     std::uint32_t fieldNumber = 0;
     for (const receive::HostField& field : converter.fields) {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/setting_values.h"
+#include "Z7XFRPCS/settings.h"
 #include "receive/dif_strings.h"
 #include "send/dif_value.h"
 #include "send/refusals.h"
@@ -104,7 +104,7 @@ private:
     bool collect(std::string_view& rest, CollectedText& collected);
     void takeDelimited(std::string_view& rest, CollectedText& collected) const;
     void takeLine(std::string_view rest);
-    bool isSourceSend() const { return settings_.hostFileType == host::value::SourceFile; }
+    bool isSourceSend() const { return settings_.hostFileType == zhst::value::SourceFile; }
     bool isLongTextKept() const {
         return converter_.tfSession->codePage().isCodePage43() && settings_.sendFileType != settings::BasicSequential;
     }

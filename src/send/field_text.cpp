@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "host/owned.h"
 #include "send/host_number.h"
+#include "services/owned.h"
 #include "settings/pc_file_types.h"
 #include "text/double_byte.h"
 
@@ -53,7 +53,7 @@ ConvertedField convertHex(const HostField& field, std::string_view text, char* d
     std::size_t consumed = count + (quoted ? 1 : 0);
     if (!takeHexEnd(field, quoted, digits.substr(count), consumed)) return {};
     // The digits with two quotes and a terminating zero.
-    const auto work = host::OwnedBytes::make(count + 3, false);
+    const auto work = services::OwnedBytes::make(count + 3, false);
     if (!work) return {};
     *std::copy_n(digits.data(), count, work.data()) = '\0';
     if (!hexTextToBytes({work.data(), count}, destination)) return {};

@@ -14,8 +14,7 @@ bool placeRecord(ZXFRPCSCLIENT& client, std::string_view record, char fill) {
 
 bool putRecord(ZXFRPCSCLIENT& client, std::uint32_t hostLength, request::Context context) {
     provider::TransferFunctionSession& tf = *client.tfSession;
-    tf.tfRequest(provider::TF_PUT_DATA, hostLength, 0, client.lastResult, tf.hostSystemDesignation(),
-                 client.progressDialog);
+    tf.tfRequest(TF_PUT_DATA, hostLength, 0, client.lastResult, tf.hostSystemDesignation(), client.progressDialog);
     return request::checkLastResult(client, context);
 }
 

@@ -27,8 +27,9 @@ bool refuseDifValue(const receive::RecordConverter& converter) {
 }
 
 bool refuseNumber(const receive::RecordConverter& converter, std::uint32_t recordNumber, std::uint32_t fieldNumber) {
-    host::ShowMessage2(converter.session, converter.mainWindow, host::MessageId(TextTable, BadNumberText),
-                       provider::BoxFlags, 1, ConversionHelp, host::insert(recordNumber), host::insert(fieldNumber));
+    services::ShowMessage2(converter.session, converter.mainWindow, services::MessageId(TextTable, BadNumberText),
+                           provider::BoxFlags, 1, ConversionHelp, services::insert(recordNumber),
+                           services::insert(fieldNumber));
     return endData(converter);
 }
 
@@ -40,8 +41,8 @@ bool refuseEmptyField(const receive::RecordConverter& converter, const receive::
 }
 
 bool refuseShortHostRecord(const receive::RecordConverter& converter) {
-    host::ShowMessage(converter.session, converter.mainWindow, host::MessageId(TextTable, ShortHostRecordText),
-                      provider::BoxFlags, 1, ConversionHelp);
+    services::ShowMessage(converter.session, converter.mainWindow, services::MessageId(TextTable, ShortHostRecordText),
+                          provider::BoxFlags, 1, ConversionHelp);
     return endData(converter);
 }
 

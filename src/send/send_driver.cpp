@@ -2,9 +2,8 @@
 
 #include <algorithm>
 
+#include "Z7XFRPCS/settings.h"
 #include "client/demonstration.h"
-#include "host/setting_ids.h"
-#include "host/setting_values.h"
 #include "platform/platform.h"
 #include "receive/record_converter.h"
 #include "request/options_clause.h"
@@ -19,8 +18,8 @@
 namespace send {
 namespace {
 
-namespace id = host::setting;
-using host::ProgressCommand;
+namespace id = zhst::setting;
+using services::ProgressCommand;
 
 constexpr std::uint32_t SourceOfSeveralFields = 4601;
 constexpr std::string_view TargetExistsMessages[] = {"IWS2036", "IWS2023"};
@@ -66,10 +65,10 @@ private:
     void finish();
 
     bool goesOn() const { return client_.cancelRequested == 0; }
-    void command(ProgressCommand code) { host::ProgressDialogCommand(client_.progressDialog, code); }
+    void command(ProgressCommand code) { services::ProgressDialogCommand(client_.progressDialog, code); }
     void showPosition() {
-        host::SetSetting(client_.settings, id::ProgressCount,
-                         static_cast<std::int32_t>(client_.fileObject->position()));
+        services::SetSetting(client_.settings, id::ProgressCount,
+                             static_cast<std::int32_t>(client_.fileObject->position()));
     }
     provider::MessageOwner owner() const { return {client_.session, client_.settings, client_.ownerWindow}; }
     bool fail(std::uint32_t message) const {
@@ -83,8 +82,8 @@ private:
 
     ZXFRPCSCLIENT& client_;
     settings::TransferSettings& settings_;
-    host::OwnedBytes readBuffer_;
-    host::Owned<receive::RecordConverter> converter_;
+    services::OwnedBytes readBuffer_;
+    services::Owned<receive::RecordConverter> converter_;
     std::uint32_t hostLength_ = 0;
     std::uint32_t filePosition_ = 0;
     std::uint32_t binaryRecords_ = 0;  // records of a file that is not text-like
@@ -107,15 +106,16 @@ void SendRun::run() {
 }
 
 bool SendRun::createProgressDialog() {
-    client_.progressDialog = host::ProgressDialogCreate(client_.session, host::ToHost, client_.showProgress ? 1 : 0, 0);
+    client_.progressDialog =
+        services::ProgressDialogCreate(client_.session, services::ToHost, client_.showProgress ? 1 : 0, 0);
     if (!client_.progressDialog) {
-        const host::WindowHandle popup = platform::GetLastActivePopup(client_.mainWindow);
+        const services::WindowHandle popup = platform::GetLastActivePopup(client_.mainWindow);
         provider::showMessage({client_.session, client_.settings, popup}, provider::OutOfMemory);
         return false;
     }
     if (client_.showProgress) {
-        host::ProgressDialogSetPcName(client_.progressDialog, client_.pcFileName);
-        host::ProgressDialogSetHostName(client_.progressDialog, client_.hostFileName);
+        services::ProgressDialogSetPcName(client_.progressDialog, client_.pcFileName);
+        services::ProgressDialogSetHostName(client_.progressDialog, client_.hostFileName);
     }
     return true;
 }
@@ -132,7 +132,7 @@ bool SendRun::composeRequests(std::string_view& options) {
 }
 
 bool SendRun::allocateReadBuffer() {
-    readBuffer_ = host::OwnedBytes::make(ReadBufferSize, false);
+    readBuffer_ = services::OwnedBytes::make(ReadBufferSize, false);
     if (readBuffer_) return true;
     const provider::HiddenDialog hidden(client_.progressDialog);
     return fail(provider::OutOfMemory);
@@ -151,33 +151,33 @@ bool SendRun::sendRequest() {
 
 bool SendRun::isAccepted() {
     if (!targetExists()) return request::checkLastResult(client_, request::SendingRequest);
-    return settings_.createMode != host::value::ReplaceMember || confirmReplacement();
+    return settings_.createMode != zhst::value::ReplaceMember || confirmReplacement();
 }
 
 bool SendRun::targetExists() const {
-    if (client_.lastResult.returnCode != provider::TargetExists) return false;
+    if (client_.lastResult.returnCode != TF_TARGET_EXISTS) return false;
     const std::string_view hostText = client_.tfSession->returned(client_.lastResult);
     return std::any_of(std::begin(TargetExistsMessages), std::end(TargetExistsMessages),
                        [&](std::string_view id) { return hostText.starts_with(id); });
 }
 
 bool SendRun::confirmReplacement() {
-    return host::ShowMessage1(client_.session, client_.mainWindow, host::MessageId(QuestionTable, QuestionText),
-                              QuestionFlags, 1, QuestionHelp, client_.hostFileName) == Confirmed;
+    return services::ShowMessage1(client_.session, client_.mainWindow, services::MessageId(QuestionTable, QuestionText),
+                                  QuestionFlags, 1, QuestionHelp, client_.hostFileName) == Confirmed;
 }
 
 bool SendRun::readLayout() {
     if (!request::sessionStands(client_)) return false;
-    converter_ = host::Owned<receive::RecordConverter>::make(
+    converter_ = services::Owned<receive::RecordConverter>::make(
         client_.session, client_.tfSession.get(), client_.transferContext.get(), client_.transferSettings.get(), 0, 0);
     if (!converter_) return fail(provider::OutOfMemory);
     converter_->readHostFields(client_.progressDialog, true);
     // A list that was cut short, which has been reported, would give records of another layout than the host's.
-    if (converter_->fieldResult.returnCode != provider::NoMoreData || !takeHostLength()) return false;
+    if (converter_->fieldResult.returnCode != TF_NO_MORE_DATA || !takeHostLength()) return false;
     // A field without a length is refused under its name, with the first record.
     const std::uint32_t bytes = std::max(hostLength_, 1u);
-    converter_->hostRecord = host::OwnedBytes::make(bytes, true);
-    converter_->fieldBuffer = host::OwnedBytes::make(bytes, true);
+    converter_->hostRecord = services::OwnedBytes::make(bytes, true);
+    converter_->fieldBuffer = services::OwnedBytes::make(bytes, true);
     return (converter_->hostRecord && converter_->fieldBuffer) || fail(provider::OutOfMemory);
 }
 
@@ -190,12 +190,12 @@ bool SendRun::takeHostLength() {
 }
 
 bool SendRun::prepareData() {
-    host::FileObject& file = *client_.fileObject;
+    services::FileObject& file = *client_.fileObject;
     const std::uint32_t size = file.size();
-    host::SetSetting(client_.settings, id::TransferDirection, host::ToHost);
-    host::ProgressDialogSetTotal(client_.progressDialog, size, host::Bytes);
-    if (settings_.createMode != host::value::CreateFile && converter_->fields.count() > 1 &&
-        settings_.hostFileType == host::value::SourceFile)
+    services::SetSetting(client_.settings, id::TransferDirection, services::ToHost);
+    services::ProgressDialogSetTotal(client_.progressDialog, size, services::Bytes);
+    if (settings_.createMode != zhst::value::CreateFile && converter_->fields.count() > 1 &&
+        settings_.hostFileType == zhst::value::SourceFile)
         return fail(SourceOfSeveralFields);
     if (!showFileType()) return false;
     if (settings_.sendFileType == settings::Dif) settings_.startRecord = FirstDataTuple;
@@ -240,7 +240,7 @@ ReadOutcome SendRun::sendRead(std::string_view read) {
 
 ReadOutcome SendRun::sendBinaryRecord(std::string_view read) {
     const bool converted = settings_.sendFileType == settings::BasicRandom;
-    if (converted && read[0] == EndOfFileByte && host::GetSetting(client_.settings, id::EofByteEndsFile) != 0)
+    if (converted && read[0] == EndOfFileByte && services::GetSetting(client_.settings, id::EofByteEndsFile) != 0)
         return ReadOutcome::EndOfData;
     const bool sent = placeRecord(client_, read, converted ? PcBlank : HostBlank) &&
                       convertRecord(*converter_, hostLength_, ++binaryRecords_) &&

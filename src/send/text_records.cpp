@@ -1,6 +1,6 @@
 #include "send/text_records.h"
 
-#include "host/setting_values.h"
+#include "Z7XFRPCS/settings.h"
 #include "send/record_exchange.h"
 #include "send/record_parser.h"
 #include "settings/pc_file_types.h"
@@ -56,7 +56,7 @@ bool TextRecords::sendTrailing(std::string_view trailing) {
 bool TextRecords::sendRecord(std::string_view record, char terminator, std::uint32_t recordNumber) {
     if (monitor::MonitorStore* store = client_.tfSession->monitorStore()) store->recordSentRecord(record);
     if (!placeRecord(client_, record, PcBlank)) return false;
-    const bool toSource = converter_.transferSettings->hostFileType == host::value::SourceFile;
+    const bool toSource = converter_.transferSettings->hostFileType == zhst::value::SourceFile;
     if (record.empty() && (!toSource || terminator == EndOfFileByte)) return true;
     return convertRecord(converter_, static_cast<std::uint32_t>(record.size()), recordNumber) &&
            putRecord(client_, hostLength_, request::SendingTextRecord);

@@ -1,13 +1,13 @@
 #include "settings/transfer_settings.h"
 
-#include "host/session.h"
-#include "host/setting_ids.h"
+#include "Z7XFRPCS/settings.h"
 #include "platform/platform.h"
+#include "services/session.h"
 
 namespace settings {
 namespace {
 
-namespace id = host::setting;
+namespace id = zhst::setting;
 
 constexpr std::int32_t CommaMode = 2;
 constexpr std::int32_t LocaleMode = 8;
@@ -25,49 +25,49 @@ char decimalSeparatorOf(std::int32_t mode) {
 
 }  // namespace
 
-TransferSettings::TransferSettings(host::SessionHandle owner, provider::TransferFunctionSession* functions)
-    : selectList(host::Owned<text::TextBuffer>::make()),
+TransferSettings::TransferSettings(services::SessionHandle owner, provider::TransferFunctionSession* functions)
+    : selectList(services::Owned<text::TextBuffer>::make()),
       tfSession(functions),
-      settings(host::GetSessionSettings(owner)),
+      settings(services::GetSessionSettings(owner)),
       session(owner),
-      sessionServices(host::GetSessionServices(owner)) {
+      sessionServices(services::GetSessionServices(owner)) {
     readIntegers();
     readStrings();
     const auto clauses = sessionServices ? sessionServices->getTransferClauses() : nullptr;
     if (clauses && selectList) clauses(session, selectList->record(), nullptr, nullptr, nullptr, nullptr, nullptr);
     listSeparator = firstOfLocale(platform::LocaleListSeparator);
-    numericWidthMode = host::GetSetting(settings, id::NumericWidthMode);
+    numericWidthMode = services::GetSetting(settings, id::NumericWidthMode);
 }
 
 void TransferSettings::readIntegers() {
-    useDescriptionFile = host::GetSetting(settings, id::UseDescriptionFile) == 1;
-    writeDescriptionFile = host::GetSetting(settings, id::WriteDescriptionFile) == 1;
-    sendFileType = host::GetSetting(settings, id::SendFileType);
-    receiveFileType = host::GetSetting(settings, id::ReceiveFileType);
-    hostFileType = host::GetSetting(settings, id::HostFileType);
-    publicAuthority = host::GetSetting(settings, id::PublicAuthority);
-    recordLength = host::GetSetting(settings, id::RecordLength);
-    timeFormat = host::GetSetting(settings, id::TimeFormat);
-    dateFormat = host::GetSetting(settings, id::DateFormat);
-    timeSeparator = host::GetSetting(settings, id::TimeSeparator);
-    dateSeparator = host::GetSetting(settings, id::DateSeparator);
-    ignoreDecimalErrors = host::GetSetting(settings, id::IgnoreDecimalErrors);
-    decimalSeparatorMode = host::GetSetting(settings, id::DecimalSeparatorMode);
+    useDescriptionFile = services::GetSetting(settings, id::UseDescriptionFile) == 1;
+    writeDescriptionFile = services::GetSetting(settings, id::WriteDescriptionFile) == 1;
+    sendFileType = services::GetSetting(settings, id::SendFileType);
+    receiveFileType = services::GetSetting(settings, id::ReceiveFileType);
+    hostFileType = services::GetSetting(settings, id::HostFileType);
+    publicAuthority = services::GetSetting(settings, id::PublicAuthority);
+    recordLength = services::GetSetting(settings, id::RecordLength);
+    timeFormat = services::GetSetting(settings, id::TimeFormat);
+    dateFormat = services::GetSetting(settings, id::DateFormat);
+    timeSeparator = services::GetSetting(settings, id::TimeSeparator);
+    dateSeparator = services::GetSetting(settings, id::DateSeparator);
+    ignoreDecimalErrors = services::GetSetting(settings, id::IgnoreDecimalErrors);
+    decimalSeparatorMode = services::GetSetting(settings, id::DecimalSeparatorMode);
     decimalSeparator = decimalSeparatorOf(decimalSeparatorMode);
-    receiveOutput = host::GetSetting(settings, id::ReceiveOutput);
-    createMode = host::GetSetting(settings, id::CreateMode);
-    recordProgress = host::GetSetting(settings, id::RecordProgress);
-    startRecord = static_cast<std::uint32_t>(host::GetSetting(settings, id::StartRecord));
+    receiveOutput = services::GetSetting(settings, id::ReceiveOutput);
+    createMode = services::GetSetting(settings, id::CreateMode);
+    recordProgress = services::GetSetting(settings, id::RecordProgress);
+    startRecord = static_cast<std::uint32_t>(services::GetSetting(settings, id::StartRecord));
 }
 
 void TransferSettings::readStrings() {
-    host::GetStringSetting(settings, id::FileText, fileText, sizeof(fileText));
-    host::GetStringSetting(settings, id::MemberText, memberText, sizeof(memberText));
-    host::GetStringSetting(settings, id::SendDescriptionFile, sendDescriptionFile, sizeof(sendDescriptionFile));
-    host::GetStringSetting(settings, id::ReceiveDescriptionFile, receiveDescriptionFile,
-                           sizeof(receiveDescriptionFile));
-    host::GetStringSetting(settings, id::ReferenceFile, referenceFile, sizeof(referenceFile));
-    host::GetStringSetting(settings, id::SortSequence, sortSequence, sizeof(sortSequence));
+    services::GetStringSetting(settings, id::FileText, fileText, sizeof(fileText));
+    services::GetStringSetting(settings, id::MemberText, memberText, sizeof(memberText));
+    services::GetStringSetting(settings, id::SendDescriptionFile, sendDescriptionFile, sizeof(sendDescriptionFile));
+    services::GetStringSetting(settings, id::ReceiveDescriptionFile, receiveDescriptionFile,
+                               sizeof(receiveDescriptionFile));
+    services::GetStringSetting(settings, id::ReferenceFile, referenceFile, sizeof(referenceFile));
+    services::GetStringSetting(settings, id::SortSequence, sortSequence, sizeof(sortSequence));
 }
 
 }  // namespace settings

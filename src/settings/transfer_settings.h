@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-#include "host/objects.h"
-#include "host/owned.h"
+#include "services/objects.h"
+#include "services/owned.h"
 #include "text/text_buffer.h"
 
 namespace provider {
@@ -15,7 +15,7 @@ namespace settings {
 // The settings of one transfer, read once at its start; a change of the live settings does not reach the transfer.
 // The comments give the setting each field is read from where the name does not.
 struct TransferSettings {
-    TransferSettings(host::SessionHandle owner, provider::TransferFunctionSession* functions);
+    TransferSettings(services::SessionHandle owner, provider::TransferFunctionSession* functions);
 
     char fileText[51] = {};
     char memberText[51] = {};
@@ -42,12 +42,12 @@ struct TransferSettings {
     std::int32_t receiveOutput = 0;
     std::int32_t createMode = 0;
     std::int32_t recordProgress = 0;
-    std::uint32_t startRecord = 0;             // first record sent, from 1
-    host::Owned<text::TextBuffer> selectList;  // null when there was no memory: all fields
+    std::uint32_t startRecord = 0;                 // first record sent, from 1
+    services::Owned<text::TextBuffer> selectList;  // null when there was no memory: all fields
     provider::TransferFunctionSession* tfSession;
-    host::SettingsHandle settings;
-    host::SessionHandle session;
-    const host::SessionServices* sessionServices;
+    services::SettingsHandle settings;
+    services::SessionHandle session;
+    const services::SessionServices* sessionServices;
 
 private:
     void readIntegers();

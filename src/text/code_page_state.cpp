@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
-#include "host/session.h"
 #include "platform/platform.h"
+#include "services/session.h"
 #include "text/double_byte.h"
 
 namespace text {
@@ -30,7 +30,7 @@ constexpr char HostBlank = 0x40;
 constexpr char PcBlank = 0x20;
 
 // The converted pair, first byte high; 0 when the table has none.
-std::uint16_t convertedPair(const host::OwnedBytes& table, char first, char second) {
+std::uint16_t convertedPair(const services::OwnedBytes& table, char first, char second) {
     const auto* bytes = reinterpret_cast<const std::uint8_t*>(table.data());
     const std::uint32_t row = bytes[RowIndexOffset + static_cast<std::uint8_t>(first)];
     if (row >= RowCount) return 0;
@@ -54,30 +54,30 @@ private:
 
 }  // namespace
 
-CodePageState::CodePageState(host::SessionHandle session)
+CodePageState::CodePageState(services::SessionHandle session)
     : session_(session),
-      sessionServices_(host::GetSessionServices(session)),
-      emulatorConverter_(host::GetEmulatorConverter(session)),
-      textServicesHandle_(host::GetTextServices(session)) {}
+      sessionServices_(services::GetSessionServices(session)),
+      emulatorConverter_(services::GetEmulatorConverter(session)),
+      textServicesHandle_(services::GetTextServices(session)) {}
 
 void CodePageState::setHostCodePage(std::int32_t hostCodePage) {
     hostCodePage_ = hostCodePage;
     isCodePage43_ = hostCodePage == CodePage43;
     dbcsToPcTable_.reset();
     dbcsToHostTable_.reset();
-    auto* services = static_cast<host::CodePageServices*>(host::GetSessionObject(session_, host::CodePageServicesKind));
+    auto* services = services::GetCodePageServices(session_);
     dbcsTablesLoaded_ = services && services->isDoubleByte(hostCodePage);
     if (dbcsTablesLoaded_) loadDoubleByteTables();
 }
 
 void CodePageState::loadDoubleByteTables() {
-    dbcsToPcTable_ = host::OwnedBytes::make(PairTableSize, true);
-    dbcsToHostTable_ = host::OwnedBytes::make(PairTableSize, true);
+    dbcsToPcTable_ = services::OwnedBytes::make(PairTableSize, true);
+    dbcsToHostTable_ = services::OwnedBytes::make(PairTableSize, true);
     if (dbcsToPcTable_)
-        host::LoadCodeTable(session_, dbcsToPcTable_.data(), PairsToPcKind, hostCodePage_, PairTableSize);
+        services::LoadCodeTable(session_, dbcsToPcTable_.data(), PairsToPcKind, hostCodePage_, PairTableSize);
     if (dbcsToHostTable_)
-        host::LoadCodeTable(session_, dbcsToHostTable_.data(), PairsToHostKind, hostCodePage_, PairTableSize);
-    host::LoadCodeTable(session_, singleByteTables_, SingleByteKind, hostCodePage_, sizeof(singleByteTables_));
+        services::LoadCodeTable(session_, dbcsToHostTable_.data(), PairsToHostKind, hostCodePage_, PairTableSize);
+    services::LoadCodeTable(session_, singleByteTables_, SingleByteKind, hostCodePage_, sizeof(singleByteTables_));
 }
 
 std::uint32_t CodePageState::hostToPcText(const char* source, char* destination, std::uint32_t length,
@@ -95,7 +95,7 @@ std::uint32_t CodePageState::hostToPcText(const char* source, char* destination,
         if (convertedLength) *convertedLength = converted;
         return 0;
     }
-    const std::uint32_t result = host::ConvertHostText(emulatorConverter_, host::HostToPc, length, destination);
+    const std::uint32_t result = services::ConvertHostText(emulatorConverter_, services::HostToPc, length, destination);
     if (convertToOem_ == 0) return result;
     platform::CharToOemBuffA(destination, destination, length);
     return 0;
@@ -113,7 +113,7 @@ std::uint32_t CodePageState::pcToHostText(const char* source, char* destination,
     length = std::min(length, destinationLength);
     std::memcpy(destination, source, length);
     if (convertToOem_ != 0) platform::OemToCharBuffA(destination, destination, length);
-    const std::uint32_t result = host::ConvertHostText(emulatorConverter_, host::PcToHost, length, destination);
+    const std::uint32_t result = services::ConvertHostText(emulatorConverter_, services::PcToHost, length, destination);
     return convertToOem_ == 0 ? result : 0;
 }
 

@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
-#include "host/conversion.h"
-#include "host/objects.h"
-#include "host/owned.h"
+#include "services/conversion.h"
+#include "services/objects.h"
+#include "services/owned.h"
 
 namespace text {
 
@@ -19,7 +19,7 @@ namespace text {
 class CodePageState {
 public:
     // Both handles of the conversion services, obtained once; no code page yet.
-    explicit CodePageState(host::SessionHandle session);
+    explicit CodePageState(services::SessionHandle session);
 
     // Takes the host code page, releasing the tables of the previous one and loading those of a double-byte page. A
     // table that finds no memory stays missing; conversions that need it then fail.
@@ -49,16 +49,16 @@ private:
     std::uint32_t dbcsHostToPc(std::uint32_t length, char* buffer) const;
     std::uint32_t dbcsPcToHost(std::uint32_t length, const char* source, char* destination) const;
 
-    host::SessionHandle session_;
-    const host::SessionServices* sessionServices_;
-    host::ConverterHandle emulatorConverter_;
-    host::TextServicesHandle textServicesHandle_;
+    services::SessionHandle session_;
+    const services::SessionServices* sessionServices_;
+    services::ConverterHandle emulatorConverter_;
+    services::TextServicesHandle textServicesHandle_;
     std::int32_t hostCodePage_ = 0;
     std::int32_t convertToOem_ = 0;
     bool isCodePage43_ = false;
     bool dbcsTablesLoaded_ = false;
-    host::OwnedBytes dbcsToPcTable_;    // kind 6
-    host::OwnedBytes dbcsToHostTable_;  // kind 5
+    services::OwnedBytes dbcsToPcTable_;    // kind 6
+    services::OwnedBytes dbcsToHostTable_;  // kind 5
     std::uint8_t singleByteTables_[2824] = {};
 };
 

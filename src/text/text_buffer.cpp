@@ -3,24 +3,25 @@
 #include <algorithm>
 #include <cstring>
 
-#include "host/runtime.h"
 #include "platform/platform.h"
+#include "services/runtime.h"
 #include "text/double_byte.h"
 
 namespace text {
 
 TextBuffer::TextBuffer(std::uint32_t capacity) {
-    record_.text = static_cast<char*>(host::AllocateObject(capacity + 1, 1));
+    record_.text = static_cast<char*>(services::AllocateObject(capacity + 1, 1));
     record_.capacity = capacity;
 }
 
 TextBuffer::~TextBuffer() {
-    if (record_.text) host::FreeObject(record_.text);
+    if (record_.text) services::FreeObject(record_.text);
 }
 
 bool TextBuffer::reserve(std::uint32_t length) {
     if (record_.capacity != 0) return record_.text && length < record_.capacity;
-    void* block = record_.text ? host::ReallocateObject(record_.text, length + 1) : host::AllocateObject(length + 1, 1);
+    void* block =
+        record_.text ? services::ReallocateObject(record_.text, length + 1) : services::AllocateObject(length + 1, 1);
     if (!block) return false;
     record_.text = static_cast<char*>(block);
     return true;

@@ -4,12 +4,12 @@
 #include <initializer_list>
 #include <string_view>
 
-#include "host/types.h"
+#include "services/handles.h"
 
 namespace text {
 
-// An owned, zero-terminated text whose memory the emulator may fill and grow too (host::TextRecord says how). What does
-// not fit its capacity, or finds no memory, is not stored at all: the old text stays.
+// An owned, zero-terminated text whose memory the emulator may fill and grow too (services::TextRecord says how). What
+// does not fit its capacity, or finds no memory, is not stored at all: the old text stays.
 class TextBuffer {
 public:
     // Empty, growing as needed.
@@ -41,14 +41,14 @@ public:
     // Case-sensitive; true when there was one.
     bool replaceFirst(std::string_view found, std::string_view replacement);
 
-    host::TextRecord* record() { return &record_; }
+    services::TextRecord* record() { return &record_; }
 
 private:
     bool reserve(std::uint32_t length);
 
-    host::TextRecord record_;
+    services::TextRecord record_ = {nullptr, 0};
 };
 // The emulator takes the address of one for that of the other.
-static_assert(sizeof(TextBuffer) == sizeof(host::TextRecord));
+static_assert(sizeof(TextBuffer) == sizeof(services::TextRecord));
 
 }  // namespace text

@@ -23,7 +23,7 @@ struct Caller {
     Family family;
     std::uint32_t client = 0;
     std::uint32_t window = 0;
-    provider::YieldCallback yield = nullptr;
+    TfYield yield = nullptr;
 };
 
 std::uint32_t request(const Caller& caller, const Exchange& exchange);

@@ -3,11 +3,10 @@
 // E32TFW.DLL. The definitions WITHOUT_REQUEST and WITHOUT_DELETE make incomplete variants of it.
 extern "C" {
 #ifndef WITHOUT_REQUEST
-SCRIPTED_EXPORT std::uint32_t ZHST_CALL EHNTF_STF(std::uint32_t window, provider::YieldCallback yield,
-                                                  std::uint32_t* conversation, std::uint32_t function, void* buffer,
-                                                  std::uint32_t bufferSize, std::uint32_t length,
-                                                  const char* designation, std::uint32_t reserved, void** data,
-                                                  std::uint32_t* dataLength, std::uint32_t* detail) {
+SCRIPTED_EXPORT std::uint32_t ZHST_CALL EHNTF_STF(std::uint32_t window, TfYield yield, std::uint32_t* conversation,
+                                                  std::uint32_t function, void* buffer, std::uint32_t bufferSize,
+                                                  std::uint32_t length, const char* designation, std::uint32_t reserved,
+                                                  void** data, std::uint32_t* dataLength, std::uint32_t* detail) {
     return scripted::request(
         {scripted::Family::Stf, 0, window, yield},
         {conversation, function, buffer, bufferSize, length, designation, reserved, data, dataLength, detail});

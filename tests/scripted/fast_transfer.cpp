@@ -27,18 +27,18 @@ void begin(const Exchange& exchange) {
 std::uint32_t give(const Exchange& exchange, void* data, std::uint32_t length) {
     *exchange.data = data;
     *exchange.dataLength = length;
-    return provider::Success;
+    return TF_SUCCESS;
 }
 
 std::uint32_t nextField(const Exchange& exchange) {
-    if (state.nextField == state.transfer.fieldCount) return provider::NoMoreData;
+    if (state.nextField == state.transfer.fieldCount) return TF_NO_MORE_DATA;
     // The library only reads what a provider points to; the entry's type has no const.
     auto* const field = const_cast<std::uint8_t*>(state.transfer.fields) + std::size_t{40} * state.nextField++;
     return give(exchange, field, 40);
 }
 
 std::uint32_t giveCount(const Exchange& exchange) {
-    if (state.delivered++ != 0) return provider::NoMoreData;
+    if (state.delivered++ != 0) return TF_NO_MORE_DATA;
     auto* const bytes = static_cast<std::uint8_t*>(exchange.buffer);
     for (int i = 0; i < 4; ++i) bytes[i] = static_cast<std::uint8_t>(state.transfer.count >> (24 - 8 * i));
     return give(exchange, bytes, 4);
@@ -47,7 +47,7 @@ std::uint32_t giveCount(const Exchange& exchange) {
 std::uint32_t nextRecord(const Exchange& exchange) {
     if (state.counting) return giveCount(exchange);
     const FastTransfer& transfer = state.transfer;
-    if (state.delivered == transfer.count) return provider::NoMoreData;
+    if (state.delivered == transfer.count) return TF_NO_MORE_DATA;
     std::memcpy(exchange.buffer, transfer.records + std::size_t{transfer.recordLength} * state.nextRecord,
                 transfer.recordLength);
     if (++state.nextRecord == transfer.recordCount) state.nextRecord = 0;
@@ -65,19 +65,19 @@ std::uint32_t answer(const Exchange& exchange) {
     *exchange.data = nullptr;
     *exchange.dataLength = *exchange.detail = 0;
     switch (exchange.function) {
-        case provider::TF_SEND_REQUEST:
+        case TF_SEND_REQUEST:
             begin(exchange);
-            return provider::Success;
-        case provider::TF_GET_FIELD:
+            return TF_SUCCESS;
+        case TF_GET_FIELD:
             return nextField(exchange);
-        case provider::TF_GET_DATA:
+        case TF_GET_DATA:
             return nextRecord(exchange);
-        case provider::TF_PUT_DATA:
+        case TF_PUT_DATA:
             ++state.tally.recordsIn;
             state.tally.bytesIn += exchange.length;
-            return provider::Success;
+            return TF_SUCCESS;
         default:
-            return provider::Success;
+            return TF_SUCCESS;
     }
 }
 

@@ -65,7 +65,7 @@ Answer chooseAnswer(const Call& call) {
 Place placeOf(const Answer& answer, std::uint32_t function) {
     if (answer.place != Place::Usual) return answer.place;
     if (answer.bytes.empty()) return Place::Null;
-    return function == provider::TF_GET_DATA ? Place::SharedBuffer : Place::OwnMemory;
+    return function == TF_GET_DATA ? Place::SharedBuffer : Place::OwnMemory;
 }
 
 void* putData(const Answer& answer, const Exchange& exchange) {
@@ -75,7 +75,7 @@ void* putData(const Answer& answer, const Exchange& exchange) {
         std::copy_n(answer.bytes.data(), std::min<std::size_t>(answer.bytes.size(), exchange.bufferSize), shared);
         return shared;
     }
-    if (exchange.function == provider::TF_SEND_REQUEST) std::memset(shared, Wiped, exchange.bufferSize);
+    if (exchange.function == TF_SEND_REQUEST) std::memset(shared, Wiped, exchange.bufferSize);
     if (place == Place::Null) return nullptr;
     script().ownMemory = answer.bytes;
     return script().ownMemory.data();
@@ -98,8 +98,8 @@ std::uint32_t liveClients() { return static_cast<std::uint32_t>(script().session
 void setSwitches(const Switches& switches) { script().switches = switches; }
 
 Answer defaultAnswer(const Call& call) {
-    const bool fetches = call.function == provider::TF_GET_FIELD || call.function == provider::TF_GET_DATA;
-    return Answer::code(fetches ? provider::NoMoreData : provider::Success);
+    const bool fetches = call.function == TF_GET_FIELD || call.function == TF_GET_DATA;
+    return Answer::code(fetches ? TF_NO_MORE_DATA : TF_SUCCESS);
 }
 
 const char* functionName(std::uint32_t function) {
@@ -124,7 +124,7 @@ std::uint32_t request(const Caller& caller, const Exchange& exchange) {
     *exchange.data = putData(answer, exchange);
     *exchange.dataLength = answer.dataLength.value_or(static_cast<std::uint32_t>(answer.bytes.size()));
     *exchange.detail = answer.detail;
-    if (exchange.function == provider::TF_SEND_REQUEST && *exchange.conversation == 0) *exchange.conversation = 1;
+    if (exchange.function == TF_SEND_REQUEST && *exchange.conversation == 0) *exchange.conversation = 1;
     return answer.returnCode;
 }
 

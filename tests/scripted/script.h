@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "provider/provider_call.h"
+#include "Z7XFRPCS/provider.h"
 
 // What the provider libraries of bin/scripted_families answer, decided by the test that runs in the same process. The
 // libraries are shells; everything here lives in the shared library z7xscript, which they and the test both use.
@@ -32,7 +32,7 @@ struct Call {
     std::uint32_t conversation = 0;  // as it came in
     void* buffer = nullptr;
     std::uint32_t bufferSize = 0;
-    provider::YieldCallback yield = nullptr;
+    TfYield yield = nullptr;
 };
 
 // Where an answer's bytes stand.
@@ -44,7 +44,7 @@ enum class Place {
 };
 
 struct Answer {
-    std::uint32_t returnCode = provider::Success;  // all 32 bits of the result
+    std::uint32_t returnCode = TF_SUCCESS;  // all 32 bits of the result
     std::uint32_t detail = 0;
     std::string bytes;
     Place place = Place::Usual;

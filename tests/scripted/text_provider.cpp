@@ -7,7 +7,7 @@
 #include <sstream>
 #include <string>
 
-#include "provider/provider_call.h"
+#include "Z7XFRPCS/provider.h"
 
 // E32TFW.DLL as somebody else might have written it: it answers from the file that $Z7X_SCRIPT names. A line is the
 // answer to one fetch, in the order of the lines of its kind:
@@ -71,24 +71,24 @@ bool next(std::deque<std::string>& answers) {
 }  // namespace
 
 extern "C" {
-SCRIPTED_EXPORT std::uint32_t ZHST_CALL EHNTF_STF(std::uint32_t, provider::YieldCallback yield,
-                                                  std::uint32_t* conversation, std::uint32_t function, void* buffer,
-                                                  std::uint32_t bufferSize, std::uint32_t, const char*, std::uint32_t,
-                                                  void** data, std::uint32_t* dataLength, std::uint32_t* detail) {
-    if (!state().loaded || function == provider::TF_RESET) load();
-    if (!state().usable) return provider::FailedSilently;
+SCRIPTED_EXPORT std::uint32_t ZHST_CALL EHNTF_STF(std::uint32_t, TfYield yield, std::uint32_t* conversation,
+                                                  std::uint32_t function, void* buffer, std::uint32_t bufferSize,
+                                                  std::uint32_t, const char*, std::uint32_t, void** data,
+                                                  std::uint32_t* dataLength, std::uint32_t* detail) {
+    if (!state().loaded || function == TF_RESET) load();
+    if (!state().usable) return TF_FAILED_SILENTLY;
     if (yield) yield();
     *data = nullptr;
     *dataLength = *detail = 0;
-    if (function == provider::TF_SEND_REQUEST) *conversation = 1;
-    if (function == provider::TF_END_DATA) *conversation = 0;
-    const bool record = function == provider::TF_GET_DATA;
-    if (!record && function != provider::TF_GET_FIELD) return provider::Success;
-    if (!next(record ? state().records : state().fields)) return provider::NoMoreData;
+    if (function == TF_SEND_REQUEST) *conversation = 1;
+    if (function == TF_END_DATA) *conversation = 0;
+    const bool record = function == TF_GET_DATA;
+    if (!record && function != TF_GET_FIELD) return TF_SUCCESS;
+    if (!next(record ? state().records : state().fields)) return TF_NO_MORE_DATA;
     *data = state().data.data();
     *dataLength = static_cast<std::uint32_t>(state().data.size());
     if (record) *data = std::memcpy(buffer, *data, std::min(*dataLength, bufferSize));
-    return provider::Success;
+    return TF_SUCCESS;
 }
 
 SCRIPTED_EXPORT void ZHST_CALL E32TF_Cleanup() { state() = State{}; }

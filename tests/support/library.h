@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "client/exports.h"
+#include "Z7XFRPCS/exports.h"
 
 // The library under test, as the emulator has it: a module loaded at run time and the addresses of its exports.
 struct Library {

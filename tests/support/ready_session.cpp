@@ -2,24 +2,24 @@
 
 #include <utility>
 
-#include "host/setting_values.h"
+#include "Z7XFRPCS/settings.h"
 #include "scripted/script.h"
 
-namespace setting = host::setting;
+namespace setting = zhst::setting;
 
-void completeSettings(host::SessionHandle session, const std::string& pcFile) {
+void completeSettings(ZhstSession session, const std::string& pcFile) {
     constexpr std::int32_t IbmTransport = 2, CommaSeparated = 2;
     for (const auto id : {setting::HostSystemName, setting::ConnectionParam248, setting::ConnectionParam250,
                           setting::ConnectionParam512})
         emulator::set(session, id, "complete");
     emulator::set(session, setting::TransportType, IbmTransport);
-    emulator::set(session, setting::RouterKind, host::value::RouterIbm);
+    emulator::set(session, setting::RouterKind, zhst::value::RouterIbm);
     emulator::set(session, setting::HostFileName, "QGPL/CUST");
     emulator::set(session, setting::PcFileName, pcFile);
-    emulator::set(session, setting::ReceiveOutput, host::value::ToPcFile);
+    emulator::set(session, setting::ReceiveOutput, zhst::value::ToPcFile);
     emulator::set(session, setting::ReceiveFileType, CommaSeparated);
     emulator::set(session, setting::SendFileType, CommaSeparated);
-    emulator::set(session, setting::ExistingFileAction, host::value::Replace);
+    emulator::set(session, setting::ExistingFileAction, zhst::value::Replace);
     emulator::set(session, setting::DisplayRowsPerPage, 20);
     emulator::set(session, setting::StartRecord, 1);
 }

@@ -20,7 +20,7 @@ public:
 
     // Null when the emulator had no memory for one.
     ZXFRPCSCLIENT* client() const { return client_; }
-    host::SessionHandle handle() const { return session_; }
+    ZhstSession handle() const { return session_; }
     void transfer(Direction direction);
     void deleteClient();
 
@@ -33,9 +33,9 @@ public:
 private:
     const Library& library_ = Library::get();
     RecordingUser user_;
-    host::SessionHandle session_ = 0;
+    ZhstSession session_ = 0;
     ZXFRPCSCLIENT* client_ = nullptr;
 };
 
 // Every setting that a transfer needs, for an IBM provider, a comma-separated PC file and QGPL/CUST.
-void completeSettings(host::SessionHandle session, const std::string& pcFile);
+void completeSettings(ZhstSession session, const std::string& pcFile);

@@ -15,18 +15,18 @@ void ScriptedHost::install() {
 }
 
 Answer ScriptedHost::answer(const scripted::Call& call) {
-    if (call.function == provider::TF_SEND_REQUEST) statements.push_back(call.request);
-    if (call.function == provider::TF_PUT_DATA) received.push_back(call.request);
+    if (call.function == TF_SEND_REQUEST) statements.push_back(call.request);
+    if (call.function == TF_PUT_DATA) received.push_back(call.request);
     if (observe) observe(call);
     if (auto act = acts_.extract(call.function)) act.mapped()();
     if (intercept)
         if (auto other = intercept(call)) return *other;
     switch (call.function) {
-        case provider::TF_SEND_REQUEST:
+        case TF_SEND_REQUEST:
             return begin(call.request);
-        case provider::TF_GET_FIELD:
+        case TF_GET_FIELD:
             return nextField();
-        case provider::TF_GET_DATA:
+        case TF_GET_DATA:
             return nextData();
         default:
             return scripted::defaultAnswer(call);
@@ -43,17 +43,17 @@ Answer ScriptedHost::begin(const std::string& statement) {
 }
 
 Answer ScriptedHost::nextField() {
-    if (nextField_ == fields.size()) return Answer::code(provider::NoMoreData);
+    if (nextField_ == fields.size()) return Answer::code(TF_NO_MORE_DATA);
     return Answer::data(fields[nextField_++]);
 }
 
 Answer ScriptedHost::nextData() {
     if (request_ == Request::Count) {
-        if (nextData_++ != 0) return Answer::code(provider::NoMoreData);
+        if (nextData_++ != 0) return Answer::code(TF_NO_MORE_DATA);
         const std::uint32_t number = count.value_or(static_cast<std::uint32_t>(records.size()));
         return Answer::data(HostRecord().binary(number, 4));
     }
     const auto& source = request_ == Request::Catalogue ? catalogue : records;
-    if (nextData_ == source.size()) return Answer::code(provider::NoMoreData);
+    if (nextData_ == source.size()) return Answer::code(TF_NO_MORE_DATA);
     return Answer::data(source[nextData_++]);
 }

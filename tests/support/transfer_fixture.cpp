@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/session.h"
+#include "Z7XFRPCS/session.h"
 #include "support/ready_session.h"
 
 namespace {
@@ -83,7 +83,7 @@ void TransferFixture::useListSeparator(char separator) {
 
 std::string TransferFixture::messageText(std::uint32_t table, std::uint32_t index, std::size_t room) const {
     std::string text(room, '\0');
-    host::LoadMessageText(session, table, index, text.data(), static_cast<std::uint32_t>(room));
+    zhstLoadMessageText(session, table, index, text.data(), static_cast<std::uint32_t>(room));
     return text.c_str();
 }
 

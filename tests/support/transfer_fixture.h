@@ -15,7 +15,7 @@
 #include "support/recording_user.h"
 #include "support/scripted_host.h"
 
-namespace setting = host::setting;
+namespace setting = zhst::setting;
 
 // A session that is ready to transfer: complete connection settings, a PC file in a folder of its own, the scripted
 // providers, a user who writes everything down, the journal on (with every provider entry as "provider NAME"). The end
@@ -32,7 +32,7 @@ protected:
 
     // --- The session
     const Library& library = Library::get();
-    host::SessionHandle session = 0;
+    ZhstSession session = 0;
     RecordingUser user;
     ScriptedHost hostFile;
 

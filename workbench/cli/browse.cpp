@@ -42,7 +42,7 @@ void printEntry(const HostCatalogEntry& entry, const PcText& pcText, bool fields
 }  // namespace
 
 Tally browse(const TransferLibrary& library, const CommandLine& line, const PcText& pcText, const TerminalUser& user,
-             host::SessionHandle session) {
+             ZhstSession session) {
     HostCatalogEntry entry{};
     entry.entryKind = line.fields ? FieldsOfFiles : 0;
     entry.fileCount = line.fileCount;

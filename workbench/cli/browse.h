@@ -8,4 +8,4 @@
 // Lists a catalogue on standard output, one line an entry: name, description and, for fields, type and length,
 // separated by tabs.
 Tally browse(const TransferLibrary& library, const CommandLine& line, const PcText& pcText, const TerminalUser& user,
-             host::SessionHandle session);
+             ZhstSession session);

@@ -7,7 +7,7 @@
 
 namespace {
 
-namespace setting = host::setting;
+namespace setting = zhst::setting;
 
 using Choices = std::vector<std::pair<std::string, std::int32_t>>;
 

@@ -21,14 +21,13 @@ constexpr std::uint32_t ToPc = 0;
 constexpr std::uint32_t ToHost = 1;
 
 // The order of precedence: what is applied later wins.
-void applyCommandLine(host::SessionHandle session, const CommandLine& line, const PcText& pcText) {
+void applyCommandLine(ZhstSession session, const CommandLine& line, const PcText& pcText) {
     apply(session, line.options, pcText);
     apply(session, line.sets, pcText);
 }
 
 // A settings file is run by the library, in the middle of a transfer; it must not undo what the command line says.
-bool runSettingsFile(host::SessionHandle session, const std::string& file, const CommandLine& line,
-                     const PcText& pcText) {
+bool runSettingsFile(ZhstSession session, const std::string& file, const CommandLine& line, const PcText& pcText) {
     try {
         apply(session, readSettingsFile(file), pcText);
         applyCommandLine(session, line, pcText);
@@ -66,8 +65,8 @@ void checkLength(const emulator::Clauses& clauses, const std::string& hostFiles)
                                     " characters; a request takes " + std::to_string(Longest));
 }
 
-host::SessionHandle openSession(const CommandLine& line, const PcText& pcText) {
-    const host::SessionHandle session = emulator::newSession();
+ZhstSession openSession(const CommandLine& line, const PcText& pcText) {
+    const ZhstSession session = emulator::newSession();
     apply(session, defaultSettings(), pcText);
     applyCommandLine(session, line, pcText);
     emulator::Clauses clauses = line.clauses;
@@ -75,15 +74,15 @@ host::SessionHandle openSession(const CommandLine& line, const PcText& pcText) {
          {&clauses.select, &clauses.where, &clauses.orderBy, &clauses.groupBy, &clauses.having, &clauses.join}) {
         *clause = pcText.toPc(*clause);
     }
-    checkLength(clauses, emulator::text(session, host::setting::HostFileName));
+    checkLength(clauses, emulator::text(session, zhst::setting::HostFileName));
     emulator::setClauses(session, clauses);
     process::setEnvironment("Z7X_HOST_CODE_PAGE",
-                            std::to_string(emulator::number(session, host::setting::HostCodePage)));
+                            std::to_string(emulator::number(session, zhst::setting::HostCodePage)));
     return session;
 }
 
 Tally runCommand(const TransferLibrary& library, ZXFRPCSCLIENT* client, const CommandLine& line, const PcText& pcText,
-                 TerminalUser& user, host::SessionHandle session) {
+                 TerminalUser& user, ZhstSession session) {
     user.onCancel([&] { library.cancelTransfer(client); });
     if (line.command == Command::Browse) {
         // A listing runs no settings file of its own.
@@ -93,7 +92,7 @@ Tally runCommand(const TransferLibrary& library, ZXFRPCSCLIENT* client, const Co
         return browse(library, line, pcText, user, session);
     }
     bool settingsRefused = false;
-    emulator::setSettingsFileReader([&](host::SessionHandle asking, const std::string& file) {
+    emulator::setSettingsFileReader([&](ZhstSession asking, const std::string& file) {
         settingsRefused = !runSettingsFile(asking, file, line, pcText);
         return !settingsRefused;
     });
@@ -115,7 +114,7 @@ int transfer(const CommandLine& line) {
     const fs::path folder = process::executableFolder();
     const PcText pcText(line.pc.ansiCodePage, codePageData(folder));
     setUpPc(line, folder);
-    const host::SessionHandle session = openSession(line, pcText);
+    const ZhstSession session = openSession(line, pcText);
     std::ofstream journalStream;
     if (!line.journalFile.empty()) {
         journalStream.open(line.journalFile, std::ios::binary);

@@ -7,9 +7,11 @@
 #include <optional>
 #include <stdexcept>
 
+#include "emulator/setting_rows.h"
+
 namespace {
 
-namespace setting = host::setting;
+namespace setting = zhst::setting;
 
 std::string_view trimmed(std::string_view text) {
     constexpr std::string_view blanks = " \t\r";
@@ -36,9 +38,9 @@ std::optional<std::int32_t> parseNumber(std::string_view text) {
     return hexadecimal ? static_cast<std::int32_t>(bits) : value;
 }
 
-const setting::Row& findSetting(std::string_view idOrName) {
+const emulator::SettingRow& findSetting(std::string_view idOrName) {
     const std::optional<std::int32_t> id = parseNumber(idOrName);
-    for (const setting::Row& row : setting::rows) {
+    for (const emulator::SettingRow& row : emulator::settingRows) {
         if (id ? row.number == static_cast<std::uint32_t>(*id) : sameName(row.name, idOrName)) return row;
     }
     throw std::invalid_argument("there is no setting " + std::string(idOrName));
@@ -51,9 +53,9 @@ Assignment parseAssignment(std::string_view text) {
     if (equals == std::string_view::npos) {
         throw std::invalid_argument("a setting is written ID=VALUE or NAME=VALUE, not " + std::string(text));
     }
-    const setting::Row& row = findSetting(trimmed(text.substr(0, equals)));
+    const emulator::SettingRow& row = findSetting(trimmed(text.substr(0, equals)));
     const std::string_view value = text.substr(equals + 1);
-    if (row.kind == setting::Kind::Text) return {row.number, std::string(value)};
+    if (row.kind == emulator::SettingKind::Text) return {row.number, std::string(value)};
     const std::optional<std::int32_t> number = parseNumber(trimmed(value));
     if (!number) throw std::invalid_argument(std::string(row.name) + " takes a number, not " + std::string(value));
     return {row.number, *number};
@@ -76,7 +78,7 @@ std::vector<Assignment> readSettingsFile(const std::string& file) {
     return assignments;
 }
 
-void apply(host::SessionHandle session, const std::vector<Assignment>& assignments, const PcText& pcText) {
+void apply(ZhstSession session, const std::vector<Assignment>& assignments, const PcText& pcText) {
     for (const Assignment& assignment : assignments) {
         if (const auto* number = std::get_if<std::int32_t>(&assignment.value)) {
             emulator::set(session, assignment.id, *number);

@@ -23,7 +23,7 @@ Assignment parseAssignment(std::string_view text);
 std::vector<Assignment> readSettingsFile(const std::string& file);
 
 // Throws std::invalid_argument for a text that the PC's code page cannot hold.
-void apply(host::SessionHandle session, const std::vector<Assignment>& assignments, const PcText& pcText);
+void apply(ZhstSession session, const std::vector<Assignment>& assignments, const PcText& pcText);
 
 // A session that needs no connection dialog and transfers with an English user's habits.
 std::vector<Assignment> defaultSettings();

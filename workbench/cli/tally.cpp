@@ -6,7 +6,7 @@
 
 namespace {
 
-namespace setting = host::setting;
+namespace setting = zhst::setting;
 
 constexpr std::int32_t ToScreen = 0;
 constexpr std::int32_t ToFile = 1;
@@ -17,7 +17,7 @@ constexpr std::int32_t Demonstration = 3;
 // The amounts of one transfer.
 class Amounts {
 public:
-    Amounts(const TerminalUser& user, const PcText& pcText, host::SessionHandle session, bool sending)
+    Amounts(const TerminalUser& user, const PcText& pcText, ZhstSession session, bool sending)
         : user_(user), pcText_(pcText), session_(session), sending_(sending) {
         records_ = user.watch().records(static_cast<std::uint32_t>(number(setting::JobRecordsReceived)));
     }
@@ -80,13 +80,13 @@ private:
 
     const TerminalUser& user_;
     const PcText& pcText_;
-    host::SessionHandle session_;
+    ZhstSession session_;
     bool sending_;
     std::uint64_t records_ = 0;
 };
 
 // For an ending that no message explains.
-std::string silentReason(const TransferWatch& watch, host::SessionHandle session) {
+std::string silentReason(const TransferWatch& watch, ZhstSession session) {
     if (watch.messages() > 0) return {};
     const auto code = static_cast<std::uint32_t>(emulator::number(session, setting::LastReturnCode));
     if (code == 0) return "; no reason was given";
@@ -101,7 +101,7 @@ std::string stopped(const std::string& how, const Amounts& amounts) {
 
 }  // namespace
 
-Tally transferTally(const TerminalUser& user, const PcText& pcText, host::SessionHandle session, bool sending) {
+Tally transferTally(const TerminalUser& user, const PcText& pcText, ZhstSession session, bool sending) {
     const Amounts amounts(user, pcText, session, sending);
     switch (user.watch().ending()) {
         case Ending::Complete:

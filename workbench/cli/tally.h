@@ -10,4 +10,4 @@ struct Tally {
     int exitStatus = ExitFailed;
 };
 
-Tally transferTally(const TerminalUser& user, const PcText& pcText, host::SessionHandle session, bool sending);
+Tally transferTally(const TerminalUser& user, const PcText& pcText, ZhstSession session, bool sending);

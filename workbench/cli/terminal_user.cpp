@@ -5,34 +5,34 @@
 #include <string_view>
 #include <utility>
 
+#include "Z7XFRPCS/dialogs.h"
+#include "Z7XFRPCS/text_display.h"
 #include "console.h"
-#include "host/dialogs.h"
-#include "host/text_display.h"
+#include "emulator/setting_rows.h"
 #include "process.h"
 
 namespace {
 
-namespace setting = host::setting;
+namespace setting = zhst::setting;
 using console::Stream;
-using host::ProgressCommand;
 
 constexpr std::int32_t Confirmed = 10;
 constexpr std::int32_t Declined = 2;
 constexpr std::int32_t AppendToFile = 2;
 
-const char* phaseWords(ProgressCommand command) {
+const char* phaseWords(ZhstProgressCommand command) {
     switch (command) {
-        case ProgressCommand::Starting:
+        case ZhstStarting:
             return "starting";
-        case ProgressCommand::CountingRecords:
+        case ZhstCountingRecords:
             return "counting the records";
-        case ProgressCommand::PreparingConversion:
+        case ZhstPreparingConversion:
             return "preparing the conversion";
-        case ProgressCommand::OptionsRequest:
+        case ZhstOptionsRequest:
             return "sending the options";
-        case ProgressCommand::TransferRequest:
+        case ZhstTransferRequest:
             return "sending the request";
-        case ProgressCommand::ReadingFields:
+        case ZhstReadingFields:
             return "reading the field descriptions";
         default:
             return nullptr;
@@ -66,7 +66,7 @@ std::string withoutControlsInLines(const std::string& text) {
 
 }  // namespace
 
-TerminalUser::TerminalUser(const CommandLine& line, const PcText& pcText, host::SessionHandle session)
+TerminalUser::TerminalUser(const CommandLine& line, const PcText& pcText, ZhstSession session)
     : line_(line),
       pcText_(pcText),
       session_(session),
@@ -111,7 +111,7 @@ std::int32_t TerminalUser::answer(const emulator::MessageBox& box) {
 
 bool TerminalUser::connectionDialog() {
     std::cerr << "z7xfer: the connection settings are not complete; empty are:";
-    for (const setting::Row& row : setting::rows) {
+    for (const emulator::SettingRow& row : emulator::settingRows) {
         const bool needed = row.number == setting::HostSystemName || row.number == setting::ConnectionParam248 ||
                             row.number == setting::ConnectionParam250 || row.number == setting::ConnectionParam512;
         if (needed && emulator::text(session_, row.number).empty()) std::cerr << ' ' << row.name;
@@ -181,7 +181,7 @@ bool TerminalUser::barWanted() const {
 }
 
 void TerminalUser::progressCreated(std::uint32_t direction, std::uint32_t) {
-    sending_ = direction == host::ToHost;
+    sending_ = direction == ZhstToHost;
     bar_ = ProgressBar(barWanted());
     bar_.begin();
     if (!sending_ && emulator::number(session_, setting::ExistingFileAction) == AppendToFile) {
@@ -194,11 +194,11 @@ void TerminalUser::progressCreated(std::uint32_t direction, std::uint32_t) {
 
 void TerminalUser::progressCommand(std::uint32_t command) {
     watch_.progressCommand(command);
-    if (const char* words = phaseWords(static_cast<ProgressCommand>(command))) bar_.phase(words);
+    if (const char* words = phaseWords(static_cast<ZhstProgressCommand>(command))) bar_.phase(words);
 }
 
 void TerminalUser::progressTotal(std::uint32_t total, std::uint32_t unit) {
-    bar_.total(total, unit == host::Bytes ? ProgressBar::Unit::Bytes : ProgressBar::Unit::Records);
+    bar_.total(total, unit == ZhstBytes ? ProgressBar::Unit::Bytes : ProgressBar::Unit::Records);
 }
 
 void TerminalUser::progressHidden(bool hidden) { hidden ? bar_.hide() : bar_.show(); }
@@ -216,7 +216,7 @@ void TerminalUser::displayBegin(std::int32_t) { table_.clear(); }
 
 void TerminalUser::displayColumn(std::uint32_t index, const std::string& title, std::uint32_t width,
                                  std::uint32_t alignment) {
-    table_.addColumn(index, pcText_.toTerminal(title), width, alignment == host::AlignRight);
+    table_.addColumn(index, pcText_.toTerminal(title), width, alignment == ZhstAlignRight);
 }
 
 void TerminalUser::displayRow() {

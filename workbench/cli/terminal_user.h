@@ -15,7 +15,7 @@
 // output, a progress bar where both may be seen, Ctrl-C for the cancel button.
 class TerminalUser final : public emulator::UserInterface {
 public:
-    TerminalUser(const CommandLine& line, const PcText& pcText, host::SessionHandle session);
+    TerminalUser(const CommandLine& line, const PcText& pcText, ZhstSession session);
 
     // What Ctrl-C does, once, from inside a pump.
     void onCancel(std::function<void()> cancel) { cancel_ = std::move(cancel); }
@@ -56,7 +56,7 @@ private:
 
     const CommandLine& line_;
     const PcText& pcText_;
-    host::SessionHandle session_;
+    ZhstSession session_;
     std::function<void()> cancel_;
     TransferWatch watch_;
     ProgressBar bar_;

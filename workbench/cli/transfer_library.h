@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "client/exports.h"
+#include "Z7XFRPCS/exports.h"
 
 // The transfer library as a program sees it: its 14 exports, and nothing else.
 struct TransferLibrary {

@@ -2,11 +2,9 @@
 
 #include <algorithm>
 
-#include "host/dialogs.h"
+#include "Z7XFRPCS/dialogs.h"
 
 namespace {
-
-using host::ProgressCommand;
 
 // The result record of the monitor store: the function asked for, then the return code, lowest byte first.
 constexpr std::size_t ResultHeader = 13;
@@ -53,17 +51,17 @@ void TransferWatch::storeWritten(std::string_view code, std::string_view value) 
 }
 
 void TransferWatch::progressCommand(std::uint32_t command) {
-    switch (static_cast<ProgressCommand>(command)) {
-        case ProgressCommand::DataBegins:
+    switch (static_cast<ZhstProgressCommand>(command)) {
+        case ZhstDataBegins:
             dataBegun_ = true;
             break;
-        case ProgressCommand::AllDataTransferred:
+        case ZhstAllDataTransferred:
             dataEnded_ = true;
             break;
-        case ProgressCommand::Ended:
+        case ZhstEnded:
             dialogEnded_ = true;
             break;
-        case ProgressCommand::SimulationCancelled:
+        case ZhstSimulationCancelled:
             simulationCancelled_ = true;
             break;
         default:

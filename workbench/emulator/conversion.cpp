@@ -5,11 +5,11 @@
 #include <map>
 #include <tuple>
 
+#include "Z7XFRPCS/conversion.h"
+#include "Z7XFRPCS/settings.h"
 #include "emulator/code_pages.h"
 #include "emulator/faults.h"
 #include "emulator/journal.h"
-#include "host/conversion.h"
-#include "host/setting_ids.h"
 
 namespace emulator {
 namespace {
@@ -29,7 +29,7 @@ void makeTables(ConversionTables& tables, std::int32_t hostPage) {
 std::uint32_t convert(Session* session, std::uint32_t direction, std::uint32_t length, void* buffer) {
     const ConversionTables* tables = session && !faults().failConversion ? conversionTables(*session) : nullptr;
     if (!tables) return 1;
-    const auto& table = direction == host::HostToPc ? tables->hostToPc : tables->pcToHost;
+    const auto& table = direction == ZhstHostToPc ? tables->hostToPc : tables->pcToHost;
     auto* bytes = static_cast<std::uint8_t*>(buffer);
     for (std::uint32_t i = 0; i < length; ++i) bytes[i] = table[bytes[i]];
     return 0;
@@ -54,7 +54,7 @@ std::uint32_t ZHST_CALL isDoubleByte(void*, std::int32_t number) {
 
 const ConversionTables* conversionTables(Session& session) {
     ConversionTables& tables = session.conversion;
-    const std::int32_t hostPage = session.numbers[host::setting::HostCodePage];
+    const std::int32_t hostPage = session.numbers[zhst::setting::HostCodePage];
     if (!tables.made || tables.hostPage != hostPage || tables.pcNumber != pcSetupNumber()) [[unlikely]]
         makeTables(tables, hostPage);
     return tables.usable ? &tables : nullptr;
@@ -71,14 +71,14 @@ void* const* codePageServicesTable() {
 using namespace emulator;
 using journalled::Call;
 
-std::uint32_t ZHST_CALL zhstConvertHostText(host::ConverterHandle converter, std::uint32_t direction,
-                                            std::uint32_t length, void* buffer) {
+std::uint32_t ZHST_CALL zhstConvertHostText(ZhstConverter converter, std::uint32_t direction, std::uint32_t length,
+                                            void* buffer) {
     const Call call("ConvertHostText", converter, direction, length, journalled::Bytes{buffer, length});
     return call.result(convert(findSession(converter, SessionPart::Converter), direction, length, buffer));
 }
 
-void ZHST_CALL zhstLoadCodeTable(host::SessionHandle session, void* table, std::uint32_t kind,
-                                 std::int32_t hostCodePage, std::uint32_t size) {
+void ZHST_CALL zhstLoadCodeTable(ZhstSession session, void* table, std::uint32_t kind, std::int32_t hostCodePage,
+                                 std::uint32_t size) {
     Call("LoadCodeTable", session, journalled::Address{table}, kind, hostCodePage, size);
     const codepages::CodePage* host = emulator::hostCodePage(hostCodePage);
     const codepages::CodePage* pc = ansiPage();

@@ -3,11 +3,11 @@
 #include <map>
 #include <string>
 
+#include "Z7XFRPCS/dialogs.h"
 #include "emulator/faults.h"
 #include "emulator/journal.h"
 #include "emulator/sessions.h"
 #include "emulator/user_interface.h"
-#include "host/dialogs.h"
 
 namespace emulator {
 namespace {
@@ -16,22 +16,22 @@ struct ProgressDialog {
     std::string pcName, hostName;
 };
 
-std::map<host::ProgressDialogHandle, ProgressDialog> dialogs;
-host::ProgressDialogHandle lastHandle = 0;
+std::map<ZhstProgressDialog, ProgressDialog> dialogs;
+ZhstProgressDialog lastHandle = 0;
 
-ProgressDialog* find(host::ProgressDialogHandle handle) {
+ProgressDialog* find(ZhstProgressDialog handle) {
     const auto found = dialogs.find(handle);
     return found == dialogs.end() ? nullptr : &found->second;
 }
 
-host::ProgressDialogHandle create(std::uint32_t direction, std::uint32_t mode) {
+ZhstProgressDialog create(std::uint32_t direction, std::uint32_t mode) {
     if (faults().refuseProgressDialog) return 0;
     dialogs.emplace(++lastHandle, ProgressDialog{});
     userInterface().progressCreated(direction, mode);
     return lastHandle;
 }
 
-void setHidden(const char* name, host::ProgressDialogHandle dialog, bool hidden) {
+void setHidden(const char* name, ZhstProgressDialog dialog, bool hidden) {
     const journalled::Call call(name, dialog);
     if (find(dialog)) userInterface().progressHidden(hidden);
 }
@@ -50,25 +50,25 @@ void resetDialogs() {
 using namespace emulator;
 using journalled::Call;
 
-host::ProgressDialogHandle ZHST_CALL zhstProgressDialogCreate(host::SessionHandle session, std::uint32_t direction,
-                                                              std::uint32_t mode, std::uint32_t reserved) {
+ZhstProgressDialog ZHST_CALL zhstProgressDialogCreate(ZhstSession session, std::uint32_t direction, std::uint32_t mode,
+                                                      std::uint32_t reserved) {
     const Call call("ProgressDialogCreate", session, direction, mode, reserved);
     return call.result(create(direction, mode));
 }
 
-void ZHST_CALL zhstProgressDialogCommand(host::ProgressDialogHandle dialog, std::uint32_t command) {
+void ZHST_CALL zhstProgressDialogCommand(ZhstProgressDialog dialog, std::uint32_t command) {
     const Call call("ProgressDialogCommand", dialog, command);
     if (!find(dialog)) return;
     userInterface().progressCommand(command);
-    if (command == static_cast<std::uint32_t>(host::ProgressCommand::ProcessMessages)) userInterface().pump();
+    if (command == ZhstProcessMessages) userInterface().pump();
 }
 
-void ZHST_CALL zhstProgressDialogDestroy(host::ProgressDialogHandle dialog) {
+void ZHST_CALL zhstProgressDialogDestroy(ZhstProgressDialog dialog) {
     const Call call("ProgressDialogDestroy", dialog);
     if (dialogs.erase(dialog) > 0) userInterface().progressDestroyed();
 }
 
-void ZHST_CALL zhstProgressDialogSetPcName(host::ProgressDialogHandle dialog, const char* text) {
+void ZHST_CALL zhstProgressDialogSetPcName(ZhstProgressDialog dialog, const char* text) {
     const Call call("ProgressDialogSetPcName", dialog, text);
     ProgressDialog* found = find(dialog);
     if (!found) return;
@@ -76,7 +76,7 @@ void ZHST_CALL zhstProgressDialogSetPcName(host::ProgressDialogHandle dialog, co
     userInterface().progressNames(found->pcName, found->hostName);
 }
 
-void ZHST_CALL zhstProgressDialogSetHostName(host::ProgressDialogHandle dialog, const char* text) {
+void ZHST_CALL zhstProgressDialogSetHostName(ZhstProgressDialog dialog, const char* text) {
     const Call call("ProgressDialogSetHostName", dialog, text);
     ProgressDialog* found = find(dialog);
     if (!found) return;
@@ -84,21 +84,16 @@ void ZHST_CALL zhstProgressDialogSetHostName(host::ProgressDialogHandle dialog, 
     userInterface().progressNames(found->pcName, found->hostName);
 }
 
-void ZHST_CALL zhstProgressDialogSetTotal(host::ProgressDialogHandle dialog, std::uint32_t total, std::uint32_t unit) {
+void ZHST_CALL zhstProgressDialogSetTotal(ZhstProgressDialog dialog, std::uint32_t total, std::uint32_t unit) {
     const Call call("ProgressDialogSetTotal", dialog, total, unit);
     if (find(dialog)) userInterface().progressTotal(total, unit);
 }
 
-void ZHST_CALL zhstProgressDialogHide(host::ProgressDialogHandle dialog) {
-    setHidden("ProgressDialogHide", dialog, true);
-}
+void ZHST_CALL zhstProgressDialogHide(ZhstProgressDialog dialog) { setHidden("ProgressDialogHide", dialog, true); }
 
-void ZHST_CALL zhstProgressDialogShow(host::ProgressDialogHandle dialog) {
-    setHidden("ProgressDialogShow", dialog, false);
-}
+void ZHST_CALL zhstProgressDialogShow(ZhstProgressDialog dialog) { setHidden("ProgressDialogShow", dialog, false); }
 
-std::uint32_t ZHST_CALL zhstConnectionDialog(host::SessionHandle session, host::ModuleHandle module,
-                                             host::WindowHandle owner) {
+std::uint32_t ZHST_CALL zhstConnectionDialog(ZhstSession session, ZhstModule module, ZhstWindow owner) {
     const Call call("ConnectionDialog", session, journalled::Address{module}, owner);
     return call.result(userInterface().connectionDialog() ? 1u : 0u);
 }

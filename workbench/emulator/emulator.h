@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "host/objects.h"
-#include "host/setting_ids.h"
+#include "Z7XFRPCS/objects.h"
+#include "Z7XFRPCS/settings.h"
 
 // The emulator stand-in, seen from the program that plays with it. The services themselves are the functions of
 // src/host; this page is how a program or a test sets up what they answer and sees what was asked of them. One state
@@ -104,31 +104,31 @@ void reset();
 
 // A session with all settings 0 and empty but HostCodePage 37. The last digit of a handle says which part of the
 // session it is: 1 session, 2 application, 3 window, 4 converter, 5 text services, 7 settings.
-host::SessionHandle newSession();
+ZhstSession newSession();
 
 // By the user: watchers are called, with the old value, as in the emulator. By a service call they are called too, and
 // also when the value stays the same. Text settings have no watchers.
-void set(host::SessionHandle session, std::uint32_t id, std::int32_t value);
-void set(host::SessionHandle session, std::uint32_t id, const std::string& value);
-std::int32_t number(host::SessionHandle session, std::uint32_t id);
-std::string text(host::SessionHandle session, std::uint32_t id);
+void set(ZhstSession session, std::uint32_t id, std::int32_t value);
+void set(ZhstSession session, std::uint32_t id, const std::string& value);
+std::int32_t number(ZhstSession session, std::uint32_t id);
+std::string text(ZhstSession session, std::uint32_t id);
 
 // What entry 91 of the session services table answers. Absent: the entry is null.
 struct Clauses {
     std::string select, where, orderBy, groupBy, having, join;
     bool absent = false;
 };
-void setClauses(host::SessionHandle session, const Clauses& clauses);
+void setClauses(ZhstSession session, const Clauses& clauses);
 
 // Messages that IsMessageEnabled rejects. Id 0: messages in general, and so every one.
 void disableMessage(std::uint32_t id);
 
 // Application command 67 (a settings file): called with the text; false makes CheckCommandFailed report a failure.
 // Without a reader the command fails.
-void setSettingsFileReader(std::function<bool(host::SessionHandle, const std::string&)> reader);
+void setSettingsFileReader(std::function<bool(ZhstSession, const std::string&)> reader);
 
 // Runs the clean-up call-back registered in `slot`, as the emulator does when a session ends.
-void runCleanup(host::SessionHandle session, std::uint32_t slot);
+void runCleanup(ZhstSession session, std::uint32_t slot);
 
 // A path of the operating system's for a PC file name in the PC's ANSI code page (either separator, optional drive
 // letter, any case, relative to the directory that the path services were given).

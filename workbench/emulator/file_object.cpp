@@ -3,10 +3,10 @@
 #include <array>
 #include <cstring>
 
+#include "Z7XFRPCS/objects.h"
 #include "emulator/faults.h"
 #include "emulator/journal.h"
 #include "emulator/pc_file.h"
-#include "host/objects.h"
 
 // The slots of the file object.
 
@@ -135,11 +135,11 @@ std::array<void*, SlotCount> makeSlots() {
     return slots;
 }
 
-host::FileObject* create(host::SessionHandle session) {
+ZhstFileObject* create(ZhstSession session) {
     static const std::array<void*, SlotCount> slots = makeSlots();
     if (faults().refuseFileObject) return nullptr;
     ++liveObjects;
-    return reinterpret_cast<host::FileObject*>(new FileObject{slots.data(), PcFile(session)});
+    return reinterpret_cast<ZhstFileObject*>(new FileObject{slots.data(), PcFile(session)});
 }
 
 }  // namespace
@@ -149,8 +149,8 @@ void resetFileObjects() { liveObjects = 0; }
 
 }  // namespace emulator
 
-host::FileObject* ZHST_CALL zhstCreateFileObject(host::SessionHandle session) {
-    host::FileObject* object = emulator::create(session);
+ZhstFileObject* ZHST_CALL zhstCreateFileObject(ZhstSession session) {
+    ZhstFileObject* object = emulator::create(session);
     emulator::journalled::Call("CreateFileObject", session).result(emulator::journalled::Address{object});
     return object;
 }

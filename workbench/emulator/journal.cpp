@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "emulator/emulator.h"
+#include "emulator/setting_rows.h"
 
 namespace emulator {
 namespace {
@@ -17,7 +18,7 @@ std::uint64_t journalNumber = 0;
 const char* settingName(std::uint32_t id) {
     static const auto* const names = [] {
         auto* made = new std::unordered_map<std::uint32_t, const char*>;
-        for (const auto& row : host::setting::rows) made->emplace(row.number, row.name);
+        for (const auto& row : settingRows) made->emplace(row.number, row.name);
         return made;
     }();
     const auto found = names->find(id);

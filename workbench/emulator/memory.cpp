@@ -6,9 +6,9 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "Z7XFRPCS/runtime.h"
 #include "emulator/emulator.h"
 #include "emulator/faults.h"
-#include "host/runtime.h"
 
 #if defined(__has_feature)
 #if __has_feature(address_sanitizer) && !defined(__SANITIZE_ADDRESS__)

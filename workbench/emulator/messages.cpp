@@ -6,13 +6,13 @@
 #include <string>
 #include <vector>
 
+#include "Z7XFRPCS/session.h"
 #include "emulator/catalogue.h"
 #include "emulator/inserts.h"
 #include "emulator/journal.h"
 #include "emulator/sessions.h"
 #include "emulator/text_records.h"
 #include "emulator/user_interface.h"
-#include "host/session.h"
 
 namespace emulator {
 namespace {
@@ -41,7 +41,7 @@ Insert textInsert(const char* text) { return {false, 0, text}; }
 Insert numberInsert(std::uint32_t number) { return {true, number, nullptr}; }
 
 // The catalogue says what the place holds; a place it does not know is a number.
-Insert insertAt(const catalogue::Message& message, std::size_t place, host::MessageInsert value) {
+Insert insertAt(const catalogue::Message& message, std::size_t place, ZhstInsert value) {
     if (place < message.inserts.size() && message.inserts[place] == 't')
         return textInsert(reinterpret_cast<const char*>(value));  // NOLINT(performance-no-int-to-ptr): as it travels
     return numberInsert(static_cast<std::uint32_t>(value));
@@ -54,7 +54,7 @@ std::string withoutTrailingBlanks(std::string text) {
 
 // What all message boxes are given in front of their inserts.
 struct BoxHead {
-    host::WindowHandle owner;
+    ZhstWindow owner;
     std::uint32_t id, flags, helpId;
 };
 
@@ -86,7 +86,7 @@ void disableMessage(std::uint32_t id) { disabled.insert(id); }
 
 bool messageEnabled(std::uint32_t id) { return !disabled.contains(0) && !disabled.contains(id); }
 
-MessageBox readyTextBox(host::SessionHandle session) {
+MessageBox readyTextBox(ZhstSession session) {
     MessageBox box;
     if (const Session* found = findSession(session, SessionPart::Session))
         box.owner = found->handle(SessionPart::Window);
@@ -99,11 +99,11 @@ void resetMessages() { disabled.clear(); }
 
 using namespace emulator;
 
-std::uint32_t ZHST_CALL zhstIsMessageEnabled(host::SettingsHandle settings, std::uint32_t id) {
+std::uint32_t ZHST_CALL zhstIsMessageEnabled(ZhstSettings settings, std::uint32_t id) {
     return Call("IsMessageEnabled", settings, id).result(messageEnabled(id) ? 1u : 0u);
 }
 
-void ZHST_CALL zhstLoadMessageText(host::SessionHandle session, std::uint32_t table, std::uint32_t index, char* buffer,
+void ZHST_CALL zhstLoadMessageText(ZhstSession session, std::uint32_t table, std::uint32_t index, char* buffer,
                                    std::uint32_t size) {
     if (size > 0) {
         const std::string_view text = catalogue::findText(table, index).text.substr(0, size - 1);
@@ -117,33 +117,31 @@ std::uint32_t ZHST_CALL zhstMessageId(std::uint32_t table, std::uint32_t index) 
     return Call("MessageId", table, index).result(catalogue::messageId(table, index));
 }
 
-std::int32_t ZHST_CALL zhstShowMessage(host::SessionHandle session, host::WindowHandle owner, std::uint32_t id,
-                                       std::uint32_t flags, std::uint32_t one, std::uint32_t helpId) {
+std::int32_t ZHST_CALL zhstShowMessage(ZhstSession session, ZhstWindow owner, std::uint32_t id, std::uint32_t flags,
+                                       std::uint32_t one, std::uint32_t helpId) {
     const Call call("ShowMessage", session, owner, id, flags, one, helpId);
     return call.result(show({owner, id, flags, helpId}, {}));
 }
 
-std::int32_t ZHST_CALL zhstShowMessage1(host::SessionHandle session, host::WindowHandle owner, std::uint32_t id,
-                                        std::uint32_t flags, std::uint32_t one, std::uint32_t helpId,
-                                        const char* insert1) {
+std::int32_t ZHST_CALL zhstShowMessage1(ZhstSession session, ZhstWindow owner, std::uint32_t id, std::uint32_t flags,
+                                        std::uint32_t one, std::uint32_t helpId, const char* insert1) {
     const Insert inserts[] = {textInsert(insert1)};
     const Call call("ShowMessage1", session, owner, id, flags, one, helpId, inserts[0]);
     return call.result(show({owner, id, flags, helpId}, inserts));
 }
 
-std::int32_t ZHST_CALL zhstShowMessage2(host::SessionHandle session, host::WindowHandle owner, std::uint32_t id,
-                                        std::uint32_t flags, std::uint32_t one, std::uint32_t helpId,
-                                        host::MessageInsert insert1, host::MessageInsert insert2) {
+std::int32_t ZHST_CALL zhstShowMessage2(ZhstSession session, ZhstWindow owner, std::uint32_t id, std::uint32_t flags,
+                                        std::uint32_t one, std::uint32_t helpId, ZhstInsert insert1,
+                                        ZhstInsert insert2) {
     const catalogue::Message message = catalogue::findMessage(id);
     const Insert inserts[] = {insertAt(message, 0, insert1), insertAt(message, 1, insert2)};
     const Call call("ShowMessage2", session, owner, id, flags, one, helpId, inserts[0], inserts[1]);
     return call.result(show({owner, id, flags, helpId}, inserts));
 }
 
-std::int32_t ZHST_CALL zhstShowMessage3(host::SessionHandle session, host::WindowHandle owner, std::uint32_t id,
-                                        std::uint32_t flags, std::uint32_t one, std::uint32_t helpId,
-                                        host::MessageInsert insert1, host::MessageInsert insert2,
-                                        host::MessageInsert insert3) {
+std::int32_t ZHST_CALL zhstShowMessage3(ZhstSession session, ZhstWindow owner, std::uint32_t id, std::uint32_t flags,
+                                        std::uint32_t one, std::uint32_t helpId, ZhstInsert insert1, ZhstInsert insert2,
+                                        ZhstInsert insert3) {
     const catalogue::Message message = catalogue::findMessage(id);
     const Insert inserts[] = {insertAt(message, 0, insert1), insertAt(message, 1, insert2),
                               insertAt(message, 2, insert3)};
@@ -151,29 +149,28 @@ std::int32_t ZHST_CALL zhstShowMessage3(host::SessionHandle session, host::Windo
     return call.result(show({owner, id, flags, helpId}, inserts));
 }
 
-std::int32_t ZHST_CALL zhstShowMessageCode(host::SessionHandle session, host::WindowHandle owner, std::uint32_t id,
-                                           std::uint32_t flags, std::uint32_t one, std::uint32_t helpId,
-                                           std::uint32_t insert1, const char* insert2, const char* insert3) {
+std::int32_t ZHST_CALL zhstShowMessageCode(ZhstSession session, ZhstWindow owner, std::uint32_t id, std::uint32_t flags,
+                                           std::uint32_t one, std::uint32_t helpId, std::uint32_t insert1,
+                                           const char* insert2, const char* insert3) {
     const Insert inserts[] = {numberInsert(insert1), textInsert(insert2), textInsert(insert3)};
     const Call call("ShowMessageCode", session, owner, id, flags, one, helpId, inserts[0], inserts[1], inserts[2]);
     return call.result(show({owner, id, flags, helpId}, inserts));
 }
 
-std::int32_t ZHST_CALL zhstShowMessageText(host::SessionHandle session, host::WindowHandle owner, std::uint32_t flags,
+std::int32_t ZHST_CALL zhstShowMessageText(ZhstSession session, ZhstWindow owner, std::uint32_t flags,
                                            std::uint32_t one, std::uint32_t helpId, const char* text) {
     const Call call("ShowMessageText", session, owner, flags, one, helpId, text);
     return call.result(showReady({owner, 0, flags, helpId}, false, text));
 }
 
-std::int32_t ZHST_CALL zhstMessageBox_scroll(host::SessionHandle session, host::WindowHandle owner, std::uint32_t id,
+std::int32_t ZHST_CALL zhstMessageBox_scroll(ZhstSession session, ZhstWindow owner, std::uint32_t id,
                                              std::uint32_t flags, std::uint32_t one, std::uint32_t helpId,
                                              const char* text) {
     const Call call("zhstMessageBox_scroll", session, owner, id, flags, one, helpId, text);
     return call.result(showReady({owner, id, flags, helpId}, true, text));
 }
 
-void ZHST_CALL zhstFormatStringSet(host::TextRecord* text, const host::TextRecord* const* inserts,
-                                   std::uint32_t count) {
+void ZHST_CALL zhstFormatStringSet(ZhstTextRecord* text, const ZhstTextRecord* const* inserts, std::uint32_t count) {
     if (!text) return;
     std::vector<std::string> values;
     for (std::uint32_t i = 0; inserts && i < count; ++i)

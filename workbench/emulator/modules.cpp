@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "Z7XFRPCS/runtime.h"
 #include "emulator/emulator.h"
 #include "emulator/journal.h"
 #include "emulator/platform_side.h"
-#include "host/runtime.h"
 
 namespace emulator {
 namespace {
@@ -40,7 +40,7 @@ std::optional<std::string> findInFolder(const std::string& folder, const std::st
     return std::nullopt;
 }
 
-std::uint32_t load(const char* name, host::ModuleHandle* module) {
+std::uint32_t load(const char* name, ZhstModule* module) {
     const std::optional<std::string> path = findLibrary(name);
     if (!path) return FileNotFound;
     const std::uint32_t error = openModule(files::absolute(*path), module);
@@ -74,14 +74,14 @@ void resetModules() {
 
 using namespace emulator;
 
-std::uint32_t ZHST_CALL zhstLoadModule(const char* fileName, std::uint32_t search, host::ModuleHandle* module) {
-    host::ModuleHandle loaded = nullptr;
+std::uint32_t ZHST_CALL zhstLoadModule(const char* fileName, std::uint32_t search, ZhstModule* module) {
+    ZhstModule loaded = nullptr;
     const std::uint32_t result = load(fileName, &loaded);
     if (module) *module = loaded;
     return journalled::Call("LoadModule", fileName, search, journalled::Address{loaded}).result(result);
 }
 
-void ZHST_CALL zhstFreeModule(host::ModuleHandle module) {
+void ZHST_CALL zhstFreeModule(ZhstModule module) {
     journalled::Call("FreeModule", journalled::Address{module});
     if (!module) return;
     closeModule(module);

@@ -6,12 +6,12 @@
 #include <filesystem>
 #include <utility>
 
+#include "Z7XFRPCS/runtime.h"
 #include "emulator/emulator.h"
 #include "emulator/faults.h"
 #include "emulator/messages.h"
 #include "emulator/platform_side.h"
 #include "emulator/user_interface.h"
-#include "host/runtime.h"
 
 namespace emulator {
 namespace {
@@ -140,12 +140,12 @@ void* PcFile::readWhole() {
     if (!failure_.empty()) return nullptr;
     std::FILE* stream = openNative(path(), "rb");
     if (!stream) return fail("opened", systemReason(errno)), nullptr;
-    void* block = host::AllocateObject(length, 0);
+    void* block = zhstAllocateObject(length, 0);
     if (!block) {
         fail("read", systemReason(ENOMEM));
     } else if (std::fread(block, 1, length, stream) != length) {
         fail("read", systemReason(std::ferror(stream) ? errno : EIO));
-        host::FreeObject(std::exchange(block, nullptr));
+        zhstFreeObject(std::exchange(block, nullptr));
     }
     std::fclose(stream);
     return block;

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "host/types.h"
+#include "Z7XFRPCS/types.h"
 
 namespace emulator {
 
@@ -15,7 +15,7 @@ namespace emulator {
 // their own (the size, reading the whole file).
 class PcFile {
 public:
-    explicit PcFile(host::SessionHandle session) : session_(session) {}
+    explicit PcFile(ZhstSession session) : session_(session) {}
     ~PcFile() { close(); }
     PcFile(const PcFile&) = delete;
     PcFile& operator=(const PcFile&) = delete;
@@ -50,7 +50,7 @@ private:
     void tell();
     std::string path() const;
 
-    host::SessionHandle session_;
+    ZhstSession session_;
     std::string name_;
     std::uint32_t existingFileAction_ = 0;
     bool appendOffered_ = true;

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "host/types.h"
+#include "Z7XFRPCS/types.h"
 
 // What the emulator asks of the platform folder beside it.
 namespace emulator {
@@ -20,8 +20,8 @@ void connectDesktop();
 void resetPc();
 
 // Loads the library of that whole path. Returns 0, or the PC's error number with a null module.
-std::uint32_t openModule(const std::filesystem::path& path, host::ModuleHandle* module);
-void closeModule(host::ModuleHandle module);
+std::uint32_t openModule(const std::filesystem::path& path, ZhstModule* module);
+void closeModule(ZhstModule module);
 
 // Opens a path that nativePath gave, as std::fopen does.
 std::FILE* openNative(const std::string& nativePath, const char* mode);

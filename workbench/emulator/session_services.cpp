@@ -1,3 +1,5 @@
+#include "Z7XFRPCS/objects.h"
+#include "Z7XFRPCS/settings.h"
 #include "codepages/codepages.h"
 #include "emulator/conversion.h"
 #include "emulator/journal.h"
@@ -5,8 +7,6 @@
 #include "emulator/sessions.h"
 #include "emulator/settings.h"
 #include "emulator/text_records.h"
-#include "host/objects.h"
-#include "host/setting_ids.h"
 
 // The session services table and the session's objects.
 
@@ -15,16 +15,16 @@ namespace {
 
 constexpr std::int32_t TextServicesPage = 43;
 
-void ZHST_CALL getTransferClauses(host::SessionHandle handle, host::TextRecord* select, host::TextRecord* where,
-                                  host::TextRecord* orderBy, host::TextRecord* groupBy, host::TextRecord* having,
-                                  host::TextRecord* join) {
+void ZHST_CALL getTransferClauses(ZhstSession handle, ZhstTextRecord* select, ZhstTextRecord* where,
+                                  ZhstTextRecord* orderBy, ZhstTextRecord* groupBy, ZhstTextRecord* having,
+                                  ZhstTextRecord* join) {
     using journalled::Address;
     journalled::Call("SessionServices.getTransferClauses", handle, Address{select}, Address{where}, Address{orderBy},
                      Address{groupBy}, Address{having}, Address{join});
     const Session* session = findSession(handle, SessionPart::Session);
     if (!session) return;
     const Clauses& clauses = session->clauses;
-    const auto give = [](host::TextRecord* record, const std::string& text) {
+    const auto give = [](ZhstTextRecord* record, const std::string& text) {
         if (record) storeText(*record, text);
     };
     give(select, clauses.select);
@@ -47,7 +47,7 @@ std::uint32_t convertByTable(const std::array<std::uint8_t, 256>& table, const v
 std::uint32_t toPc(Session* session, const void* source, std::uint32_t length, void* destination,
                    std::uint32_t capacity) {
     if (!session) return 0;
-    if (settingNumber(*session, host::setting::HostCodePage) == TextServicesPage) {
+    if (settingNumber(*session, zhst::setting::HostCodePage) == TextServicesPage) {
         const std::string_view text(static_cast<const char*>(source), length);
         return conversionTables(*session) ? codepages::page43ToPc(text, static_cast<char*>(destination), capacity) : 0;
     }
@@ -58,7 +58,7 @@ std::uint32_t toPc(Session* session, const void* source, std::uint32_t length, v
 std::uint32_t toHost(Session* session, const void* source, std::uint32_t length, void* destination,
                      std::uint32_t capacity) {
     if (!session) return 0;
-    if (settingNumber(*session, host::setting::HostCodePage) == TextServicesPage) {
+    if (settingNumber(*session, zhst::setting::HostCodePage) == TextServicesPage) {
         const std::string_view text(static_cast<const char*>(source), length);
         return conversionTables(*session) ? codepages::page43ToHost(text, static_cast<char*>(destination), capacity)
                                           : 0;
@@ -67,21 +67,21 @@ std::uint32_t toHost(Session* session, const void* source, std::uint32_t length,
     return tables ? convertByTable(tables->pcToHost, source, length, destination, capacity) : 0;
 }
 
-std::uint32_t ZHST_CALL hostTextToPc(host::TextServicesHandle services, const void* source, std::uint32_t length,
+std::uint32_t ZHST_CALL hostTextToPc(ZhstTextServices services, const void* source, std::uint32_t length,
                                      void* destination, std::uint32_t capacity, std::uint32_t two) {
     const journalled::Call call("SessionServices.hostTextToPc", services, journalled::Bytes{source, length}, length,
                                 journalled::Address{destination}, capacity, two);
     return call.result(toPc(findSession(services, SessionPart::TextServices), source, length, destination, capacity));
 }
 
-std::uint32_t ZHST_CALL pcTextToHost(host::TextServicesHandle services, const void* source, std::uint32_t length,
+std::uint32_t ZHST_CALL pcTextToHost(ZhstTextServices services, const void* source, std::uint32_t length,
                                      void* destination, std::uint32_t capacity, std::uint32_t one, std::uint32_t two) {
     const journalled::Call call("SessionServices.pcTextToHost", services, journalled::Bytes{source, length}, length,
                                 journalled::Address{destination}, capacity, one, two);
     return call.result(toHost(findSession(services, SessionPart::TextServices), source, length, destination, capacity));
 }
 
-// The layout of host::SessionServices, which gives no way to fill one.
+// The layout of ZhstSessionServices, which gives no way to fill one.
 struct ServicesTable {
     void* entries[92] = {};
 
@@ -91,22 +91,22 @@ struct ServicesTable {
         if (clauses) entries[91] = reinterpret_cast<void*>(&getTransferClauses);
     }
 };
-static_assert(sizeof(ServicesTable) == sizeof(host::SessionServices));
+static_assert(sizeof(ServicesTable) == sizeof(ZhstSessionServices));
 
-const host::SessionServices* servicesOf(const Session* session) {
+const ZhstSessionServices* servicesOf(const Session* session) {
     static const ServicesTable complete(true);
     static const ServicesTable withoutClauses(false);
     if (!session) return nullptr;
     const ServicesTable& table = session->clauses.absent ? withoutClauses : complete;
-    return reinterpret_cast<const host::SessionServices*>(&table);
+    return reinterpret_cast<const ZhstSessionServices*>(&table);
 }
 
 void* objectOf(Session* session, std::uint32_t kind) {
     if (!session) return nullptr;
     session->pathServices.operations = pathServicesTable();
     session->codePageServices.operations = codePageServicesTable();
-    if (kind == host::PathServicesKind) return &session->pathServices;
-    if (kind == host::CodePageServicesKind) return &session->codePageServices;
+    if (kind == ZhstPathServicesKind) return &session->pathServices;
+    if (kind == ZhstCodePageServicesKind) return &session->codePageServices;
     return nullptr;
 }
 
@@ -115,13 +115,13 @@ void* objectOf(Session* session, std::uint32_t kind) {
 
 using namespace emulator;
 
-const host::SessionServices* ZHST_CALL zhstGetSessionServices(host::SessionHandle session) {
+const ZhstSessionServices* ZHST_CALL zhstGetSessionServices(ZhstSession session) {
     const auto* services = servicesOf(findSession(session, SessionPart::Session));
     journalled::Call("GetSessionServices", session).result(journalled::Address{services});
     return services;
 }
 
-void* ZHST_CALL zhstGetSessionObject(host::SessionHandle session, std::uint32_t kind) {
+void* ZHST_CALL zhstGetSessionObject(ZhstSession session, std::uint32_t kind) {
     void* object = objectOf(findSession(session, SessionPart::Session), kind);
     journalled::Call("GetSessionObject", session, kind).result(journalled::Address{object});
     return object;

@@ -2,10 +2,10 @@
 
 #include <memory>
 
+#include "Z7XFRPCS/conversion.h"
+#include "Z7XFRPCS/settings.h"
 #include "emulator/journal.h"
 #include "emulator/platform_side.h"
-#include "host/conversion.h"
-#include "host/setting_ids.h"
 
 namespace emulator {
 namespace {
@@ -25,20 +25,20 @@ Session* findSession(std::uint32_t handle, SessionPart part) {
     return sessions[index].get();
 }
 
-host::SessionHandle newSession() {
+ZhstSession newSession() {
     connectDesktop();
     auto session = std::make_unique<Session>();
     session->index = static_cast<std::uint32_t>(sessions.size());
-    session->numbers[host::setting::HostCodePage] = 37;
+    session->numbers[zhst::setting::HostCodePage] = 37;
     sessions.push_back(std::move(session));
     return sessions.back()->handle(SessionPart::Session);
 }
 
-void setClauses(host::SessionHandle session, const Clauses& clauses) {
+void setClauses(ZhstSession session, const Clauses& clauses) {
     if (Session* found = findSession(session, SessionPart::Session)) found->clauses = clauses;
 }
 
-void runCleanup(host::SessionHandle session, std::uint32_t slot) {
+void runCleanup(ZhstSession session, std::uint32_t slot) {
     Session* owner = findSession(session, SessionPart::Session);
     if (!owner) return;
     const auto found = owner->cleanups.find(slot);
@@ -59,33 +59,33 @@ void forgetSessions() { sessions.clear(); }
 using namespace emulator;
 using journalled::Call;
 
-host::SettingsHandle ZHST_CALL zhstGetSessionSettings(host::SessionHandle session) {
+ZhstSettings ZHST_CALL zhstGetSessionSettings(ZhstSession session) {
     return Call("GetSessionSettings", session).result(partOf(session, SessionPart::Session, SessionPart::Settings));
 }
 
-host::AppHandle ZHST_CALL zhstGetSessionApp(host::SessionHandle session) {
+ZhstApp ZHST_CALL zhstGetSessionApp(ZhstSession session) {
     return Call("GetSessionApp", session).result(partOf(session, SessionPart::Session, SessionPart::App));
 }
 
-host::WindowHandle ZHST_CALL zhstGetSessionWindow(host::SettingsHandle settings) {
+ZhstWindow ZHST_CALL zhstGetSessionWindow(ZhstSettings settings) {
     return Call("GetSessionWindow", settings).result(partOf(settings, SessionPart::Settings, SessionPart::Window));
 }
 
-host::ConverterHandle ZHST_CALL zhstGetEmulatorConverter(host::SessionHandle session) {
+ZhstConverter ZHST_CALL zhstGetEmulatorConverter(ZhstSession session) {
     return Call("GetEmulatorConverter", session).result(partOf(session, SessionPart::Session, SessionPart::Converter));
 }
 
-host::TextServicesHandle ZHST_CALL zhstGetTextServices(host::SessionHandle session) {
+ZhstTextServices ZHST_CALL zhstGetTextServices(ZhstSession session) {
     return Call("GetTextServices", session).result(partOf(session, SessionPart::Session, SessionPart::TextServices));
 }
 
 // From here on the library is certainly there, on platforms where the desktop is connected through it.
-void ZHST_CALL zhstAttachSession(host::SessionHandle session) {
+void ZHST_CALL zhstAttachSession(ZhstSession session) {
     Call("AttachSession", session);
     connectDesktop();
 }
 
-void ZHST_CALL zhstRegisterCleanup(host::SessionHandle session, std::uint32_t slot, host::CleanupCallback callback) {
+void ZHST_CALL zhstRegisterCleanup(ZhstSession session, std::uint32_t slot, ZhstCleanup callback) {
     Call("RegisterCleanup", session, slot, journalled::Address{reinterpret_cast<void*>(callback)});
     Session* found = findSession(session, SessionPart::Session);
     if (!found) return;

@@ -8,8 +8,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "Z7XFRPCS/session.h"
 #include "emulator/emulator.h"
-#include "host/session.h"
 
 // The sessions, and what a handle leads to.
 namespace emulator {
@@ -27,7 +27,7 @@ enum class SessionPart : std::uint32_t {
 
 struct Watch {
     std::uint32_t id;
-    host::SettingWatch watch;
+    ZhstSettingWatch watch;
 };
 
 // An object that other libraries call through its table.
@@ -54,7 +54,7 @@ struct Session {
     std::unordered_map<std::uint32_t, std::string> texts;
     std::bitset<DenseSettings> watched;
     std::vector<Watch> watches;
-    std::map<std::uint32_t, host::CleanupCallback> cleanups;
+    std::map<std::uint32_t, ZhstCleanup> cleanups;
     Clauses clauses;
     bool commandFailed = false;
     ConversionTables conversion;

@@ -35,20 +35,20 @@ const std::string* settingText(const Session& session, std::uint32_t id) {
     return found == session.texts.end() || found->second.empty() ? nullptr : &found->second;
 }
 
-void set(host::SessionHandle session, std::uint32_t id, std::int32_t value) {
+void set(ZhstSession session, std::uint32_t id, std::int32_t value) {
     if (Session* found = findSession(session, SessionPart::Session)) writeNumber(*found, id, value);
 }
 
-void set(host::SessionHandle session, std::uint32_t id, const std::string& value) {
+void set(ZhstSession session, std::uint32_t id, const std::string& value) {
     if (Session* found = findSession(session, SessionPart::Session)) found->texts[id] = value;
 }
 
-std::int32_t number(host::SessionHandle session, std::uint32_t id) {
+std::int32_t number(ZhstSession session, std::uint32_t id) {
     const Session* found = findSession(session, SessionPart::Session);
     return found ? settingNumber(*found, id) : 0;
 }
 
-std::string text(host::SessionHandle session, std::uint32_t id) {
+std::string text(ZhstSession session, std::uint32_t id) {
     const Session* found = findSession(session, SessionPart::Session);
     const std::string* value = found ? settingText(*found, id) : nullptr;
     return value ? *value : std::string();
@@ -59,17 +59,17 @@ std::string text(host::SessionHandle session, std::uint32_t id) {
 using namespace emulator;
 using journalled::Call;
 
-std::int32_t ZHST_CALL zhstGetSetting(host::SettingsHandle settings, std::uint32_t id) {
+std::int32_t ZHST_CALL zhstGetSetting(ZhstSettings settings, std::uint32_t id) {
     const Session* session = findSession(settings, SessionPart::Settings);
     return Call("GetSetting", settings, journalled::Setting{id}).result(session ? settingNumber(*session, id) : 0);
 }
 
-void ZHST_CALL zhstSetSetting(host::SettingsHandle settings, std::uint32_t id, std::int32_t value) {
+void ZHST_CALL zhstSetSetting(ZhstSettings settings, std::uint32_t id, std::int32_t value) {
     Call("SetSetting", settings, journalled::Setting{id}, value);
     if (Session* session = findSession(settings, SessionPart::Settings)) writeNumber(*session, id, value);
 }
 
-std::uint32_t ZHST_CALL zhstGetStringSetting(host::SettingsHandle settings, std::uint32_t id, char* buffer,
+std::uint32_t ZHST_CALL zhstGetStringSetting(ZhstSettings settings, std::uint32_t id, char* buffer,
                                              std::uint32_t size) {
     const Session* session = findSession(settings, SessionPart::Settings);
     const std::string* text = session ? settingText(*session, id) : nullptr;
@@ -82,12 +82,12 @@ std::uint32_t ZHST_CALL zhstGetStringSetting(host::SettingsHandle settings, std:
     return call.result(text ? 1u : 0u);
 }
 
-void ZHST_CALL zhstSetStringSetting(host::SettingsHandle settings, std::uint32_t id, const char* text) {
+void ZHST_CALL zhstSetStringSetting(ZhstSettings settings, std::uint32_t id, const char* text) {
     Call("SetStringSetting", settings, journalled::Setting{id}, text);
     if (Session* session = findSession(settings, SessionPart::Settings)) session->texts[id] = text ? text : "";
 }
 
-void ZHST_CALL zhstWatchSetting(host::SettingsHandle settings, std::uint32_t id, host::SettingWatch watch) {
+void ZHST_CALL zhstWatchSetting(ZhstSettings settings, std::uint32_t id, ZhstSettingWatch watch) {
     Call("WatchSetting", settings, journalled::Setting{id}, journalled::Address{reinterpret_cast<void*>(watch)});
     Session* session = findSession(settings, SessionPart::Settings);
     if (!session || !watch) return;
@@ -96,7 +96,7 @@ void ZHST_CALL zhstWatchSetting(host::SettingsHandle settings, std::uint32_t id,
 }
 
 // Takes back one registration: two clients of one session register the same call-back.
-void ZHST_CALL zhstUnwatchSetting(host::SettingsHandle settings, std::uint32_t id, host::SettingWatch watch) {
+void ZHST_CALL zhstUnwatchSetting(ZhstSettings settings, std::uint32_t id, ZhstSettingWatch watch) {
     Call("UnwatchSetting", settings, journalled::Setting{id}, journalled::Address{reinterpret_cast<void*>(watch)});
     Session* session = findSession(settings, SessionPart::Settings);
     if (!session) return;

@@ -5,10 +5,10 @@
 #include <unordered_map>
 #include <vector>
 
+#include "Z7XFRPCS/runtime.h"
 #include "emulator/emulator.h"
 #include "emulator/faults.h"
 #include "emulator/journal.h"
-#include "host/runtime.h"
 
 // The named store. There is one, with handle 1; a part's handle is its place in `parts`, from 1. Opening the same part
 // twice, as two clients do, gives two handles on the same item.
@@ -16,14 +16,14 @@
 namespace emulator {
 namespace {
 
-constexpr host::StoreHandle TheStore = 1;
+constexpr ZhstStore TheStore = 1;
 
 enum class PartKind { Closed, Node, List, Item };
 
 struct Part {
     PartKind kind = PartKind::Closed;
     std::uint32_t code = 0;
-    host::StorePartHandle parent = 0;
+    ZhstStorePart parent = 0;
     bool locked = false;        // lists
     StoreItem* item = nullptr;  // items
 };
@@ -33,13 +33,13 @@ std::unordered_map<std::uint32_t, StoreItem> items;
 std::function<void(std::string_view, std::string_view)> listener;
 std::uint32_t lockCount = 0;
 
-Part* find(host::StoreHandle store, host::StorePartHandle handle, PartKind kind) {
+Part* find(ZhstStore store, ZhstStorePart handle, PartKind kind) {
     if (store != TheStore || handle == 0 || handle > parts.size()) return nullptr;
     Part& part = parts[handle - 1];
     return part.kind == kind ? &part : nullptr;
 }
 
-journalled::Code codeOf(host::StorePartHandle handle) {
+journalled::Code codeOf(ZhstStorePart handle) {
     return {handle == 0 || handle > parts.size() ? 0 : parts[handle - 1].code};
 }
 
@@ -55,25 +55,25 @@ std::string characters(std::uint32_t code) {
     return text;
 }
 
-host::StorePartHandle open(host::StoreHandle store, host::StorePartHandle parent, std::uint32_t code, PartKind kind) {
+ZhstStorePart open(ZhstStore store, ZhstStorePart parent, std::uint32_t code, PartKind kind) {
     const bool placed = kind == PartKind::Node   ? store == TheStore && parent == 0
                         : kind == PartKind::List ? find(store, parent, PartKind::Node) != nullptr
                                                  : find(store, parent, PartKind::List) != nullptr;
     if (!placed || code == 0) return 0;
     StoreItem* item = kind == PartKind::Item ? &items[code] : nullptr;
     parts.push_back({kind, code, parent, false, item});
-    return static_cast<host::StorePartHandle>(parts.size());
+    return static_cast<ZhstStorePart>(parts.size());
 }
 
-void openJournalled(const char* name, host::StoreHandle store, host::StorePartHandle parent, std::uint32_t code,
-                    std::uint32_t reserved, host::StorePartHandle* part, PartKind kind) {
-    const host::StorePartHandle opened = open(store, parent, code, kind);
+void openJournalled(const char* name, ZhstStore store, ZhstStorePart parent, std::uint32_t code, std::uint32_t reserved,
+                    ZhstStorePart* part, PartKind kind) {
+    const ZhstStorePart opened = open(store, parent, code, kind);
     if (part) *part = opened;
     journalled::Call(name, store, codeOf(parent), journalled::Code{code}, reserved, codeOf(opened));
 }
 
 // The code stays readable for a journal line that comes too late.
-void close(host::StoreHandle store, host::StorePartHandle handle, PartKind kind) {
+void close(ZhstStore store, ZhstStorePart handle, PartKind kind) {
     Part* part = find(store, handle, kind);
     if (!part) return;
     if (part->locked) --lockCount;
@@ -81,7 +81,7 @@ void close(host::StoreHandle store, host::StorePartHandle handle, PartKind kind)
     part->kind = PartKind::Closed;
 }
 
-std::uint32_t lock(host::StoreHandle store, host::StorePartHandle handle) {
+std::uint32_t lock(ZhstStore store, ZhstStorePart handle) {
     Part* list = find(store, handle, PartKind::List);
     if (!list || list->locked || faults().refuseStoreLock) return 0;
     list->locked = true;
@@ -90,7 +90,7 @@ std::uint32_t lock(host::StoreHandle store, host::StorePartHandle handle) {
 }
 
 // A value is taken only while the item's list is locked.
-void setItem(host::StoreHandle store, host::StorePartHandle handle, const void* bytes, std::uint32_t length) {
+void setItem(ZhstStore store, ZhstStorePart handle, const void* bytes, std::uint32_t length) {
     Part* part = find(store, handle, PartKind::Item);
     if (!part || !parts[part->parent - 1].locked) return;
     part->item->value.assign(static_cast<const char*>(bytes), length);
@@ -123,46 +123,46 @@ void resetStore() {
 using namespace emulator;
 using journalled::Call;
 
-host::StoreHandle ZHST_CALL zhstOpenStore(const char* name) {
+ZhstStore ZHST_CALL zhstOpenStore(const char* name) {
     const bool known = name && std::string_view(name) == "ZHST" && !faults().refuseStore;
     return Call("OpenStore", name).result(known ? TheStore : 0);
 }
 
-void ZHST_CALL zhstOpenStoreNode(host::StoreHandle store, host::StorePartHandle parent, std::uint32_t code,
-                                 std::uint32_t reserved, host::StorePartHandle* part) {
+void ZHST_CALL zhstOpenStoreNode(ZhstStore store, ZhstStorePart parent, std::uint32_t code, std::uint32_t reserved,
+                                 ZhstStorePart* part) {
     openJournalled("OpenStoreNode", store, parent, code, reserved, part, PartKind::Node);
 }
 
-void ZHST_CALL zhstOpenStoreList(host::StoreHandle store, host::StorePartHandle parent, std::uint32_t code,
-                                 std::uint32_t reserved, host::StorePartHandle* part) {
+void ZHST_CALL zhstOpenStoreList(ZhstStore store, ZhstStorePart parent, std::uint32_t code, std::uint32_t reserved,
+                                 ZhstStorePart* part) {
     openJournalled("OpenStoreList", store, parent, code, reserved, part, PartKind::List);
 }
 
-void ZHST_CALL zhstOpenStoreItem(host::StoreHandle store, host::StorePartHandle parent, std::uint32_t code,
-                                 std::uint32_t reserved, host::StorePartHandle* part) {
+void ZHST_CALL zhstOpenStoreItem(ZhstStore store, ZhstStorePart parent, std::uint32_t code, std::uint32_t reserved,
+                                 ZhstStorePart* part) {
     openJournalled("OpenStoreItem", store, parent, code, reserved, part, PartKind::Item);
 }
 
-void ZHST_CALL zhstCloseStoreNode(host::StoreHandle store, host::StorePartHandle parent, host::StorePartHandle part) {
+void ZHST_CALL zhstCloseStoreNode(ZhstStore store, ZhstStorePart parent, ZhstStorePart part) {
     Call("CloseStoreNode", store, codeOf(parent), codeOf(part));
     close(store, part, PartKind::Node);
 }
 
-void ZHST_CALL zhstCloseStoreList(host::StoreHandle store, host::StorePartHandle parent, host::StorePartHandle part) {
+void ZHST_CALL zhstCloseStoreList(ZhstStore store, ZhstStorePart parent, ZhstStorePart part) {
     Call("CloseStoreList", store, codeOf(parent), codeOf(part));
     close(store, part, PartKind::List);
 }
 
-void ZHST_CALL zhstCloseStoreItem(host::StoreHandle store, host::StorePartHandle parent, host::StorePartHandle part) {
+void ZHST_CALL zhstCloseStoreItem(ZhstStore store, ZhstStorePart parent, ZhstStorePart part) {
     Call("CloseStoreItem", store, codeOf(parent), codeOf(part));
     close(store, part, PartKind::Item);
 }
 
-std::uint32_t ZHST_CALL zhstLockStoreList(host::StoreHandle store, host::StorePartHandle list) {
+std::uint32_t ZHST_CALL zhstLockStoreList(ZhstStore store, ZhstStorePart list) {
     return Call("LockStoreList", store, codeOf(list)).result(lock(store, list));
 }
 
-void ZHST_CALL zhstUnlockStoreList(host::StoreHandle store, host::StorePartHandle list) {
+void ZHST_CALL zhstUnlockStoreList(ZhstStore store, ZhstStorePart list) {
     Call("UnlockStoreList", store, codeOf(list));
     Part* found = find(store, list, PartKind::List);
     if (!found || !found->locked) return;
@@ -170,8 +170,7 @@ void ZHST_CALL zhstUnlockStoreList(host::StoreHandle store, host::StorePartHandl
     --lockCount;
 }
 
-void ZHST_CALL zhstSetStoreItem(host::StoreHandle store, host::StorePartHandle item, const void* bytes,
-                                std::uint32_t length) {
+void ZHST_CALL zhstSetStoreItem(ZhstStore store, ZhstStorePart item, const void* bytes, std::uint32_t length) {
     Call("SetStoreItem", store, codeOf(item), journalled::Bytes{bytes, length}, length);
     setItem(store, item, bytes, length);
 }

@@ -3,17 +3,17 @@
 #include <cstdint>
 #include <cstring>
 
-#include "host/runtime.h"
+#include "Z7XFRPCS/runtime.h"
 
 namespace emulator {
 
-std::string_view textOf(const host::TextRecord& record) { return record.text ? record.text : std::string_view(); }
+std::string_view textOf(const ZhstTextRecord& record) { return record.text ? record.text : std::string_view(); }
 
-bool storeText(host::TextRecord& record, std::string_view text) {
+bool storeText(ZhstTextRecord& record, std::string_view text) {
     if (record.capacity > 0) {
         if (!record.text || text.size() >= record.capacity) return false;
     } else {
-        void* grown = host::ReallocateObject(record.text, static_cast<std::uint32_t>(text.size() + 1));
+        void* grown = zhstReallocateObject(record.text, static_cast<std::uint32_t>(text.size() + 1));
         if (!grown) return false;
         record.text = static_cast<char*>(grown);
     }

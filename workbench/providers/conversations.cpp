@@ -13,9 +13,9 @@ using as400::Answer;
 using as400::Function;
 using as400::ReturnCode;
 
-bool closes(std::uint32_t function) { return function == provider::TF_RESET || function == provider::TF_END_DATA; }
+bool closes(std::uint32_t function) { return function == TF_RESET || function == TF_END_DATA; }
 
-bool needsNoConversation(std::uint32_t function) { return closes(function) || function == provider::TF_END_REQUEST; }
+bool needsNoConversation(std::uint32_t function) { return closes(function) || function == TF_END_REQUEST; }
 
 // The caller keeps a 32-bit length and reads the data until its next call.
 void hand(const Answer& answer, const Call& call) {
@@ -44,7 +44,7 @@ Answer Conversations::refuse(ReturnCode code, const char* message) {
 
 Answer Conversations::answer(const Call& call) {
     if (!call.conversation || !call.buffer) return refuse(ReturnCode::LengthInvalid, "HSF3011 Parameter missing.");
-    if (call.function < provider::TF_SEND_REQUEST || call.function > provider::TF_END_DATA) {
+    if (call.function < TF_SEND_REQUEST || call.function > TF_END_DATA) {
         return refuse(ReturnCode::UnknownFunction, "HSF3000 Function not known.");
     }
     const auto function = static_cast<Function>(call.function);

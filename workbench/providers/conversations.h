@@ -5,8 +5,8 @@
 #include <memory>
 #include <span>
 
+#include "Z7XFRPCS/provider.h"
 #include "as400/conversation.h"
-#include "provider/provider_call.h"
 
 // What every provider library is made of: conversations with the sample host under the handles that the caller keeps.
 namespace providers {

@@ -1,7 +1,7 @@
 // The communications router. The sample host is always there.
 #include <cstdint>
 
-#include "provider/provider_call.h"
+#include "Z7XFRPCS/provider.h"
 
 extern "C" {
 

@@ -12,7 +12,7 @@ providers::Conversations& conversations() {
 
 extern "C" {
 
-ZHST_EXPORT std::uint32_t ZHST_CALL EHNTF_STF(std::uint32_t, provider::YieldCallback yield, std::uint32_t* conversation,
+ZHST_EXPORT std::uint32_t ZHST_CALL EHNTF_STF(std::uint32_t, TfYield yield, std::uint32_t* conversation,
                                               std::uint32_t function, void* buffer, std::uint32_t bufferSize,
                                               std::uint32_t length, const char*, std::uint32_t, void** data,
                                               std::uint32_t* dataLength, std::uint32_t* detail) {

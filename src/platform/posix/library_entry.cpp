@@ -1,7 +1,7 @@
 #include <iterator>
 
 #include "client/library.h"
-#include "module.h"
+#include "platform/posix/module.h"
 
 // The library is attached to the process when it is loaded; its module is the record of its string resources.
 namespace {

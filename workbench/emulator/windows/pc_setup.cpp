@@ -1,11 +1,11 @@
 #include <windows.h>
 
+#include "Z7XFRPCS/types.h"
 #include "emulator/code_pages.h"
 #include "emulator/faults.h"
 #include "emulator/platform_side.h"
 #include "emulator/user_interface.h"
 #include "emulator/windows/library_imports.h"
-#include "host/types.h"
 #include "platform/platform.h"
 
 // The PC is the one that the program runs on: its code pages and its language are the machine's. What it has of

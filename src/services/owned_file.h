@@ -2,9 +2,9 @@
 
 #include <utility>
 
-#include "host/objects.h"
+#include "services/objects.h"
 
-namespace host {
+namespace services {
 
 // Owner of an emulator file object. Null when none could be created.
 class OwnedFile {
@@ -27,4 +27,4 @@ private:
     FileObject* file_;
 };
 
-}  // namespace host
+}  // namespace services

@@ -4,9 +4,9 @@
 #include <new>
 #include <utility>
 
-#include "host/runtime.h"
+#include "services/runtime.h"
 
-namespace host {
+namespace services {
 
 // Owner of one object in the emulator's memory. Null after a failed allocation: every user asks.
 template <class T>
@@ -99,4 +99,4 @@ private:
     std::uint32_t size_ = 0;
 };
 
-}  // namespace host
+}  // namespace services
