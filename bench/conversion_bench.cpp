@@ -5,9 +5,9 @@
 
 #include "bench/host_file.h"
 #include "emulator/emulator.h"
-#include "receive/binary_record.h"
-#include "receive/delimited_record.h"
-#include "receive/numeric_field.h"
+#include "record/to_pc/binary_record.h"
+#include "record/to_pc/delimited_record.h"
+#include "record/to_pc/number_text.h"
 #include "settings/pc_file_types.h"
 
 // The conversions of a receive, without provider, monitor store and file.
@@ -36,14 +36,14 @@ struct Conversion {
           snapshot(session, &functions),
           converter(session, &functions, nullptr, &snapshot, 0, 0) {
         for (const Field& field : fields())
-            converter.fields.append(services::Owned<receive::HostField>::make(converter.messageOwner(),
-                                                                              field.description.data(), &snapshot));
+            converter.fields.append(services::Owned<record::HostField>::make(converter.messageOwner(),
+                                                                             field.description.data(), &snapshot));
     }
 
     ZhstSession session;
     provider::TransferFunctionSession functions;
     settings::TransferSettings snapshot;
-    receive::RecordConverter converter;
+    record::RecordConverter converter;
 };
 
 std::string_view nextRecord(std::uint32_t& number) {
@@ -53,12 +53,12 @@ std::string_view nextRecord(std::uint32_t& number) {
 
 void numberText(benchmark::State& state, std::int32_t fileType, const Field& field) {
     Conversion conversion(fileType);
-    const receive::HostField hostField(conversion.converter.messageOwner(), field.description.data(),
-                                       &conversion.snapshot);
+    const record::HostField hostField(conversion.converter.messageOwner(), field.description.data(),
+                                      &conversion.snapshot);
     std::uint32_t number = 0;
     for ([[maybe_unused]] const auto iteration : state)
-        benchmark::DoNotOptimize(receive::formatNumericField(hostField, nextRecord(number).data() + field.offset,
-                                                             conversion.converter.numberText));
+        benchmark::DoNotOptimize(record::to_pc::formatNumericField(hostField, nextRecord(number).data() + field.offset,
+                                                                   conversion.converter.numberText));
     state.SetItemsProcessed(state.iterations());
 }
 
@@ -72,7 +72,7 @@ void pcText(benchmark::State& state, const Field& field) {
     state.SetItemsProcessed(state.iterations());
 }
 
-using ToRecord = bool (*)(receive::RecordConverter&, std::string_view, services::OwnedBytes&, std::uint32_t&);
+using ToRecord = bool (*)(record::RecordConverter&, std::string_view, services::OwnedBytes&, std::uint32_t&);
 
 void pcRecord(benchmark::State& state, std::int32_t fileType, ToRecord toRecord) {
     Conversion conversion(fileType);
@@ -107,7 +107,7 @@ const bool registered = [] {
     }
     for (const settings::PcFileTypeRow& row : settings::pcFileTypes) {
         if (row.type == settings::NoConversion) continue;
-        const ToRecord toRecord = row.isText ? receive::toDelimitedRecord : receive::toBinaryRecord;
+        const ToRecord toRecord = row.isText ? record::to_pc::toDelimitedRecord : record::to_pc::toBinaryRecord;
         benchmark::RegisterBenchmark(
             (std::string("record/") + row.name).c_str(),
             [&row, toRecord](benchmark::State& state) { pcRecord(state, row.type, toRecord); });

@@ -2,7 +2,7 @@
 install(TARGETS Z7XFRPCS RUNTIME DESTINATION bin LIBRARY DESTINATION lib)
 if(WIN32)
     install(FILES ${CMAKE_BINARY_DIR}/lib/libZ7XFRPCS.dll.a ${CMAKE_BINARY_DIR}/lib/libZHSTSERV.dll.a
-        ${PROJECT_SOURCE_DIR}/src/client/Z7XFRPCS.def ${PROJECT_SOURCE_DIR}/workbench/emulator/ZHSTSERV.def
+        ${PROJECT_SOURCE_DIR}/src/entry/Z7XFRPCS.def ${PROJECT_SOURCE_DIR}/workbench/emulator/ZHSTSERV.def
         DESTINATION lib)
 endif()
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/Z7XFRPCS DESTINATION include)

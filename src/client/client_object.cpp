@@ -25,6 +25,6 @@ bool ZXFRPCSCLIENT::isDemonstration() const {
 bool ZXFRPCSCLIENT::tfStart() {
     if (!tfSession) tfSession = client::makeTransferFunctionSession(session);
     if (tfSession) return tfSession->tfStart();
-    provider::showMessage(messageOwner(), provider::OutOfMemory);
+    messages::showMessage(messageOwner(), messages::OutOfMemory);
     return false;
 }

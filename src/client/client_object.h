@@ -2,10 +2,10 @@
 
 #include <cstddef>
 
+#include "client/transfer_context.h"
 #include "provider/transfer_function_session.h"
 #include "services/objects.h"
 #include "services/owned.h"
-#include "settings/transfer_context.h"
 #include "settings/transfer_settings.h"
 #include "text/text_buffer.h"
 
@@ -32,7 +32,7 @@ struct ZXFRPCSCLIENT {
     char hostFileName[1025] = {};                       // running
     services::AppHandle appHandle = 0;
     provider::TfResult lastResult;
-    services::Owned<settings::TransferContext> transferContext;    // running
+    services::Owned<client::TransferContext> transferContext;      // running
     services::Owned<settings::TransferSettings> transferSettings;  // running
     const services::SessionServices* sessionServices = nullptr;
     std::uint32_t demoIndex = 0;
@@ -51,9 +51,9 @@ struct ZXFRPCSCLIENT {
     // would write over what stands there.
     bool isBusy() const { return transferRunning || (tfSession && tfSession->isWaiting()); }
 
-    provider::MessageOwner messageOwner() const { return {session, settings, mainWindow}; }
+    messages::MessageOwner messageOwner() const { return {session, settings, mainWindow}; }
     // During a transfer, its owner window.
-    provider::MessageOwner dialogOwner() const {
+    messages::MessageOwner dialogOwner() const {
         return {session, settings, transferRunning ? ownerWindow : mainWindow};
     }
 };

@@ -2,7 +2,7 @@
 
 #include "Z7XFRPCS/settings.h"
 #include "client/client_object.h"
-#include "client/library.h"
+#include "platform/own_module.h"
 #include "platform/platform.h"
 
 namespace client {
@@ -51,7 +51,7 @@ bool checkConnection(const ZXFRPCSCLIENT& client) {
     const ConnectionSettings connection(client.settings);
     if (!connection.isIncomplete() || !connection.messagesEnabled || !isServedByDialog(connection.transportType))
         return true;
-    return services::ConnectionDialog(client.session, moduleHandle(),
+    return services::ConnectionDialog(client.session, platform::moduleHandle(),
                                       platform::GetLastActivePopup(client.mainWindow)) != 0;
 }
 

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "Z7XFRPCS/settings.h"
-#include "client/library.h"
+#include "platform/own_module.h"
 #include "platform/platform.h"
 #include "services/text_display.h"
 #include "settings/pc_file_types.h"
@@ -39,7 +39,7 @@ constexpr std::uint32_t NapMilliseconds = 10;
 
 struct ResourceText {
     explicit ResourceText(std::uint32_t resource) {
-        platform::LoadStringA(moduleHandle(), resource, text, sizeof(text));
+        platform::LoadStringA(platform::moduleHandle(), resource, text, sizeof(text));
     }
     char text[100] = {};
 };

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "receive/host_field.h"
+#include "record/host_field.h"
 #include "settings/pc_file_types.h"
 
 namespace fdf {
@@ -72,13 +72,13 @@ std::int32_t valueToFdfCode(FdfCodeTable table, std::int32_t value) {
 std::int32_t fieldTypeCode(std::int32_t pcFileType, std::uint8_t hostFieldType) {
     const FieldTypeCodes& codes = fieldTypes(pcFileType);
     switch (hostFieldType) {
-        case receive::Hex:
+        case record::Hex:
             return codes.hex;
-        case receive::Binary:
+        case record::Binary:
             return codes.binary;
-        case receive::Zoned:
+        case record::Zoned:
             return codes.zoned;
-        case receive::Packed:
+        case record::Packed:
             return codes.packed;
         default:
             return codes.character;

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <utility>
 
-#include "provider/message_box.h"
+#include "messages/box.h"
 #include "text/double_byte.h"
 
 namespace fdf {
@@ -30,21 +30,21 @@ bool hasPlaceOfItsOwn(std::string_view name) {
 }
 
 // A path that was cut could be that of another file.
-services::OwnedFile refuse(const settings::TransferContext& context, const char* fdfName) {
+services::OwnedFile refuse(const client::TransferContext& context, const char* fdfName) {
     char message[480];
     std::snprintf(message, sizeof(message), "The path of the PC file description %s is longer than 260 characters.",
                   fdfName);
-    provider::showOwnText({context.session, context.settings, context.mainWindow}, message);
+    messages::showOwnText({context.session, context.settings, context.mainWindow}, message);
     return services::OwnedFile();
 }
 
 }  // namespace
 
-services::OwnedFile resolveFdfPath(const settings::TransferContext& context, const char* pcFileName,
-                                   const char* fdfName, char (&path)[PathSize]) {
+services::OwnedFile resolveFdfPath(const client::TransferContext& context, const char* pcFileName, const char* fdfName,
+                                   char (&path)[PathSize]) {
     services::OwnedFile file(services::CreateFileObject(context.session));
     if (!file) {
-        provider::showMessage({context.session, context.settings, context.mainWindow}, provider::OutOfMemory);
+        messages::showMessage({context.session, context.settings, context.mainWindow}, messages::OutOfMemory);
         return file;
     }
     path[0] = '\0';

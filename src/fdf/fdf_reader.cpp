@@ -54,19 +54,19 @@ std::int32_t valueOfCode(FdfCodeTable table, std::string_view code) {
 // One description being read.
 class Reader {
 public:
-    Reader(const settings::TransferContext& context, const char* path, char* names, std::uint32_t capacity)
+    Reader(const client::TransferContext& context, const char* path, char* names, std::uint32_t capacity)
         : context_(context), path_(path), names_(names), capacity_(capacity) {
         *names_ = '\0';
     }
 
     bool read(std::string_view text);
     bool fail(Message message) const {
-        provider::showMessage(owner(), message, path_);
+        messages::showMessage(owner(), message, path_);
         return false;
     }
 
 private:
-    provider::MessageOwner owner() const { return {context_.session, context_.settings, context_.mainWindow}; }
+    messages::MessageOwner owner() const { return {context_.session, context_.settings, context_.mainWindow}; }
     bool readLine(std::string_view line);
     bool readField(std::string_view line);
     bool readFileType(std::string_view line);
@@ -75,7 +75,7 @@ private:
                     Message message) const;
     bool failText(const char* text) const;
 
-    const settings::TransferContext& context_;
+    const client::TransferContext& context_;
     const char* path_;
     char* names_;
     std::uint32_t capacity_;
@@ -164,11 +164,11 @@ bool Reader::readOption(std::string_view& rest, std::size_t length, FdfCodeTable
 bool Reader::failText(const char* text) const {
     char message[PathSize + 100];
     std::snprintf(message, sizeof(message), "The PC file description %s %s.", path_, text);
-    provider::showOwnText(owner(), message);
+    messages::showOwnText(owner(), message);
     return false;
 }
 
-bool readText(const settings::TransferContext& context, services::FileObject& file, const Reader& reader,
+bool readText(const client::TransferContext& context, services::FileObject& file, const Reader& reader,
               services::OwnedBytes& text) {
     const std::uint32_t size = file.size();
     if (file.errorState()) return false;
@@ -176,17 +176,17 @@ bool readText(const settings::TransferContext& context, services::FileObject& fi
     if (file.errorState()) return false;
     if (size == 0) return reader.fail(EmptyFile);
     if (text) return true;
-    provider::showMessage({context.session, context.settings, context.mainWindow}, provider::OutOfMemory);
+    messages::showMessage({context.session, context.settings, context.mainWindow}, messages::OutOfMemory);
     return false;
 }
 
 }  // namespace
 
-bool readFdf(const settings::TransferContext& context, const char* pcFileName, char* names, std::uint32_t capacity) {
+bool readFdf(const client::TransferContext& context, const char* pcFileName, char* names, std::uint32_t capacity) {
     char path[PathSize] = {};
     Reader reader(context, path, names, capacity);
     if (!context.transferSettings->useDescriptionFile) {
-        provider::showMessage({context.session, context.settings, context.mainWindow}, DescriptionNotUsed);
+        messages::showMessage({context.session, context.settings, context.mainWindow}, DescriptionNotUsed);
         return false;
     }
     const services::OwnedFile file =

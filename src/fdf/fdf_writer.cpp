@@ -15,14 +15,14 @@ namespace id = zhst::setting;
 constexpr std::uint32_t LineSize = 256;
 
 // Written and published; false when the write failed.
-bool writeText(const receive::RecordConverter& converter, services::FileObject& file, const char* text, int length) {
+bool writeText(const record::RecordConverter& converter, services::FileObject& file, const char* text, int length) {
     if (length < 0 || !file.write(text, static_cast<std::uint32_t>(length))) return false;
     if (monitor::MonitorStore* store = converter.tfSession->monitorStore())
         store->recordReceiveDescription({text, static_cast<std::size_t>(length)});
     return true;
 }
 
-bool writeHead(const receive::RecordConverter& converter, services::FileObject& file) {
+bool writeHead(const record::RecordConverter& converter, services::FileObject& file) {
     const settings::TransferSettings& options = *converter.transferSettings;
     const std::int32_t decimal = valueToFdfCode(FdfDecimalSeparators, options.decimalSeparatorMode);
     char decimalText[12] = "*";
@@ -39,8 +39,8 @@ bool writeHead(const receive::RecordConverter& converter, services::FileObject& 
 
 // The length as the PC file has it: of a number in a text file the declared digits, with room for sign and point unless
 // FdfNumericLengthMode says otherwise.
-void formatLength(const receive::HostField& field, services::SettingsHandle settings, char (&text)[32]) {
-    const receive::FieldLength length = field.fieldLength();
+void formatLength(const record::HostField& field, services::SettingsHandle settings, char (&text)[32]) {
+    const record::FieldLength length = field.fieldLength();
     if (length.isCharacter() || !settings::isTextLike(field.transferSettings().receiveFileType)) {
         std::snprintf(text, sizeof(text), "%d", static_cast<int>(length.bytes));
         return;
@@ -53,8 +53,8 @@ void formatLength(const receive::HostField& field, services::SettingsHandle sett
         std::snprintf(text, sizeof(text), "%d", digits);
 }
 
-void writeFdfFieldLines(const receive::RecordConverter& converter, services::FileObject& file) {
-    for (const receive::HostField& field : converter.fields) {
+void writeFdfFieldLines(const record::RecordConverter& converter, services::FileObject& file) {
+    for (const record::HostField& field : converter.fields) {
         char length[32];
         formatLength(field, converter.settings, length);
         const std::int32_t code = fieldTypeCode(converter.transferSettings->receiveFileType, field.type());
@@ -66,8 +66,8 @@ void writeFdfFieldLines(const receive::RecordConverter& converter, services::Fil
 
 }  // namespace
 
-void writeFdf(const receive::RecordConverter& converter, const char* pcFileName) {
-    const settings::TransferContext& context = *converter.transferContext;
+void writeFdf(const record::RecordConverter& converter, const char* pcFileName) {
+    const client::TransferContext& context = *converter.transferContext;
     const std::int32_t mode = services::GetSetting(context.settings, id::ExistingFileAction);
     char path[PathSize];
     const services::OwnedFile file =

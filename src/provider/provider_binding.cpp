@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "Z7XFRPCS/settings.h"
+#include "messages/box.h"
 #include "platform/platform.h"
-#include "provider/message_box.h"
 #include "provider/transports.h"
 #include "services/runtime.h"
 
@@ -158,11 +158,11 @@ Entry ProviderBinding::lookUp(services::ModuleHandle module, const char* name) c
 }
 
 bool ProviderBinding::fail(std::uint32_t messageId, const char* insert) const {
-    const MessageOwner owner{session_, settings_, window_};
+    const messages::MessageOwner owner{session_, settings_, window_};
     if (insert)
-        showMessage(owner, messageId, insert);
+        messages::showMessage(owner, messageId, insert);
     else
-        showMessage(owner, messageId);
+        messages::showMessage(owner, messageId);
     return false;
 }
 

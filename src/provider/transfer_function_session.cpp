@@ -83,7 +83,7 @@ bool TransferFunctionSession::tfStart() {
         sendControl(TF_RESET);
         codePage_.setConvertToOem(services::GetSetting(settings_, id::ConvertToOem));
     }
-    if (!started_) showOwnText(messageOwner(), StoppedText);
+    if (!started_) messages::showOwnText(messageOwner(), StoppedText);
     return started_;
 }
 
@@ -108,7 +108,7 @@ bool TransferFunctionSession::allocateBuffer() {
     if (bufferHandle_) dataBuffer_ = static_cast<char*>(platform::GlobalLock(bufferHandle_));
     if (dataBuffer_) return true;
     freeBuffer();
-    showMessage(messageOwner(), BufferNotAllocated);
+    messages::showMessage(messageOwner(), BufferNotAllocated);
     return false;
 }
 
@@ -188,7 +188,7 @@ void TransferFunctionSession::carryOutPendingStop(std::uint32_t function, TfResu
 // The code of the exchange before would stand in the settings and read as success.
 void TransferFunctionSession::tellInterruption(services::ProgressDialogHandle dialog) const {
     services::SetSetting(settings_, id::LastReturnCode, TF_NOT_STARTED);
-    showOwnText(messageOwner(), StoppedText, dialog);
+    messages::showOwnText(messageOwner(), StoppedText, dialog);
 }
 
 void TransferFunctionSession::sendControl(TfFunction function) {

@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "messages/box.h"
 #include "monitor/monitor_store.h"
-#include "provider/message_box.h"
 #include "provider/provider_binding.h"
 #include "services/owned.h"
 #include "text/code_page_state.h"
@@ -79,7 +79,7 @@ public:
     static void yieldToDialog();
 
 private:
-    MessageOwner messageOwner() const { return {session_, settings_, sessionWindow_}; }
+    messages::MessageOwner messageOwner() const { return {session_, settings_, sessionWindow_}; }
     bool isDemonstration() const;
     void adjustRouterKind();
     bool allocateBuffer();

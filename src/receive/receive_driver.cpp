@@ -5,11 +5,11 @@
 #include "client/demonstration.h"
 #include "fdf/fdf_writer.h"
 #include "platform/platform.h"
-#include "receive/dif_header.h"
-#include "receive/dif_strings.h"
-#include "receive/record_conversion.h"
-#include "receive/record_converter.h"
 #include "receive/spreadsheet.h"
+#include "record/dif_pieces.h"
+#include "record/record_converter.h"
+#include "record/to_pc/dif_header.h"
+#include "record/to_pc/record_conversion.h"
 #include "request/options_clause.h"
 #include "request/query_clauses.h"
 #include "request/select_statement.h"
@@ -93,9 +93,9 @@ private:
     }
     bool goesOn() const { return client_.cancelRequested == 0; }
     void command(ProgressCommand code) { services::ProgressDialogCommand(client_.progressDialog, code); }
-    provider::MessageOwner owner() const { return {client_.session, client_.settings, client_.ownerWindow}; }
+    messages::MessageOwner owner() const { return {client_.session, client_.settings, client_.ownerWindow}; }
     bool fail(std::uint32_t message) const {
-        provider::showMessage(owner(), message);
+        messages::showMessage(owner(), message);
         return false;
     }
 
@@ -107,7 +107,7 @@ private:
     std::int32_t pageLine_ = 0;
     char titleText_[40] = {};
     char moreText_[80] = {};
-    services::Owned<RecordConverter> converter_;
+    services::Owned<record::RecordConverter> converter_;
 };
 
 void ReceiveRun::run() {
@@ -150,7 +150,7 @@ void ReceiveRun::resetJobSettings() {
 bool ReceiveRun::createProgressDialog() {
     const std::uint32_t mode = !client_.showProgress ? 0 : settings_.recordProgress == 1 ? 1 : 2;
     client_.progressDialog = services::ProgressDialogCreate(client_.session, services::FromHost, mode, 0);
-    if (!client_.progressDialog) return fail(provider::OutOfMemory);
+    if (!client_.progressDialog) return fail(messages::OutOfMemory);
     if (client_.showProgress) {
         services::ProgressDialogSetPcName(client_.progressDialog, client_.pcFileName);
         services::ProgressDialogSetHostName(client_.progressDialog, client_.hostFileName);
@@ -170,10 +170,10 @@ bool ReceiveRun::countRecords() {
     const std::int32_t count = request::queryRecordCount(client_);
     if (count < 0) return false;
     if (count == 0) {
-        const provider::HiddenDialog hidden(client_.progressDialog);
+        const messages::HiddenDialog hidden(client_.progressDialog);
         if (services::IsMessageEnabled(client_.settings, 0))
             services::ShowMessage(client_.session, client_.ownerWindow, services::MessageId(TextTable, NoRecordsText),
-                                  provider::BoxFlags, 1, NoRecordsHelp);
+                                  messages::BoxFlags, 1, NoRecordsHelp);
         return false;
     }
     expectedCount_ = count;
@@ -206,10 +206,10 @@ bool ReceiveRun::sendQuery() {
 
 bool ReceiveRun::readFields() {
     command(ProgressCommand::PreparingConversion);
-    converter_ =
-        services::Owned<RecordConverter>::make(client_.session, client_.tfSession.get(), client_.transferContext.get(),
-                                               client_.transferSettings.get(), client_.textDisplay, expectedCount_);
-    if (!converter_) return fail(provider::OutOfMemory);
+    converter_ = services::Owned<record::RecordConverter>::make(
+        client_.session, client_.tfSession.get(), client_.transferContext.get(), client_.transferSettings.get(),
+        client_.textDisplay, expectedCount_);
+    if (!converter_) return fail(messages::OutOfMemory);
     // Without descriptions the record loop goes on: there the provider says what became of the request.
     converter_->readHostFields(client_.progressDialog, false);
     if (!client_.tfSession->isStarted() || !goesOn()) return false;
@@ -229,7 +229,7 @@ bool ReceiveRun::beginDisplay() {
     client_.progressDialog = 0;
     if (!client_.textDisplay || !services::TextDisplayBegin(client_.textDisplay, rowsPerPage_, 0))
         return fail(DisplayNotBegun);
-    defineDisplayColumns(*converter_);
+    record::to_pc::defineDisplayColumns(*converter_);
     client_.displayClosed = 0;
     client_.moreRequested = 1;
     services::LoadMessageText(client_.session, TextTable, MoreText, moreText_, sizeof(moreText_));
@@ -243,7 +243,7 @@ bool ReceiveRun::openPcFile() {
     file.openedName(client_.pcFileName);
     platform::CharLowerA(client_.pcFileName);
     if (settings_.writeDescriptionFile) fdf::writeFdf(*converter_, client_.pcFileName);
-    if (isDif()) writeDifHeader(*converter_, file);
+    if (isDif()) record::to_pc::writeDifHeader(*converter_, file);
     return true;
 }
 
@@ -269,11 +269,11 @@ bool ReceiveRun::transferRecords() {
 
 bool ReceiveRun::transferRecord() {
     if (client_.lastResult.dataLength > provider::BufferSize) {
-        provider::showOwnText(owner(), RecordTooLong, client_.progressDialog);
+        messages::showOwnText(owner(), RecordTooLong, client_.progressDialog);
         return false;
     }
-    PcRecord record;
-    if (!convertHostRecord(*converter_, client_.lastResult.dataLength, record)) return false;
+    record::to_pc::PcRecord record;
+    if (!record::to_pc::convertHostRecord(*converter_, client_.lastResult.dataLength, record)) return false;
     if (writePcRecord(record.bytes)) return true;
     client_.tfSession->tfEndData();
     return false;
@@ -318,7 +318,7 @@ void ReceiveRun::finishOutput() {
     if (!toFile()) return;
     if (settings_.recordProgress == 1) services::SetSetting(client_.settings, id::ProgressCount, recordNumber_ - 1);
     command(ProgressCommand::AllDataTransferred);
-    if (isDif() && !writePcRecord(dif::EndOfData)) return;
+    if (isDif() && !writePcRecord(record::dif::EndOfData)) return;
     if (settings_.receiveOutput != zhst::value::ToSpreadsheet) return;
     client_.fileObject->close();
     launchSpreadsheet(client_);

@@ -43,7 +43,7 @@ std::uint32_t fillHostCatalogEntry(ZXFRPCSCLIENT& client, HostCatalogEntry& entr
                                                            : formatFileEntry(client, record, entry);
     entry.status = TF_SUCCESS;
     if (formatted) return CatalogEntryDelivered;
-    provider::showOwnText(client.messageOwner(), NotConverted);
+    messages::showOwnText(client.messageOwner(), NotConverted);
     entry.name[0] = '\0';
     endRequest(client);
     return CatalogFailure;

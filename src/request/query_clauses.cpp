@@ -55,19 +55,19 @@ bool applyFileQualifiers(ZXFRPCSCLIENT& client, text::TextBuffer& text, std::uin
         case Replacement::DoesNotFit:
             return refuseLongStatement(client);
         default:
-            provider::showMessage(client.dialogOwner(), provider::OutOfMemory);
+            messages::showMessage(client.dialogOwner(), messages::OutOfMemory);
             return false;
     }
 }
 
 bool composeQueryClauses(ZXFRPCSCLIENT& client, bool stopAfterWhere, bool groupingOnly) {
     if (!client.requestText) {
-        provider::showMessage(client.dialogOwner(), provider::OutOfMemory);
+        messages::showMessage(client.dialogOwner(), messages::OutOfMemory);
         return false;
     }
     const auto entry = client.sessionServices ? client.sessionServices->getTransferClauses() : nullptr;
     if (!entry) {
-        provider::showOwnText(client.dialogOwner(), NoClauseSource, client.progressDialog);
+        messages::showOwnText(client.dialogOwner(), NoClauseSource, client.progressDialog);
         return false;
     }
     text::TextBuffer& request = *client.requestText;

@@ -81,7 +81,7 @@ std::int32_t queryRecordCount(ZXFRPCSCLIENT& client) {
     if (!tf.isStarted()) return QueryFailed;  // stopped during that fetch, and told so
     if (tf.tfIsAs400Mode()) tf.tfEndRequest();
     if (count >= 0) return count;
-    provider::showOwnText(client.dialogOwner(), BadRecordCount, client.progressDialog);
+    messages::showOwnText(client.dialogOwner(), BadRecordCount, client.progressDialog);
     return QueryFailed;
 }
 

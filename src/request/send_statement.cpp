@@ -11,7 +11,7 @@ namespace {
 constexpr std::size_t NumberText = 16;
 
 bool failWithoutMemory(const ZXFRPCSCLIENT& client) {
-    provider::showMessage(client.messageOwner(), provider::OutOfMemory);
+    messages::showMessage(client.messageOwner(), messages::OutOfMemory);
     return false;
 }
 

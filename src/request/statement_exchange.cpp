@@ -38,7 +38,7 @@ bool sessionStands(ZXFRPCSCLIENT& client) {
 char* requestBuffer(ZXFRPCSCLIENT& client) { return client.tfStart() ? client.tfSession->dataBuffer() : nullptr; }
 
 bool refuseLongStatement(const ZXFRPCSCLIENT& client) {
-    provider::showOwnText(client.dialogOwner(), StatementTooLong, client.progressDialog);
+    messages::showOwnText(client.dialogOwner(), StatementTooLong, client.progressDialog);
     return false;
 }
 

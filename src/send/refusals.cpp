@@ -14,35 +14,35 @@ constexpr std::uint32_t ConversionHelp = 124;
 constexpr std::size_t ShownName = 10;
 
 // The host is told that no more data follows.
-bool endData(const receive::RecordConverter& converter) {
+bool endData(const record::RecordConverter& converter) {
     converter.tfSession->tfEndData();
     return false;
 }
 
 }  // namespace
 
-bool refuseDifValue(const receive::RecordConverter& converter) {
-    provider::showMessage(converter.messageOwner(), BadDifValue);
+bool refuseDifValue(const record::RecordConverter& converter) {
+    messages::showMessage(converter.messageOwner(), BadDifValue);
     return endData(converter);
 }
 
-bool refuseNumber(const receive::RecordConverter& converter, std::uint32_t recordNumber, std::uint32_t fieldNumber) {
+bool refuseNumber(const record::RecordConverter& converter, std::uint32_t recordNumber, std::uint32_t fieldNumber) {
     services::ShowMessage2(converter.session, converter.mainWindow, services::MessageId(TextTable, BadNumberText),
-                           provider::BoxFlags, 1, ConversionHelp, services::insert(recordNumber),
+                           messages::BoxFlags, 1, ConversionHelp, services::insert(recordNumber),
                            services::insert(fieldNumber));
     return endData(converter);
 }
 
-bool refuseEmptyField(const receive::RecordConverter& converter, const receive::HostField& field) {
+bool refuseEmptyField(const record::RecordConverter& converter, const record::HostField& field) {
     char name[ShownName + 1];
     text::copyCut(field.name(), name, sizeof(name));
-    provider::showMessage(converter.messageOwner(), EmptyFieldMessage, name);
+    messages::showMessage(converter.messageOwner(), EmptyFieldMessage, name);
     return false;
 }
 
-bool refuseShortHostRecord(const receive::RecordConverter& converter) {
+bool refuseShortHostRecord(const record::RecordConverter& converter) {
     services::ShowMessage(converter.session, converter.mainWindow, services::MessageId(TextTable, ShortHostRecordText),
-                          provider::BoxFlags, 1, ConversionHelp);
+                          messages::BoxFlags, 1, ConversionHelp);
     return endData(converter);
 }
 

@@ -5,13 +5,13 @@
 #include "Z7XFRPCS/settings.h"
 #include "client/demonstration.h"
 #include "platform/platform.h"
-#include "receive/record_converter.h"
+#include "record/record_converter.h"
+#include "record/to_host/record_parser.h"
 #include "request/options_clause.h"
 #include "request/send_statement.h"
 #include "request/statement_exchange.h"
 #include "request/statement_writer.h"
 #include "send/record_exchange.h"
-#include "send/record_parser.h"
 #include "send/text_records.h"
 #include "settings/pc_file_types.h"
 
@@ -70,20 +70,20 @@ private:
         services::SetSetting(client_.settings, id::ProgressCount,
                              static_cast<std::int32_t>(client_.fileObject->position()));
     }
-    provider::MessageOwner owner() const { return {client_.session, client_.settings, client_.ownerWindow}; }
+    messages::MessageOwner owner() const { return {client_.session, client_.settings, client_.ownerWindow}; }
     bool fail(std::uint32_t message) const {
-        provider::showMessage(owner(), message);
+        messages::showMessage(owner(), message);
         return false;
     }
     bool failText(const char* text) const {
-        provider::showOwnText(owner(), text);
+        messages::showOwnText(owner(), text);
         return false;
     }
 
     ZXFRPCSCLIENT& client_;
     settings::TransferSettings& settings_;
     services::OwnedBytes readBuffer_;
-    services::Owned<receive::RecordConverter> converter_;
+    services::Owned<record::RecordConverter> converter_;
     std::uint32_t hostLength_ = 0;
     std::uint32_t filePosition_ = 0;
     std::uint32_t binaryRecords_ = 0;  // records of a file that is not text-like
@@ -110,7 +110,7 @@ bool SendRun::createProgressDialog() {
         services::ProgressDialogCreate(client_.session, services::ToHost, client_.showProgress ? 1 : 0, 0);
     if (!client_.progressDialog) {
         const services::WindowHandle popup = platform::GetLastActivePopup(client_.mainWindow);
-        provider::showMessage({client_.session, client_.settings, popup}, provider::OutOfMemory);
+        messages::showMessage({client_.session, client_.settings, popup}, messages::OutOfMemory);
         return false;
     }
     if (client_.showProgress) {
@@ -121,7 +121,7 @@ bool SendRun::createProgressDialog() {
 }
 
 bool SendRun::openPcFile() {
-    return client_.fileObject ? client_.fileObject->openForReading() : fail(provider::OutOfMemory);
+    return client_.fileObject ? client_.fileObject->openForReading() : fail(messages::OutOfMemory);
 }
 
 bool SendRun::composeRequests(std::string_view& options) {
@@ -134,8 +134,8 @@ bool SendRun::composeRequests(std::string_view& options) {
 bool SendRun::allocateReadBuffer() {
     readBuffer_ = services::OwnedBytes::make(ReadBufferSize, false);
     if (readBuffer_) return true;
-    const provider::HiddenDialog hidden(client_.progressDialog);
-    return fail(provider::OutOfMemory);
+    const messages::HiddenDialog hidden(client_.progressDialog);
+    return fail(messages::OutOfMemory);
 }
 
 bool SendRun::sendRequest() {
@@ -168,9 +168,9 @@ bool SendRun::confirmReplacement() {
 
 bool SendRun::readLayout() {
     if (!request::sessionStands(client_)) return false;
-    converter_ = services::Owned<receive::RecordConverter>::make(
+    converter_ = services::Owned<record::RecordConverter>::make(
         client_.session, client_.tfSession.get(), client_.transferContext.get(), client_.transferSettings.get(), 0, 0);
-    if (!converter_) return fail(provider::OutOfMemory);
+    if (!converter_) return fail(messages::OutOfMemory);
     converter_->readHostFields(client_.progressDialog, true);
     // A list that was cut short, which has been reported, would give records of another layout than the host's.
     if (converter_->fieldResult.returnCode != TF_NO_MORE_DATA || !takeHostLength()) return false;
@@ -178,11 +178,11 @@ bool SendRun::readLayout() {
     const std::uint32_t bytes = std::max(hostLength_, 1u);
     converter_->hostRecord = services::OwnedBytes::make(bytes, true);
     converter_->fieldBuffer = services::OwnedBytes::make(bytes, true);
-    return (converter_->hostRecord && converter_->fieldBuffer) || fail(provider::OutOfMemory);
+    return (converter_->hostRecord && converter_->fieldBuffer) || fail(messages::OutOfMemory);
 }
 
 bool SendRun::takeHostLength() {
-    for (const receive::HostField& field : converter_->fields) {
+    for (const record::HostField& field : converter_->fields) {
         hostLength_ += field.fieldLength().bytes;
         if (hostLength_ > provider::BufferSize) return failText(LongRecordText);
     }
@@ -240,10 +240,11 @@ ReadOutcome SendRun::sendRead(std::string_view read) {
 
 ReadOutcome SendRun::sendBinaryRecord(std::string_view read) {
     const bool converted = settings_.sendFileType == settings::BasicRandom;
-    if (converted && read[0] == EndOfFileByte && services::GetSetting(client_.settings, id::EofByteEndsFile) != 0)
+    if (converted && read[0] == record::to_host::EndOfFileByte &&
+        services::GetSetting(client_.settings, id::EofByteEndsFile) != 0)
         return ReadOutcome::EndOfData;
     const bool sent = placeRecord(client_, read, converted ? PcBlank : HostBlank) &&
-                      convertRecord(*converter_, hostLength_, ++binaryRecords_) &&
+                      record::to_host::convertRecord(*converter_, hostLength_, ++binaryRecords_) &&
                       putRecord(client_, hostLength_, request::SendingRecord);
     return sent ? ReadOutcome::MoreData : ReadOutcome::Failure;
 }

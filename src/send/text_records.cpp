@@ -1,8 +1,8 @@
 #include "send/text_records.h"
 
 #include "Z7XFRPCS/settings.h"
+#include "record/to_host/record_parser.h"
 #include "send/record_exchange.h"
-#include "send/record_parser.h"
 #include "settings/pc_file_types.h"
 
 namespace send {
@@ -13,11 +13,12 @@ constexpr char PcBlank = 0x20;
 
 }  // namespace
 
-TextRecords::TextRecords(ZXFRPCSCLIENT& client, receive::RecordConverter& converter, std::uint32_t hostLength)
+TextRecords::TextRecords(ZXFRPCSCLIENT& client, record::RecordConverter& converter, std::uint32_t hostLength)
     : client_(client),
       converter_(converter),
       hostLength_(hostLength),
-      kind_(converter.transferSettings->sendFileType == settings::Dif ? RecordKind::Tuple : RecordKind::Line) {}
+      kind_(converter.transferSettings->sendFileType == settings::Dif ? record::to_host::RecordKind::Tuple
+                                                                      : record::to_host::RecordKind::Line) {}
 
 ReadOutcome TextRecords::sendAll(std::string_view read, std::uint32_t& complete) {
     std::size_t start = 0;
@@ -28,11 +29,11 @@ ReadOutcome TextRecords::sendAll(std::string_view read, std::uint32_t& complete)
 }
 
 bool TextRecords::sendComplete(std::string_view read, std::size_t& start) {
-    for (std::size_t end = start; findRecordEnd(kind_, read, end);) {
+    for (std::size_t end = start; record::to_host::findRecordEnd(kind_, read, end);) {
         ++converter_.recordCount;
         if (isToBeSent() && !sendRecord(read.substr(start, end - start), read[end], converter_.recordCount))
             return false;
-        start = end + terminatorBytes(read, end);
+        start = end + record::to_host::terminatorBytes(read, end);
         end = start;
     }
     return true;
@@ -42,7 +43,7 @@ bool TextRecords::sendComplete(std::string_view read, std::size_t& start) {
 // record to be sent is, and not counted.
 bool TextRecords::sendTrailing(std::string_view trailing) {
     if (trailing.empty()) return true;
-    if (kind_ == RecordKind::Tuple) {
+    if (kind_ == record::to_host::RecordKind::Tuple) {
         ++converter_.recordCount;
         return !isToBeSent() || sendRecord(trailing, '\0', converter_.recordCount);
     }
@@ -57,14 +58,14 @@ bool TextRecords::sendRecord(std::string_view record, char terminator, std::uint
     if (monitor::MonitorStore* store = client_.tfSession->monitorStore()) store->recordSentRecord(record);
     if (!placeRecord(client_, record, PcBlank)) return false;
     const bool toSource = converter_.transferSettings->hostFileType == zhst::value::SourceFile;
-    if (record.empty() && (!toSource || terminator == EndOfFileByte)) return true;
-    return convertRecord(converter_, static_cast<std::uint32_t>(record.size()), recordNumber) &&
+    if (record.empty() && (!toSource || terminator == record::to_host::EndOfFileByte)) return true;
+    return record::to_host::convertRecord(converter_, static_cast<std::uint32_t>(record.size()), recordNumber) &&
            putRecord(client_, hostLength_, request::SendingTextRecord);
 }
 
 ReadOutcome TextRecords::refuseLongRecord() const {
-    const provider::HiddenDialog hidden(client_.progressDialog);
-    provider::showMessage({client_.session, client_.settings, client_.ownerWindow}, RecordTooLong);
+    const messages::HiddenDialog hidden(client_.progressDialog);
+    messages::showMessage({client_.session, client_.settings, client_.ownerWindow}, RecordTooLong);
     return ReadOutcome::Failure;
 }
 

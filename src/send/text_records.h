@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "client/client_object.h"
-#include "receive/record_converter.h"
-#include "send/record_finder.h"
+#include "record/record_converter.h"
+#include "record/to_host/record_finder.h"
 
 namespace send {
 
@@ -21,7 +21,7 @@ enum class ReadOutcome {
 // Sends the records of a text-like PC file, read by read.
 class TextRecords {
 public:
-    TextRecords(ZXFRPCSCLIENT& client, receive::RecordConverter& converter, std::uint32_t hostLength);
+    TextRecords(ZXFRPCSCLIENT& client, record::RecordConverter& converter, std::uint32_t hostLength);
 
     // Sends the records of `read`; one shorter than TextReadSize is the file's last. `complete` becomes the bytes of
     // the complete records: the next read begins behind them.
@@ -35,9 +35,9 @@ private:
     ReadOutcome refuseLongRecord() const;
 
     ZXFRPCSCLIENT& client_;
-    receive::RecordConverter& converter_;
+    record::RecordConverter& converter_;
     std::uint32_t hostLength_;
-    RecordKind kind_;
+    record::to_host::RecordKind kind_;
 };
 
 }  // namespace send

@@ -1,6 +1,6 @@
 #include <iterator>
 
-#include "client/library.h"
+#include "platform/own_module.h"
 #include "platform/posix/module.h"
 
 // The library is attached to the process when it is loaded; its module is the record of its string resources.
@@ -14,6 +14,6 @@ constexpr PosixModule::Row rows[] = {
 
 PosixModule ownModule = {rows, std::size(rows)};
 
-[[gnu::constructor]] void attach() { client::attachLibrary(&ownModule); }
+[[gnu::constructor]] void attach() { platform::attachLibrary(&ownModule); }
 
 }  // namespace

@@ -1,11 +1,11 @@
 #include <windows.h>
 
-#include "client/library.h"
+#include "platform/own_module.h"
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID) {
     if (reason == DLL_PROCESS_ATTACH) {
         DisableThreadLibraryCalls(module);
-        client::attachLibrary(module);
+        platform::attachLibrary(module);
     }
     return TRUE;
 }

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string_view>
+
+namespace record::to_host {
+
+// Takes a line end - CR LF, CR or LF - off the text; false when there is none.
+bool takeLineEnd(std::string_view& rest);
+
+// Takes one of the DIF text pieces off the text, letters compared without regard to case. Each CR LF of the piece
+// stands for any line end, the last one also for the end of the record. False, with the text as it was, when it is not
+// there.
+bool takeDifPiece(std::string_view& rest, std::string_view piece);
+
+}  // namespace record::to_host

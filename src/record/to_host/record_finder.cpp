@@ -1,0 +1,47 @@
+#include "record/to_host/record_finder.h"
+
+#include "record/dif_pieces.h"
+#include "text/double_byte.h"
+
+namespace record::to_host {
+namespace {
+
+namespace dif = record::dif;
+
+bool isLineEnd(char byte) { return byte == '\r' || byte == '\n' || byte == EndOfFileByte; }
+
+bool findLineEnd(std::string_view buffer, std::size_t& index) {
+    std::size_t at = index;
+    while (at < buffer.size() && !isLineEnd(buffer[at])) ++at;
+    if (at == buffer.size() || (at + 1 == buffer.size() && buffer[at] != EndOfFileByte)) return false;
+    index = at;
+    return true;
+}
+
+// A BOT line closes the tuple only behind a special value line.
+bool findTupleEnd(std::string_view buffer, std::size_t& index) {
+    bool specialSeen = false;
+    for (std::size_t at = index;; ++at) {
+        if (at < buffer.size() && buffer[at] == '\n') ++at;
+        const std::string_view line = buffer.substr(at < buffer.size() ? at : buffer.size());
+        if (text::startsWithNoCase(line, dif::EndWord) || !findLineEnd(buffer, at)) return false;
+        if (text::startsWithNoCase(line, dif::SpecialHead)) {
+            specialSeen = true;
+        } else if (text::startsWithNoCase(line, dif::BeginWord)) {
+            if (specialSeen) index = at;
+            return specialSeen;
+        }
+    }
+}
+
+}  // namespace
+
+bool findRecordEnd(RecordKind kind, std::string_view buffer, std::size_t& index) {
+    return kind == RecordKind::Tuple ? findTupleEnd(buffer, index) : findLineEnd(buffer, index);
+}
+
+std::size_t terminatorBytes(std::string_view buffer, std::size_t index) {
+    return index + 1 < buffer.size() && buffer[index + 1] == '\n' ? 2 : 1;
+}
+
+}  // namespace record::to_host
