@@ -101,24 +101,76 @@ enum ZhstErrorTable {
 
 /* Return codes of the transfer function in ascending order: place, code. The place is the index of the code's text in
    the transfer table, and its help topic. */
-#define ZHST_TRANSFER_CODES(X)                                                                                        \
-    X(500, 0x0103)                                                                                                    \
-    X(501, 0x0300) X(502, 0x0302) X(503, 0x0400) X(504, 0x1FFF) X(505, 0x2000) X(506, 0x2001) X(507, 0x2002)          \
-        X(508, 0x2003) X(509, 0x2004) X(510, 0x2005) X(511, 0x2007) X(512, 0x2008) X(513, 0x2009) X(514, 0x2010)      \
-            X(515, 0x2011) X(516, 0x2012) X(517, 0x2013) X(518, 0x2019) X(519, 0x2020) X(520, 0x2021) X(521, 0x2022)  \
-                X(522, 0x2023) X(523, 0x2024) X(524, 0x2025) X(525, 0x2026) X(526, 0x2027) X(527, 0x2028)             \
-                    X(528, 0x2029) X(529, 0x2030) X(530, 0x3000) X(531, 0x3100) X(532, 0x5042) X(533, 0x5048)         \
-                        X(534, 0x5050) X(535, 0x5052) X(536, 0x5054) X(537, 0x5056) X(538, 0x5058) X(539, 0x5060)     \
-                            X(540, 0x5062) X(541, 0x5064) X(542, 0x5066) X(543, 0x5067) X(544, 0x5071) X(545, 0x5310) \
-                                X(546, 0x5311) X(547, 0x5400) X(548, 0x9999)
+#define ZHST_TRANSFER_CODES(X) \
+    X(501, 0x0300)             \
+    X(502, 0x0302)             \
+    X(503, 0x0400)             \
+    X(504, 0x1FFF)             \
+    X(505, 0x2000)             \
+    X(506, 0x2001)             \
+    X(507, 0x2002)             \
+    X(508, 0x2003)             \
+    X(509, 0x2004)             \
+    X(510, 0x2005)             \
+    X(511, 0x2007)             \
+    X(512, 0x2008)             \
+    X(513, 0x2009)             \
+    X(514, 0x2010)             \
+    X(515, 0x2011)             \
+    X(516, 0x2012)             \
+    X(517, 0x2013)             \
+    X(518, 0x2019)             \
+    X(519, 0x2020)             \
+    X(520, 0x2021)             \
+    X(521, 0x2022)             \
+    X(522, 0x2023)             \
+    X(523, 0x2024)             \
+    X(524, 0x2025)             \
+    X(525, 0x2026)             \
+    X(526, 0x2027)             \
+    X(527, 0x2028)             \
+    X(528, 0x2029)             \
+    X(529, 0x2030)             \
+    X(530, 0x3000)             \
+    X(531, 0x3100)             \
+    X(532, 0x5042)             \
+    X(533, 0x5048)             \
+    X(534, 0x5050)             \
+    X(535, 0x5052)             \
+    X(536, 0x5054)             \
+    X(537, 0x5056)             \
+    X(538, 0x5058)             \
+    X(539, 0x5060)             \
+    X(540, 0x5062)             \
+    X(541, 0x5064)             \
+    X(542, 0x5066)             \
+    X(543, 0x5067)             \
+    X(544, 0x5071)             \
+    X(545, 0x5310)             \
+    X(546, 0x5311)             \
+    X(547, 0x5400)             \
+    X(548, 0x9999)
 
 /* Return codes of the emulator's own providers: code, help topic. All are below the first one of the transfer function.
    Their texts stand in the provider tables, by the code. */
-#define ZHST_PROVIDER_CODES(X)                                                                                      \
-    X(0x0005, 1200)                                                                                                 \
-    X(0x0006, 1201) X(0x0007, 1202) X(0x0016, 1203) X(0x001C, 1204) X(0x0032, 1205) X(0x0033, 1206) X(0x0037, 1207) \
-        X(0x0048, 1208) X(0x004B, 1209) X(0x0051, 1210) X(0x0087, 1211) X(0x00D4, 1240) X(0x00D5, 1241)             \
-            X(0x00D7, 1242) X(0x00D8, 1243) X(0x00EC, 1244) X(0x00F5, 1250)
+#define ZHST_PROVIDER_CODES(X) \
+    X(0x0006, 1201)            \
+    X(0x0007, 1202)            \
+    X(0x0016, 1203)            \
+    X(0x001C, 1204)            \
+    X(0x0032, 1205)            \
+    X(0x0033, 1206)            \
+    X(0x0037, 1207)            \
+    X(0x0048, 1208)            \
+    X(0x004B, 1209)            \
+    X(0x0051, 1210)            \
+    X(0x0087, 1211)            \
+    X(0x00D4, 1240)            \
+    X(0x00D5, 1241)            \
+    X(0x00D7, 1242)            \
+    X(0x00D8, 1243)            \
+    X(0x00EC, 1244)            \
+    X(0x00F5, 1250)
 
 enum ZhstMessage {
 #define ZHST_MESSAGE_NUMBER(number, name, inserts) ZhstMessage##name = number,

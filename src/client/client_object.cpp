@@ -25,6 +25,6 @@ bool ZXFRPCSCLIENT::isDemonstration() const {
 bool ZXFRPCSCLIENT::tfStart() {
     if (!tfSession) tfSession = client::makeTransferFunctionSession(session);
     if (tfSession) return tfSession->tfStart();
-    messages::showMessage(messageOwner(), messages::OutOfMemory);
+    messages::show(messageOwner(), zhst::message::OutOfMemory);
     return false;
 }

@@ -51,9 +51,9 @@ struct ZXFRPCSCLIENT {
     // would write over what stands there.
     bool isBusy() const { return transferRunning || (tfSession && tfSession->isWaiting()); }
 
-    messages::MessageOwner messageOwner() const { return {session, settings, mainWindow}; }
+    messages::Owner messageOwner() const { return {session, settings, mainWindow}; }
     // During a transfer, its owner window.
-    messages::MessageOwner dialogOwner() const {
+    messages::Owner dialogOwner() const {
         return {session, settings, transferRunning ? ownerWindow : mainWindow};
     }
 };

@@ -87,8 +87,8 @@ private:
 };
 
 void reportOutOfMemory(const ZXFRPCSCLIENT& client) {
-    messages::showMessage({client.session, client.settings, platform::GetLastActivePopup(client.mainWindow)},
-                          messages::OutOfMemory);
+    messages::show({client.session, client.settings, platform::GetLastActivePopup(client.mainWindow)},
+                          zhst::message::OutOfMemory);
 }
 
 bool makeSnapshotAndContext(ZXFRPCSCLIENT& client) {

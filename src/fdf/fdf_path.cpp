@@ -44,7 +44,7 @@ services::OwnedFile resolveFdfPath(const client::TransferContext& context, const
                                    char (&path)[PathSize]) {
     services::OwnedFile file(services::CreateFileObject(context.session));
     if (!file) {
-        messages::showMessage({context.session, context.settings, context.mainWindow}, messages::OutOfMemory);
+        messages::show({context.session, context.settings, context.mainWindow}, zhst::message::OutOfMemory);
         return file;
     }
     path[0] = '\0';

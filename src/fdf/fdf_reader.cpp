@@ -61,12 +61,12 @@ public:
 
     bool read(std::string_view text);
     bool fail(Message message) const {
-        messages::showMessage(owner(), message, path_);
+        messages::show(owner(), message, path_);
         return false;
     }
 
 private:
-    messages::MessageOwner owner() const { return {context_.session, context_.settings, context_.mainWindow}; }
+    messages::Owner owner() const { return {context_.session, context_.settings, context_.mainWindow}; }
     bool readLine(std::string_view line);
     bool readField(std::string_view line);
     bool readFileType(std::string_view line);
@@ -176,7 +176,7 @@ bool readText(const client::TransferContext& context, services::FileObject& file
     if (file.errorState()) return false;
     if (size == 0) return reader.fail(EmptyFile);
     if (text) return true;
-    messages::showMessage({context.session, context.settings, context.mainWindow}, messages::OutOfMemory);
+    messages::show({context.session, context.settings, context.mainWindow}, zhst::message::OutOfMemory);
     return false;
 }
 
@@ -186,7 +186,7 @@ bool readFdf(const client::TransferContext& context, const char* pcFileName, cha
     char path[PathSize] = {};
     Reader reader(context, path, names, capacity);
     if (!context.transferSettings->useDescriptionFile) {
-        messages::showMessage({context.session, context.settings, context.mainWindow}, DescriptionNotUsed);
+        messages::show({context.session, context.settings, context.mainWindow}, DescriptionNotUsed);
         return false;
     }
     const services::OwnedFile file =

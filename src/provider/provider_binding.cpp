@@ -158,11 +158,11 @@ Entry ProviderBinding::lookUp(services::ModuleHandle module, const char* name) c
 }
 
 bool ProviderBinding::fail(std::uint32_t messageId, const char* insert) const {
-    const messages::MessageOwner owner{session_, settings_, window_};
+    const messages::Owner owner{session_, settings_, window_};
     if (insert)
-        messages::showMessage(owner, messageId, insert);
+        messages::show(owner, messageId, insert);
     else
-        messages::showMessage(owner, messageId);
+        messages::show(owner, messageId);
     return false;
 }
 

@@ -108,7 +108,7 @@ bool TransferFunctionSession::allocateBuffer() {
     if (bufferHandle_) dataBuffer_ = static_cast<char*>(platform::GlobalLock(bufferHandle_));
     if (dataBuffer_) return true;
     freeBuffer();
-    messages::showMessage(messageOwner(), BufferNotAllocated);
+    messages::show(messageOwner(), BufferNotAllocated);
     return false;
 }
 

@@ -79,7 +79,7 @@ public:
     static void yieldToDialog();
 
 private:
-    messages::MessageOwner messageOwner() const { return {session_, settings_, sessionWindow_}; }
+    messages::Owner messageOwner() const { return {session_, settings_, sessionWindow_}; }
     bool isDemonstration() const;
     void adjustRouterKind();
     bool allocateBuffer();

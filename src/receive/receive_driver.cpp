@@ -93,9 +93,9 @@ private:
     }
     bool goesOn() const { return client_.cancelRequested == 0; }
     void command(ProgressCommand code) { services::ProgressDialogCommand(client_.progressDialog, code); }
-    messages::MessageOwner owner() const { return {client_.session, client_.settings, client_.ownerWindow}; }
+    messages::Owner owner() const { return {client_.session, client_.settings, client_.ownerWindow}; }
     bool fail(std::uint32_t message) const {
-        messages::showMessage(owner(), message);
+        messages::show(owner(), message);
         return false;
     }
 
@@ -150,7 +150,7 @@ void ReceiveRun::resetJobSettings() {
 bool ReceiveRun::createProgressDialog() {
     const std::uint32_t mode = !client_.showProgress ? 0 : settings_.recordProgress == 1 ? 1 : 2;
     client_.progressDialog = services::ProgressDialogCreate(client_.session, services::FromHost, mode, 0);
-    if (!client_.progressDialog) return fail(messages::OutOfMemory);
+    if (!client_.progressDialog) return fail(zhst::message::OutOfMemory);
     if (client_.showProgress) {
         services::ProgressDialogSetPcName(client_.progressDialog, client_.pcFileName);
         services::ProgressDialogSetHostName(client_.progressDialog, client_.hostFileName);
@@ -173,7 +173,7 @@ bool ReceiveRun::countRecords() {
         const messages::HiddenDialog hidden(client_.progressDialog);
         if (services::IsMessageEnabled(client_.settings, 0))
             services::ShowMessage(client_.session, client_.ownerWindow, services::MessageId(TextTable, NoRecordsText),
-                                  messages::BoxFlags, 1, NoRecordsHelp);
+                                  messages::Box::ExclamationAndOk, 1, NoRecordsHelp);
         return false;
     }
     expectedCount_ = count;
@@ -209,7 +209,7 @@ bool ReceiveRun::readFields() {
     converter_ = services::Owned<record::RecordConverter>::make(
         client_.session, client_.tfSession.get(), client_.transferContext.get(), client_.transferSettings.get(),
         client_.textDisplay, expectedCount_);
-    if (!converter_) return fail(messages::OutOfMemory);
+    if (!converter_) return fail(zhst::message::OutOfMemory);
     // Without descriptions the record loop goes on: there the provider says what became of the request.
     converter_->readHostFields(client_.progressDialog, false);
     if (!client_.tfSession->isStarted() || !goesOn()) return false;

@@ -19,7 +19,7 @@ bool launchSpreadsheet(const ZXFRPCSCLIENT& client) {
     const std::int32_t result = platform::ShellExecuteA(client.mainWindow, "open", file, parameters, "", NormalWindow);
     if (result >= FirstSuccess) return true;
     if (services::IsMessageEnabled(client.settings, ProgramNotStarted))
-        services::ShowMessage3(client.session, client.ownerWindow, ProgramNotStarted, messages::BoxFlags, 1,
+        services::ShowMessage3(client.session, client.ownerWindow, ProgramNotStarted, messages::Box::ExclamationAndOk, 1,
                                ProgramNotStarted, services::insert(client.pcFileName),
                                services::insert(static_cast<std::uint32_t>(result)), services::insert(" "));
     return false;

@@ -15,7 +15,7 @@ std::uint32_t binaryTextWidth(std::uint32_t bytes) { return bytes <= 2 ? 6 : byt
 
 }  // namespace
 
-HostField::HostField(const messages::MessageOwner& owner, const char* description,
+HostField::HostField(const messages::Owner& owner, const char* description,
                      const settings::TransferSettings* transferSettings)
     : owner_(owner), transferSettings_(transferSettings) {
     std::memcpy(description_, description, DescriptionSize);

@@ -37,7 +37,7 @@ struct FieldLength {
 class HostField {
 public:
     // Takes 40 bytes of description. The name keeps at most 29 characters, without trailing blanks.
-    HostField(const messages::MessageOwner& owner, const char* description,
+    HostField(const messages::Owner& owner, const char* description,
               const settings::TransferSettings* transferSettings);
 
     std::uint8_t type() const { return static_cast<std::uint8_t>(description_[0]); }
@@ -70,7 +70,7 @@ private:
 
     bool dropsPadNibble(std::uint32_t bytes) const;
 
-    messages::MessageOwner owner_;
+    messages::Owner owner_;
     char description_[DescriptionSize] = {};
     const settings::TransferSettings* transferSettings_;
 };

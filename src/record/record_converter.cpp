@@ -71,7 +71,7 @@ bool RecordConverter::addField(std::string_view description, bool forSend, servi
         forSend ? store->recordSendField(description) : store->recordReceiveField(description);
     auto field = services::Owned<HostField>::make(messageOwner(), description.data(), transferSettings);
     if (!field) {
-        messages::showMessage(messageOwner(), messages::OutOfMemory);
+        messages::show(messageOwner(), zhst::message::OutOfMemory);
         return false;
     }
     fields.append(std::move(field));
@@ -91,7 +91,7 @@ bool RecordConverter::pcToHost(const char* source, char* destination, std::uint3
 bool RecordConverter::converted(std::uint32_t result) const {
     if (result == 0) return true;
     if (tfSession->codePage().lacksTables())
-        messages::showMessage(messageOwner(), messages::OutOfMemory);
+        messages::show(messageOwner(), zhst::message::OutOfMemory);
     else if (tfSession->codePage().lacksTextServices())
         messages::showOwnText(messageOwner(), NoTextServices);
     else

@@ -62,7 +62,7 @@ struct RecordConverter {
                   std::uint32_t* convertedLength) const;
     bool pcToHost(const char* source, char* destination, std::uint32_t length, std::uint32_t destinationLength) const;
 
-    messages::MessageOwner messageOwner() const { return {session, settings, mainWindow}; }
+    messages::Owner messageOwner() const { return {session, settings, mainWindow}; }
 
     services::SessionHandle session;
     provider::TransferFunctionSession* tfSession;

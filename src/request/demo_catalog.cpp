@@ -74,7 +74,7 @@ std::uint32_t deliver(const ZXFRPCSCLIENT& client, HostCatalogEntry& entry) {
 std::uint32_t firstDemoEntry(ZXFRPCSCLIENT& client, const char* filter, HostCatalogEntry& entry) {
     client.demoIndex = 0;
     if (client.workText && client.workText->assign(filter)) return deliver(client, entry);
-    messages::showMessage(client.messageOwner(), messages::OutOfMemory);
+    messages::show(client.messageOwner(), zhst::message::OutOfMemory);
     return CatalogFailure;
 }
 

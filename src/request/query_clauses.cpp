@@ -55,14 +55,14 @@ bool applyFileQualifiers(ZXFRPCSCLIENT& client, text::TextBuffer& text, std::uin
         case Replacement::DoesNotFit:
             return refuseLongStatement(client);
         default:
-            messages::showMessage(client.dialogOwner(), messages::OutOfMemory);
+            messages::show(client.dialogOwner(), zhst::message::OutOfMemory);
             return false;
     }
 }
 
 bool composeQueryClauses(ZXFRPCSCLIENT& client, bool stopAfterWhere, bool groupingOnly) {
     if (!client.requestText) {
-        messages::showMessage(client.dialogOwner(), messages::OutOfMemory);
+        messages::show(client.dialogOwner(), zhst::message::OutOfMemory);
         return false;
     }
     const auto entry = client.sessionServices ? client.sessionServices->getTransferClauses() : nullptr;

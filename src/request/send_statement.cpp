@@ -11,7 +11,7 @@ namespace {
 constexpr std::size_t NumberText = 16;
 
 bool failWithoutMemory(const ZXFRPCSCLIENT& client) {
-    messages::showMessage(client.messageOwner(), messages::OutOfMemory);
+    messages::show(client.messageOwner(), zhst::message::OutOfMemory);
     return false;
 }
 

@@ -22,13 +22,13 @@ bool endData(const record::RecordConverter& converter) {
 }  // namespace
 
 bool refuseDifValue(const record::RecordConverter& converter) {
-    messages::showMessage(converter.messageOwner(), BadDifValue);
+    messages::show(converter.messageOwner(), BadDifValue);
     return endData(converter);
 }
 
 bool refuseNumber(const record::RecordConverter& converter, std::uint32_t recordNumber, std::uint32_t fieldNumber) {
     services::ShowMessage2(converter.session, converter.mainWindow, services::MessageId(TextTable, BadNumberText),
-                           messages::BoxFlags, 1, ConversionHelp, services::insert(recordNumber),
+                           messages::Box::ExclamationAndOk, 1, ConversionHelp, services::insert(recordNumber),
                            services::insert(fieldNumber));
     return endData(converter);
 }
@@ -36,13 +36,13 @@ bool refuseNumber(const record::RecordConverter& converter, std::uint32_t record
 bool refuseEmptyField(const record::RecordConverter& converter, const record::HostField& field) {
     char name[ShownName + 1];
     text::copyCut(field.name(), name, sizeof(name));
-    messages::showMessage(converter.messageOwner(), EmptyFieldMessage, name);
+    messages::show(converter.messageOwner(), EmptyFieldMessage, name);
     return false;
 }
 
 bool refuseShortHostRecord(const record::RecordConverter& converter) {
     services::ShowMessage(converter.session, converter.mainWindow, services::MessageId(TextTable, ShortHostRecordText),
-                          messages::BoxFlags, 1, ConversionHelp);
+                          messages::Box::ExclamationAndOk, 1, ConversionHelp);
     return endData(converter);
 }
 

@@ -70,9 +70,9 @@ private:
         services::SetSetting(client_.settings, id::ProgressCount,
                              static_cast<std::int32_t>(client_.fileObject->position()));
     }
-    messages::MessageOwner owner() const { return {client_.session, client_.settings, client_.ownerWindow}; }
+    messages::Owner owner() const { return {client_.session, client_.settings, client_.ownerWindow}; }
     bool fail(std::uint32_t message) const {
-        messages::showMessage(owner(), message);
+        messages::show(owner(), message);
         return false;
     }
     bool failText(const char* text) const {
@@ -110,7 +110,7 @@ bool SendRun::createProgressDialog() {
         services::ProgressDialogCreate(client_.session, services::ToHost, client_.showProgress ? 1 : 0, 0);
     if (!client_.progressDialog) {
         const services::WindowHandle popup = platform::GetLastActivePopup(client_.mainWindow);
-        messages::showMessage({client_.session, client_.settings, popup}, messages::OutOfMemory);
+        messages::show({client_.session, client_.settings, popup}, zhst::message::OutOfMemory);
         return false;
     }
     if (client_.showProgress) {
@@ -121,7 +121,7 @@ bool SendRun::createProgressDialog() {
 }
 
 bool SendRun::openPcFile() {
-    return client_.fileObject ? client_.fileObject->openForReading() : fail(messages::OutOfMemory);
+    return client_.fileObject ? client_.fileObject->openForReading() : fail(zhst::message::OutOfMemory);
 }
 
 bool SendRun::composeRequests(std::string_view& options) {
@@ -135,7 +135,7 @@ bool SendRun::allocateReadBuffer() {
     readBuffer_ = services::OwnedBytes::make(ReadBufferSize, false);
     if (readBuffer_) return true;
     const messages::HiddenDialog hidden(client_.progressDialog);
-    return fail(messages::OutOfMemory);
+    return fail(zhst::message::OutOfMemory);
 }
 
 bool SendRun::sendRequest() {
@@ -170,7 +170,7 @@ bool SendRun::readLayout() {
     if (!request::sessionStands(client_)) return false;
     converter_ = services::Owned<record::RecordConverter>::make(
         client_.session, client_.tfSession.get(), client_.transferContext.get(), client_.transferSettings.get(), 0, 0);
-    if (!converter_) return fail(messages::OutOfMemory);
+    if (!converter_) return fail(zhst::message::OutOfMemory);
     converter_->readHostFields(client_.progressDialog, true);
     // A list that was cut short, which has been reported, would give records of another layout than the host's.
     if (converter_->fieldResult.returnCode != TF_NO_MORE_DATA || !takeHostLength()) return false;
@@ -178,7 +178,7 @@ bool SendRun::readLayout() {
     const std::uint32_t bytes = std::max(hostLength_, 1u);
     converter_->hostRecord = services::OwnedBytes::make(bytes, true);
     converter_->fieldBuffer = services::OwnedBytes::make(bytes, true);
-    return (converter_->hostRecord && converter_->fieldBuffer) || fail(messages::OutOfMemory);
+    return (converter_->hostRecord && converter_->fieldBuffer) || fail(zhst::message::OutOfMemory);
 }
 
 bool SendRun::takeHostLength() {

@@ -65,7 +65,7 @@ bool TextRecords::sendRecord(std::string_view record, char terminator, std::uint
 
 ReadOutcome TextRecords::refuseLongRecord() const {
     const messages::HiddenDialog hidden(client_.progressDialog);
-    messages::showMessage({client_.session, client_.settings, client_.ownerWindow}, RecordTooLong);
+    messages::show({client_.session, client_.settings, client_.ownerWindow}, RecordTooLong);
     return ReadOutcome::Failure;
 }
 

@@ -55,7 +55,7 @@ bool toBinaryRecord(RecordConverter& converter, std::string_view hostRecord, ser
     const auto hostLength = static_cast<std::uint32_t>(hostRecord.size());
     work = services::OwnedBytes::make(std::max<std::uint32_t>(hostLength, 1), true);
     if (!work) {
-        messages::showMessage(converter.messageOwner(), messages::OutOfMemory);
+        messages::show(converter.messageOwner(), zhst::message::OutOfMemory);
         return false;
     }
     length = 0;

@@ -219,7 +219,7 @@ bool toDelimitedRecord(RecordConverter& converter, std::string_view hostRecord, 
         length = out.length();
     }
     if (work && !out.failed()) return true;
-    messages::showMessage(converter.messageOwner(), messages::OutOfMemory);
+    messages::show(converter.messageOwner(), zhst::message::OutOfMemory);
     return false;
 }
 
