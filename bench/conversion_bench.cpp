@@ -1,14 +1,15 @@
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
 #include "bench/host_file.h"
 #include "emulator/emulator.h"
-#include "record/to_pc/binary_record.h"
-#include "record/to_pc/delimited_record.h"
+#include "provider/transfer_function_session.h"
 #include "record/to_pc/number_text.h"
-#include "settings/pc_file_types.h"
+#include "record/to_pc/record_to_pc.h"
+#include "settings/transfer_settings.h"
 
 // The conversions of a receive, without provider, monitor store and file.
 namespace bench {
@@ -34,16 +35,16 @@ struct Conversion {
         : session(sessionFor(fileType)),
           functions(session, ignoreSetting, doNotYield),
           snapshot(session, &functions),
-          converter(session, &functions, nullptr, &snapshot, 0, 0) {
-        for (const Field& field : fields())
-            converter.fields.append(services::Owned<record::HostField>::make(converter.messageOwner(),
-                                                                             field.description.data(), &snapshot));
+          layout(record::FileRules(snapshot, fileType)),
+          records(layout, functions.codePage(), snapshot.settings, 0) {
+        for (const Field& field : fields()) layout.append(field.description);
     }
 
     ZhstSession session;
     provider::TransferFunctionSession functions;
     settings::TransferSettings snapshot;
-    record::RecordConverter converter;
+    record::HostLayout layout;
+    record::to_pc::RecordToPc records;
 };
 
 std::string_view nextRecord(std::uint32_t& number) {
@@ -53,12 +54,12 @@ std::string_view nextRecord(std::uint32_t& number) {
 
 void numberText(benchmark::State& state, std::int32_t fileType, const Field& field) {
     Conversion conversion(fileType);
-    const record::HostField hostField(conversion.converter.messageOwner(), field.description.data(),
-                                      &conversion.snapshot);
+    const record::PlannedField planned(field.description, conversion.layout.rules());
+    char text[2 * RecordLength + 600];
     std::uint32_t number = 0;
     for ([[maybe_unused]] const auto iteration : state)
-        benchmark::DoNotOptimize(record::to_pc::formatNumericField(hostField, nextRecord(number).data() + field.offset,
-                                                                   conversion.converter.numberText));
+        benchmark::DoNotOptimize(
+            record::to_pc::formatNumericField(planned.plan, nextRecord(number).data() + field.offset, text));
     state.SetItemsProcessed(state.iterations());
 }
 
@@ -72,18 +73,18 @@ void pcText(benchmark::State& state, const Field& field) {
     state.SetItemsProcessed(state.iterations());
 }
 
-using ToRecord = bool (*)(record::RecordConverter&, std::string_view, services::OwnedBytes&, std::uint32_t&);
-
-void pcRecord(benchmark::State& state, std::int32_t fileType, ToRecord toRecord) {
+void pcRecord(benchmark::State& state, std::int32_t fileType) {
     Conversion conversion(fileType);
     std::uint32_t number = 0;
     std::uint64_t bytes = 0;
     for ([[maybe_unused]] const auto iteration : state) {
-        services::OwnedBytes record;
-        std::uint32_t length = 0;
-        if (!toRecord(conversion.converter, nextRecord(number), record, length))
+        const std::string_view hostRecord = nextRecord(number);
+        char buffer[TF_BUFFER_SIZE];
+        std::copy(hostRecord.begin(), hostRecord.end(), buffer);
+        record::to_pc::PcRecord record;
+        if (!conversion.records.convert(buffer, RecordLength, sizeof(buffer), record).isConverted())
             return state.SkipWithError("a record could not be converted");
-        bytes += length;
+        bytes += record.bytes.size();
     }
     state.SetItemsProcessed(state.iterations());
     state.SetBytesProcessed(static_cast<std::int64_t>(bytes));
@@ -107,10 +108,8 @@ const bool registered = [] {
     }
     for (const settings::PcFileTypeRow& row : settings::pcFileTypes) {
         if (row.type == settings::NoConversion) continue;
-        const ToRecord toRecord = row.isText ? record::to_pc::toDelimitedRecord : record::to_pc::toBinaryRecord;
-        benchmark::RegisterBenchmark(
-            (std::string("record/") + row.name).c_str(),
-            [&row, toRecord](benchmark::State& state) { pcRecord(state, row.type, toRecord); });
+        benchmark::RegisterBenchmark((std::string("record/") + row.name).c_str(),
+                                     [&row](benchmark::State& state) { pcRecord(state, row.type); });
     }
     return true;
 }();

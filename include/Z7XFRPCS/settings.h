@@ -80,21 +80,19 @@
     X(RouterKind, RouterAs400, 2)                 \
     X(TransportType, TransportAs400, 30)
 
-/* The seven PC file types, values of SendFileType and ReceiveFileType: number, name, short name, progress dialog
-   command that shows the type. AsciiText        fields at fixed positions, a line each BasicSequential  commas,
-   character fields always in double quotes CommaSeparated   the locale's list separator, double quotes where needed
-     BasicRandom      binary records of the host record length, in the PC's number forms
-     NoConversion     host record bytes unchanged
-     TabDelimited     tabs, double quotes where needed
-     Dif              data interchange format */
-#define ZHST_PC_FILE_TYPES(X)          \
-    X(0, AsciiText, "text", 29)        \
-    X(1, BasicSequential, "basic", 34) \
-    X(2, CommaSeparated, "csv", 32)    \
-    X(3, BasicRandom, "random", 30)    \
-    X(4, NoConversion, "none", 31)     \
-    X(5, TabDelimited, "tab", 33)      \
-    X(6, Dif, "dif", 35)
+/* The seven PC file types, values of SendFileType and ReceiveFileType: number, name, short name, command of the
+   progress dialog that shows the type, then what its records are: form       Lines of text, Tuples of DIF, Binary
+   fields at the host's positions, or the host's bytes Unchanged separator  between fields: None, Comma, Tab, or List,
+   which is the locale's quotes     double quotes around character fields: Never, WhereNeeded or Always hex hexadecimal
+   digits stand Bare or Quoted */
+#define ZHST_PC_FILE_TYPES(X)                                        \
+    X(0, AsciiText, "text", 29, Lines, None, Never, Bare)            \
+    X(1, BasicSequential, "basic", 34, Lines, Comma, Always, Quoted) \
+    X(2, CommaSeparated, "csv", 32, Lines, List, WhereNeeded, Bare)  \
+    X(3, BasicRandom, "random", 30, Binary, None, Never, Bare)       \
+    X(4, NoConversion, "none", 31, Unchanged, None, Never, Bare)     \
+    X(5, TabDelimited, "tab", 33, Lines, Tab, WhereNeeded, Bare)     \
+    X(6, Dif, "dif", 35, Tuples, None, Always, Quoted)
 
 enum ZhstSetting {
 #define ZHST_SETTING_NUMBER(number, name, kind) ZhstSetting##name = number,
@@ -109,7 +107,7 @@ enum ZhstSettingValue {
 };
 
 enum ZhstPcFileType {
-#define ZHST_PC_FILE_TYPE(number, name, shortName, command) Zhst##name = number,
+#define ZHST_PC_FILE_TYPE(number, name, shortName, command, form, separator, quotes, hex) Zhst##name = number,
     ZHST_PC_FILE_TYPES(ZHST_PC_FILE_TYPE)
 #undef ZHST_PC_FILE_TYPE
 };

@@ -53,9 +53,7 @@ struct ZXFRPCSCLIENT {
 
     messages::Owner messageOwner() const { return {session, settings, mainWindow}; }
     // During a transfer, its owner window.
-    messages::Owner dialogOwner() const {
-        return {session, settings, transferRunning ? ownerWindow : mainWindow};
-    }
+    messages::Owner dialogOwner() const { return {session, settings, transferRunning ? ownerWindow : mainWindow}; }
 };
 static_assert(offsetof(ZXFRPCSCLIENT, moreRequested) == 0);
 static_assert(offsetof(ZXFRPCSCLIENT, displayClosed) == 4);

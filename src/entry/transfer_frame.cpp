@@ -88,7 +88,7 @@ private:
 
 void reportOutOfMemory(const ZXFRPCSCLIENT& client) {
     messages::show({client.session, client.settings, platform::GetLastActivePopup(client.mainWindow)},
-                          zhst::message::OutOfMemory);
+                   zhst::message::OutOfMemory);
 }
 
 bool makeSnapshotAndContext(ZXFRPCSCLIENT& client) {

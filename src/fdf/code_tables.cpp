@@ -45,9 +45,9 @@ constexpr FieldTypeCodes FdfFieldTypesText{2, 2, 1, 2, 2};  // 1 = character, 2 
 constexpr FieldTypeCodes FdfFieldTypesRandom{3, 4, 1, 5, 6};
 constexpr FieldTypeCodes FdfFieldTypesNoConversion{3, 4, 10, 11, 12};
 
-const FieldTypeCodes& fieldTypes(std::int32_t pcFileType) {
-    if (settings::isTextLike(pcFileType)) return FdfFieldTypesText;
-    return pcFileType == settings::BasicRandom ? FdfFieldTypesRandom : FdfFieldTypesNoConversion;
+const FieldTypeCodes& fieldTypes(const settings::PcFileTypeRow& pcFileType) {
+    if (pcFileType.isText()) return FdfFieldTypesText;
+    return pcFileType.form == settings::RecordForm::Binary ? FdfFieldTypesRandom : FdfFieldTypesNoConversion;
 }
 
 }  // namespace
@@ -69,7 +69,7 @@ std::int32_t valueToFdfCode(FdfCodeTable table, std::int32_t value) {
     return row == table.end() ? NoCode : row->code;
 }
 
-std::int32_t fieldTypeCode(std::int32_t pcFileType, std::uint8_t hostFieldType) {
+std::int32_t fieldTypeCode(const settings::PcFileTypeRow& pcFileType, std::uint8_t hostFieldType) {
     const FieldTypeCodes& codes = fieldTypes(pcFileType);
     switch (hostFieldType) {
         case record::Hex:

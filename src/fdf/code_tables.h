@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <span>
 
+#include "settings/pc_file_types.h"
+
 // The codes of PC file descriptions and the system's own values behind them; one set of tables for reading and writing.
 namespace fdf {
 
@@ -28,6 +30,6 @@ extern const FdfCodeTable FdfDecimalSeparators;
 
 // PCFL: the type code of a host field type in a PC file of a type. A host type without a row of its own is written as
 // character.
-std::int32_t fieldTypeCode(std::int32_t pcFileType, std::uint8_t hostFieldType);
+std::int32_t fieldTypeCode(const settings::PcFileTypeRow& pcFileType, std::uint8_t hostFieldType);
 
 }  // namespace fdf

@@ -5,6 +5,7 @@
 #include "Z7XFRPCS/settings.h"
 #include "fdf/code_tables.h"
 #include "fdf/fdf_path.h"
+#include "provider/transfer_function_session.h"
 #include "settings/pc_file_types.h"
 
 namespace fdf {
@@ -15,15 +16,15 @@ namespace id = zhst::setting;
 constexpr std::uint32_t LineSize = 256;
 
 // Written and published; false when the write failed.
-bool writeText(const record::RecordConverter& converter, services::FileObject& file, const char* text, int length) {
+bool writeText(const client::TransferContext& context, services::FileObject& file, const char* text, int length) {
     if (length < 0 || !file.write(text, static_cast<std::uint32_t>(length))) return false;
-    if (monitor::MonitorStore* store = converter.tfSession->monitorStore())
+    if (monitor::MonitorStore* store = context.tfSession->monitorStore())
         store->recordReceiveDescription({text, static_cast<std::size_t>(length)});
     return true;
 }
 
-bool writeHead(const record::RecordConverter& converter, services::FileObject& file) {
-    const settings::TransferSettings& options = *converter.transferSettings;
+bool writeHead(const client::TransferContext& context, services::FileObject& file) {
+    const settings::TransferSettings& options = *context.transferSettings;
     const std::int32_t decimal = valueToFdfCode(FdfDecimalSeparators, options.decimalSeparatorMode);
     char decimalText[12] = "*";
     if (decimal != NoCode) std::snprintf(decimalText, sizeof(decimalText), "%d", decimal);
@@ -34,40 +35,40 @@ bool writeHead(const record::RecordConverter& converter, services::FileObject& f
                                      valueToFdfCode(FdfTimeSeparators, options.timeSeparator),
                                      valueToFdfCode(FdfDateFormats, options.dateFormat),
                                      valueToFdfCode(FdfDateSeparators, options.dateSeparator), decimalText);
-    return writeText(converter, file, text, length);
+    return writeText(context, file, text, length);
 }
 
 // The length as the PC file has it: of a number in a text file the declared digits, with room for sign and point unless
 // FdfNumericLengthMode says otherwise.
-void formatLength(const record::HostField& field, services::SettingsHandle settings, char (&text)[32]) {
-    const record::FieldLength length = field.fieldLength();
-    if (length.isCharacter() || !settings::isTextLike(field.transferSettings().receiveFileType)) {
-        std::snprintf(text, sizeof(text), "%d", static_cast<int>(length.bytes));
+void formatLength(const record::HostField& field, bool isText, services::SettingsHandle settings, char (&text)[32]) {
+    if (field.isCharacter() || !isText) {
+        std::snprintf(text, sizeof(text), "%d", static_cast<int>(field.length()));
         return;
     }
     const int extra = services::GetSetting(settings, id::FdfNumericLengthMode) == 0 ? 1 : 0;
     const int digits = static_cast<int>(field.precision()) + extra;
-    if (length.decimals > 0)
-        std::snprintf(text, sizeof(text), "%d/%d", digits + extra, length.decimals);
+    if (field.decimals() > 0)
+        std::snprintf(text, sizeof(text), "%d/%d", digits + extra, field.decimals());
     else
         std::snprintf(text, sizeof(text), "%d", digits);
 }
 
-void writeFdfFieldLines(const record::RecordConverter& converter, services::FileObject& file) {
-    for (const record::HostField& field : converter.fields) {
+void writeFdfFieldLines(const client::TransferContext& context, const record::HostLayout& layout,
+                        services::FileObject& file) {
+    const settings::PcFileTypeRow& type = layout.rules().type;
+    for (const record::PlannedField& each : layout) {
         char length[32];
-        formatLength(field, converter.settings, length);
-        const std::int32_t code = fieldTypeCode(converter.transferSettings->receiveFileType, field.type());
+        formatLength(each.field, type.isText(), context.settings, length);
         char line[LineSize];
-        const int count = std::snprintf(line, sizeof(line), "%s %s %d %s\r\n", "PCFL", field.name(), code, length);
-        if (!writeText(converter, file, line, count)) return;
+        const int count = std::snprintf(line, sizeof(line), "%s %s %d %s\r\n", "PCFL", each.field.name(),
+                                        fieldTypeCode(type, each.field.type()), length);
+        if (!writeText(context, file, line, count)) return;
     }
 }
 
 }  // namespace
 
-void writeFdf(const record::RecordConverter& converter, const char* pcFileName) {
-    const client::TransferContext& context = *converter.transferContext;
+void writeFdf(const client::TransferContext& context, const record::HostLayout& layout, const char* pcFileName) {
     const std::int32_t mode = services::GetSetting(context.settings, id::ExistingFileAction);
     char path[PathSize];
     const services::OwnedFile file =
@@ -79,7 +80,7 @@ void writeFdf(const record::RecordConverter& converter, const char* pcFileName) 
     // A description is never appended to.
     file->setExistingFileAction(static_cast<std::uint32_t>(mode == zhst::value::Append ? zhst::value::Replace : mode));
     if (mode == zhst::value::AskUser) file->prepareNewFile();
-    if (file->openForWriting() && writeHead(converter, *file)) writeFdfFieldLines(converter, *file);
+    if (file->openForWriting() && writeHead(context, *file)) writeFdfFieldLines(context, layout, *file);
     file->close();
 }
 

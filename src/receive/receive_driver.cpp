@@ -4,12 +4,15 @@
 #include "Z7XFRPCS/settings.h"
 #include "client/demonstration.h"
 #include "fdf/fdf_writer.h"
+#include "messages/own_sentences.h"
 #include "platform/platform.h"
+#include "receive/conversion_failure.h"
+#include "receive/dif_header.h"
 #include "receive/spreadsheet.h"
 #include "record/dif_pieces.h"
-#include "record/record_converter.h"
-#include "record/to_pc/dif_header.h"
-#include "record/to_pc/record_conversion.h"
+#include "record/to_pc/display_table.h"
+#include "record/to_pc/record_to_pc.h"
+#include "request/field_descriptions.h"
 #include "request/options_clause.h"
 #include "request/query_clauses.h"
 #include "request/select_statement.h"
@@ -22,27 +25,20 @@ namespace {
 namespace id = zhst::setting;
 using services::ProgressCommand;
 
-enum Message : std::uint32_t {
-    SeparatorsAlike = 4433,
-    DisplayNotBegun = 4436,
-    DifNotAppended = 4682,
-};
-
-constexpr std::uint32_t TextTable = 7;
-constexpr std::uint32_t NoRecordsText = 416;
-constexpr std::uint32_t DisplayTitleText = 418;
-constexpr std::uint32_t MoreText = 432;
-constexpr std::uint32_t DisplayNameText = 434;
-constexpr std::uint32_t NoRecordsHelp = 124;
-
-constexpr char RecordTooLong[] =
-    "The host returned a record that is longer than 4096 bytes. The transfer ends with the record before it.";
-
 // Progress is shown for every record of a small result, and in larger steps for larger ones.
 bool isProgressStep(std::int32_t expectedCount, std::int32_t recordNumber) {
     if (expectedCount <= 200) return true;
     return recordNumber % (expectedCount < 500 ? 50 : 100) == 0;
 }
+
+// What converts the records of a run, made once the query is accepted.
+struct Conversion {
+    Conversion(const record::FileRules& rules, const ZXFRPCSCLIENT& client, services::TextDisplayHandle display)
+        : layout(rules), records(layout, client.tfSession->codePage(), client.settings, display) {}
+
+    record::HostLayout layout;
+    record::to_pc::RecordToPc records;
+};
 
 // One transfer from the host. Each step is true when the next one may follow.
 class ReceiveRun {
@@ -63,6 +59,7 @@ private:
     bool createProgressDialog();
     bool transfer();
     bool countRecords();
+    bool tellNoRecords();
     bool sendRequests();
     bool sendOptions();
     bool sendQuery();
@@ -107,7 +104,7 @@ private:
     std::int32_t pageLine_ = 0;
     char titleText_[40] = {};
     char moreText_[80] = {};
-    services::Owned<record::RecordConverter> converter_;
+    services::Owned<Conversion> conversion_;
 };
 
 void ReceiveRun::run() {
@@ -126,18 +123,17 @@ void ReceiveRun::run() {
 bool ReceiveRun::settingsFit() {
     if (settings_.receiveFileType == settings::CommaSeparated && settings_.decimalSeparator == ',' &&
         settings_.listSeparator == ',')
-        return fail(SeparatorsAlike);
-    return !isDif() || !existingFileActionIs(zhst::value::Append) || fail(DifNotAppended);
+        return fail(zhst::message::SeparatorsAlike);
+    return !isDif() || !existingFileActionIs(zhst::value::Append) || fail(zhst::message::DifNotAppended);
 }
 
 void ReceiveRun::prepareDisplay() {
-    services::LoadMessageText(client_.session, TextTable, DisplayTitleText, titleText_, sizeof(titleText_));
+    messages::loadText(client_.session, zhst::text::DisplayTitle, titleText_);
     const services::TextDisplayParameters parameters = {
         client_.ownerWindow,          client_.session, titleText_, TextDisplayMoreNotification, 0,
         TextDisplayCloseNotification, &client_};
     client_.textDisplay = services::TextDisplayCreate(&parameters);
-    services::LoadMessageText(client_.session, TextTable, DisplayNameText, client_.pcFileName,
-                              sizeof(client_.pcFileName));
+    messages::loadText(client_.session, zhst::text::DisplayName, client_.pcFileName);
 }
 
 void ReceiveRun::resetJobSettings() {
@@ -169,18 +165,21 @@ bool ReceiveRun::countRecords() {
     command(ProgressCommand::CountingRecords);
     const std::int32_t count = request::queryRecordCount(client_);
     if (count < 0) return false;
-    if (count == 0) {
-        const messages::HiddenDialog hidden(client_.progressDialog);
-        if (services::IsMessageEnabled(client_.settings, 0))
-            services::ShowMessage(client_.session, client_.ownerWindow, services::MessageId(TextTable, NoRecordsText),
-                                  messages::Box::ExclamationAndOk, 1, NoRecordsHelp);
-        return false;
-    }
+    if (count == 0) return tellNoRecords();
     expectedCount_ = count;
     services::SetSetting(client_.settings, id::JobRecordsTotal, count);
     services::SetSetting(client_.settings, id::TransferDirection, services::FromHost);
     services::ProgressDialogSetTotal(client_.progressDialog, static_cast<std::uint32_t>(count), services::Records);
     return true;
+}
+
+bool ReceiveRun::tellNoRecords() {
+    const messages::HiddenDialog hidden(client_.progressDialog);
+    if (messages::isEnabled(owner(), messages::Box::InGeneral))
+        messages::show(
+            owner(),
+            messages::boxOf(zhst::text::NoRecords).gatedBy(messages::Box::NoGate).withHelp(zhst::help::Transfer));
+    return false;
 }
 
 bool ReceiveRun::sendRequests() { return sendOptions() && sendQuery(); }
@@ -206,12 +205,12 @@ bool ReceiveRun::sendQuery() {
 
 bool ReceiveRun::readFields() {
     command(ProgressCommand::PreparingConversion);
-    converter_ = services::Owned<record::RecordConverter>::make(
-        client_.session, client_.tfSession.get(), client_.transferContext.get(), client_.transferSettings.get(),
-        client_.textDisplay, expectedCount_);
-    if (!converter_) return fail(zhst::message::OutOfMemory);
+    const record::FileRules rules(settings_, settings_.receiveFileType, toDisplay());
+    conversion_ = services::Owned<Conversion>::make(rules, client_, toDisplay() ? client_.textDisplay : 0);
+    if (!conversion_) return fail(zhst::message::OutOfMemory);
     // Without descriptions the record loop goes on: there the provider says what became of the request.
-    converter_->readHostFields(client_.progressDialog, false);
+    provider::TfResult last;
+    request::readHostFields(client_, conversion_->layout, services::Direction::FromHost, last);
     if (!client_.tfSession->isStarted() || !goesOn()) return false;
     if (const auto* type = settings::pcFileType(settings_.receiveFileType))
         command(static_cast<ProgressCommand>(type->progressCommand));
@@ -228,11 +227,11 @@ bool ReceiveRun::beginDisplay() {
     services::ProgressDialogDestroy(client_.progressDialog);
     client_.progressDialog = 0;
     if (!client_.textDisplay || !services::TextDisplayBegin(client_.textDisplay, rowsPerPage_, 0))
-        return fail(DisplayNotBegun);
-    record::to_pc::defineDisplayColumns(*converter_);
+        return fail(zhst::message::DisplayNotBegun);
+    record::to_pc::defineDisplayColumns(conversion_->layout, client_.textDisplay);
     client_.displayClosed = 0;
     client_.moreRequested = 1;
-    services::LoadMessageText(client_.session, TextTable, MoreText, moreText_, sizeof(moreText_));
+    messages::loadText(client_.session, zhst::text::DisplayMore, moreText_);
     return true;
 }
 
@@ -242,8 +241,9 @@ bool ReceiveRun::openPcFile() {
     if (!file.openForWriting()) return false;
     file.openedName(client_.pcFileName);
     platform::CharLowerA(client_.pcFileName);
-    if (settings_.writeDescriptionFile) fdf::writeFdf(*converter_, client_.pcFileName);
-    if (isDif()) record::to_pc::writeDifHeader(*converter_, file);
+    if (settings_.writeDescriptionFile)
+        fdf::writeFdf(*client_.transferContext, conversion_->layout, client_.pcFileName);
+    if (isDif()) writeDifHeader(conversion_->layout, expectedCount_, file);
     return true;
 }
 
@@ -269,11 +269,16 @@ bool ReceiveRun::transferRecords() {
 
 bool ReceiveRun::transferRecord() {
     if (client_.lastResult.dataLength > provider::BufferSize) {
-        messages::showOwnText(owner(), RecordTooLong, client_.progressDialog);
+        messages::showOwnText(owner(), messages::sentence::HostRecordTooLong, client_.progressDialog);
         return false;
     }
     record::to_pc::PcRecord record;
-    if (!record::to_pc::convertHostRecord(*converter_, client_.lastResult.dataLength, record)) return false;
+    const record::ConversionResult result = conversion_->records.convert(
+        client_.tfSession->dataBuffer(), client_.lastResult.dataLength, provider::BufferSize, record);
+    if (!result.isConverted()) {
+        tellConversionFailure(client_, result);
+        return false;
+    }
     if (writePcRecord(record.bytes)) return true;
     client_.tfSession->tfEndData();
     return false;
@@ -325,7 +330,7 @@ void ReceiveRun::finishOutput() {
 }
 
 void ReceiveRun::cleanUp() {
-    converter_.reset();
+    conversion_.reset();
     // The request was left before its end, or the provider wants every request ended.
     if (client_.lastResult.returnCode != TF_NO_MORE_DATA || client_.tfSession->tfIsAs400Mode())
         client_.tfSession->tfEndRequest();

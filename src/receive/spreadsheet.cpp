@@ -6,7 +6,6 @@
 namespace receive {
 namespace {
 
-constexpr std::uint32_t ProgramNotStarted = 4679;
 constexpr std::int32_t NormalWindow = 1;
 constexpr std::int32_t FirstSuccess = 32;
 
@@ -18,10 +17,8 @@ bool launchSpreadsheet(const ZXFRPCSCLIENT& client) {
     const char* parameters = byName ? client.pcFileName : nullptr;
     const std::int32_t result = platform::ShellExecuteA(client.mainWindow, "open", file, parameters, "", NormalWindow);
     if (result >= FirstSuccess) return true;
-    if (services::IsMessageEnabled(client.settings, ProgramNotStarted))
-        services::ShowMessage3(client.session, client.ownerWindow, ProgramNotStarted, messages::Box::ExclamationAndOk, 1,
-                               ProgramNotStarted, services::insert(client.pcFileName),
-                               services::insert(static_cast<std::uint32_t>(result)), services::insert(" "));
+    messages::show({client.session, client.settings, client.ownerWindow}, zhst::message::SpreadsheetNotStarted,
+                   client.pcFileName, static_cast<std::uint32_t>(result), " ");
     return false;
 }
 

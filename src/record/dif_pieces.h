@@ -13,6 +13,7 @@ inline constexpr std::string_view StringHead = "1,0\r\n";
 inline constexpr std::string_view NumberEnd = "\r\nV\r\n";
 inline constexpr std::string_view EndOfData = "-1,0\r\nEOD\r\n";
 inline constexpr std::string_view NumberHead = "0,";
+inline constexpr std::string_view LineEnd = "\r\n";
 // Read only.
 inline constexpr std::string_view SpecialHead = "-1,0";
 inline constexpr std::string_view BeginWord = "BOT";

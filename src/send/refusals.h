@@ -2,21 +2,13 @@
 
 #include <cstdint>
 
-#include "record/record_converter.h"
+#include "client/client_object.h"
+#include "record/outcome.h"
 
-// What stops a record on its way to the host. Each tells the user and is always false.
 namespace send {
 
-// A DIF value without the head or the end that its host field wants.
-bool refuseDifValue(const record::RecordConverter& converter);
-
-// A number that its host field cannot hold as it is. Both numbers count from 1.
-bool refuseNumber(const record::RecordConverter& converter, std::uint32_t recordNumber, std::uint32_t fieldNumber);
-
-// A numeric field of no length.
-bool refuseEmptyField(const record::RecordConverter& converter, const record::HostField& field);
-
-// A host record without room for the next field.
-bool refuseShortHostRecord(const record::RecordConverter& converter);
+// Tells why a PC record did not become a host record, and the host, where it waits for more, that no more data follows.
+// `recordNumber` counts from 1.
+void refuseRecord(const ZXFRPCSCLIENT& client, const record::ConversionResult& result, std::uint32_t recordNumber);
 
 }  // namespace send

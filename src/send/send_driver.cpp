@@ -4,14 +4,14 @@
 
 #include "Z7XFRPCS/settings.h"
 #include "client/demonstration.h"
+#include "messages/own_sentences.h"
 #include "platform/platform.h"
-#include "record/record_converter.h"
-#include "record/to_host/record_parser.h"
+#include "record/to_host/record_finder.h"
+#include "request/field_descriptions.h"
 #include "request/options_clause.h"
 #include "request/send_statement.h"
 #include "request/statement_exchange.h"
 #include "request/statement_writer.h"
-#include "send/record_exchange.h"
 #include "send/text_records.h"
 #include "settings/pc_file_types.h"
 
@@ -21,12 +21,8 @@ namespace {
 namespace id = zhst::setting;
 using services::ProgressCommand;
 
-constexpr std::uint32_t SourceOfSeveralFields = 4601;
 constexpr std::string_view TargetExistsMessages[] = {"IWS2036", "IWS2023"};
-constexpr std::uint32_t QuestionTable = 17;
-constexpr std::uint32_t QuestionText = 4;
-constexpr std::uint32_t QuestionFlags = 0x28;
-constexpr std::uint32_t QuestionHelp = 206;
+constexpr std::uint32_t QuestionFlags = 0x28;  // question icon and buttons of its own
 constexpr std::int32_t Confirmed = 10;
 
 constexpr std::uint32_t ReadBufferSize = 4096;
@@ -34,10 +30,14 @@ constexpr std::uint32_t FirstDataTuple = 3;  // behind the header and the column
 constexpr char PcBlank = 0x20;
 constexpr char HostBlank = 0x40;
 
-constexpr char NoFieldsText[] = "The host described no fields for the file. Nothing has been sent.";
-constexpr char LongRecordText[] =
-    "The records of the host file are longer than 4096 bytes, the most that can be sent. Nothing has been sent.";
-constexpr char UnknownTypeText[] = "The file type of the PC file is unknown. Nothing has been sent.";
+// What the records of a run go through, made once the request is accepted.
+struct Sending {
+    Sending(ZXFRPCSCLIENT& client, const record::FileRules& rules)
+        : sender(client, rules), textRecords(client, sender) {}
+
+    RecordSender sender;
+    TextRecords textRecords;
+};
 
 // One transfer to the host. Each step is true when the next one may follow.
 class SendRun {
@@ -56,7 +56,6 @@ private:
     bool targetExists() const;
     bool confirmReplacement();
     bool readLayout();
-    bool takeHostLength();
     bool prepareData();
     bool showFileType();
     bool sendRecords();
@@ -64,6 +63,7 @@ private:
     ReadOutcome sendBinaryRecord(std::string_view read);
     void finish();
 
+    bool isText() const { return settings::recordRules(settings_.sendFileType).isText(); }
     bool goesOn() const { return client_.cancelRequested == 0; }
     void command(ProgressCommand code) { services::ProgressDialogCommand(client_.progressDialog, code); }
     void showPosition() {
@@ -75,16 +75,11 @@ private:
         messages::show(owner(), message);
         return false;
     }
-    bool failText(const char* text) const {
-        messages::showOwnText(owner(), text);
-        return false;
-    }
 
     ZXFRPCSCLIENT& client_;
     settings::TransferSettings& settings_;
     services::OwnedBytes readBuffer_;
-    services::Owned<record::RecordConverter> converter_;
-    std::uint32_t hostLength_ = 0;
+    services::Owned<Sending> sending_;
     std::uint32_t filePosition_ = 0;
     std::uint32_t binaryRecords_ = 0;  // records of a file that is not text-like
 };
@@ -162,31 +157,21 @@ bool SendRun::targetExists() const {
 }
 
 bool SendRun::confirmReplacement() {
-    return services::ShowMessage1(client_.session, client_.mainWindow, services::MessageId(QuestionTable, QuestionText),
-                                  QuestionFlags, 1, QuestionHelp, client_.hostFileName) == Confirmed;
+    const messages::Box question = messages::boxOf(zhst::text::ReplaceHostFile)
+                                       .gatedBy(messages::Box::NoGate)
+                                       .withHelp(zhst::help::ReplaceHostFile)
+                                       .withFlags(QuestionFlags);
+    return messages::show(client_.messageOwner(), question, client_.hostFileName) == Confirmed;
 }
 
 bool SendRun::readLayout() {
     if (!request::sessionStands(client_)) return false;
-    converter_ = services::Owned<record::RecordConverter>::make(
-        client_.session, client_.tfSession.get(), client_.transferContext.get(), client_.transferSettings.get(), 0, 0);
-    if (!converter_) return fail(zhst::message::OutOfMemory);
-    converter_->readHostFields(client_.progressDialog, true);
+    sending_ = services::Owned<Sending>::make(client_, record::FileRules(settings_, settings_.sendFileType));
+    if (!sending_) return fail(zhst::message::OutOfMemory);
+    provider::TfResult last;
+    request::readHostFields(client_, sending_->sender.layout(), services::Direction::ToHost, last);
     // A list that was cut short, which has been reported, would give records of another layout than the host's.
-    if (converter_->fieldResult.returnCode != TF_NO_MORE_DATA || !takeHostLength()) return false;
-    // A field without a length is refused under its name, with the first record.
-    const std::uint32_t bytes = std::max(hostLength_, 1u);
-    converter_->hostRecord = services::OwnedBytes::make(bytes, true);
-    converter_->fieldBuffer = services::OwnedBytes::make(bytes, true);
-    return (converter_->hostRecord && converter_->fieldBuffer) || fail(zhst::message::OutOfMemory);
-}
-
-bool SendRun::takeHostLength() {
-    for (const record::HostField& field : converter_->fields) {
-        hostLength_ += field.fieldLength().bytes;
-        if (hostLength_ > provider::BufferSize) return failText(LongRecordText);
-    }
-    return converter_->fields.count() != 0 || failText(NoFieldsText);
+    return last.returnCode == TF_NO_MORE_DATA && sending_->sender.prepare();
 }
 
 bool SendRun::prepareData() {
@@ -194,9 +179,9 @@ bool SendRun::prepareData() {
     const std::uint32_t size = file.size();
     services::SetSetting(client_.settings, id::TransferDirection, services::ToHost);
     services::ProgressDialogSetTotal(client_.progressDialog, size, services::Bytes);
-    if (settings_.createMode != zhst::value::CreateFile && converter_->fields.count() > 1 &&
+    if (settings_.createMode != zhst::value::CreateFile && sending_->sender.layout().count() > 1 &&
         settings_.hostFileType == zhst::value::SourceFile)
-        return fail(SourceOfSeveralFields);
+        return fail(zhst::message::SourceOfSeveralFields);
     if (!showFileType()) return false;
     if (settings_.sendFileType == settings::Dif) settings_.startRecord = FirstDataTuple;
     filePosition_ = file.position();
@@ -206,14 +191,17 @@ bool SendRun::prepareData() {
 
 bool SendRun::showFileType() {
     const settings::PcFileTypeRow* type = settings::pcFileType(settings_.sendFileType);
-    if (!type) return failText(UnknownTypeText);
+    if (!type) {
+        messages::showOwnText(owner(), messages::sentence::UnknownFileType);
+        return false;
+    }
     command(static_cast<ProgressCommand>(type->progressCommand));
     return true;
 }
 
 // True when the PC file has no more data.
 bool SendRun::sendRecords() {
-    const std::uint32_t readSize = settings::isTextLike(settings_.sendFileType) ? TextReadSize : hostLength_;
+    const std::uint32_t readSize = isText() ? TextReadSize : sending_->sender.hostLength();
     for (;;) {
         if (!request::sessionStands(client_)) return false;
         const std::int32_t count = client_.fileObject->read(readBuffer_.data(), readSize);
@@ -228,10 +216,9 @@ bool SendRun::sendRecords() {
 }
 
 ReadOutcome SendRun::sendRead(std::string_view read) {
-    if (!settings::isTextLike(settings_.sendFileType)) return sendBinaryRecord(read);
+    if (!isText()) return sendBinaryRecord(read);
     std::uint32_t complete = 0;
-    TextRecords records(client_, *converter_, hostLength_);
-    const ReadOutcome outcome = records.sendAll(read, complete);
+    const ReadOutcome outcome = sending_->textRecords.sendAll(read, complete);
     if (outcome != ReadOutcome::MoreData) return outcome;
     filePosition_ += complete;
     client_.fileObject->setPosition(filePosition_);
@@ -239,13 +226,13 @@ ReadOutcome SendRun::sendRead(std::string_view read) {
 }
 
 ReadOutcome SendRun::sendBinaryRecord(std::string_view read) {
-    const bool converted = settings_.sendFileType == settings::BasicRandom;
+    const bool converted = settings::recordRules(settings_.sendFileType).form == settings::RecordForm::Binary;
     if (converted && read[0] == record::to_host::EndOfFileByte &&
         services::GetSetting(client_.settings, id::EofByteEndsFile) != 0)
         return ReadOutcome::EndOfData;
-    const bool sent = placeRecord(client_, read, converted ? PcBlank : HostBlank) &&
-                      record::to_host::convertRecord(*converter_, hostLength_, ++binaryRecords_) &&
-                      putRecord(client_, hostLength_, request::SendingRecord);
+    RecordSender& sender = sending_->sender;
+    const bool sent = sender.place(read, converted ? PcBlank : HostBlank) &&
+                      sender.convertAndPut(sender.hostLength(), ++binaryRecords_, request::SendingRecord);
     return sent ? ReadOutcome::MoreData : ReadOutcome::Failure;
 }
 
@@ -253,8 +240,8 @@ void SendRun::finish() {
     provider::TransferFunctionSession& tf = *client_.tfSession;
     tf.tfEndRequest();
     command(ProgressCommand::Ended);
-    if (converter_ && settings_.startRecord > 1 && settings_.startRecord > converter_->recordCount) tf.tfEndData();
-    converter_.reset();
+    if (sending_ && settings_.startRecord > 1 && settings_.startRecord > sending_->textRecords.count()) tf.tfEndData();
+    sending_.reset();
     readBuffer_.reset();
 }
 

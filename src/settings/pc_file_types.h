@@ -2,34 +2,42 @@
 
 #include <cstdint>
 
-// The seven PC file types: number, name, the progress dialog's command that shows it, and whether records are text.
+#include "Z7XFRPCS/settings.h"
+
+// The seven PC file types, a row each.
 namespace settings {
 
 enum PcFileType : std::int32_t {
-    AsciiText = 0,        // fields at fixed positions
-    BasicSequential = 1,  // commas, character fields always in double quotes
-    CommaSeparated = 2,   // the locale's list separator, double quotes where needed
-    BasicRandom = 3,      // binary records of the host record length
-    NoConversion = 4,     // host record bytes unchanged
-    TabDelimited = 5,     // tabs, double quotes where needed
-    Dif = 6,
+#define PC_FILE_TYPE(number, name, shortName, command, form, separator, quotes, hex) name = number,
+    ZHST_PC_FILE_TYPES(PC_FILE_TYPE)
+#undef PC_FILE_TYPE
 };
+
+enum class RecordForm { Lines, Tuples, Binary, Unchanged };
+enum class Separator { None, Comma, Tab, List };
+enum class Quotes { Never, WhereNeeded, Always };
+enum class HexDigits { Bare, Quoted };
 
 struct PcFileTypeRow {
     PcFileType type;
     const char* name;
     std::uint32_t progressCommand;
-    bool isText;
+    RecordForm form;
+    Separator separator;
+    Quotes quotes;  // around character fields
+    HexDigits hex;
+
+    // Records are lines or tuples.
+    constexpr bool isText() const { return form == RecordForm::Lines || form == RecordForm::Tuples; }
+    // Fields stand at fixed positions, numbers right-aligned.
+    constexpr bool isFixed() const { return form == RecordForm::Lines && separator == Separator::None; }
 };
 
 inline constexpr PcFileTypeRow pcFileTypes[] = {
-    {AsciiText, "text", 29, true},
-    {BasicSequential, "basic", 34, true},
-    {CommaSeparated, "csv", 32, true},
-    {BasicRandom, "random", 30, false},
-    {NoConversion, "none", 31, false},
-    {TabDelimited, "tab", 33, true},
-    {Dif, "dif", 35, true},
+#define PC_FILE_TYPE(number, name, shortName, command, form, separator, quotes, hex) \
+    {name, shortName, command, RecordForm::form, Separator::separator, Quotes::quotes, HexDigits::hex},
+    ZHST_PC_FILE_TYPES(PC_FILE_TYPE)
+#undef PC_FILE_TYPE
 };
 
 // Null for a number that is no PC file type.
@@ -37,16 +45,16 @@ constexpr const PcFileTypeRow* pcFileType(std::int32_t type) {
     return type >= AsciiText && type <= Dif ? &pcFileTypes[type] : nullptr;
 }
 
+// The row by which records of any number are treated: one that is no PC file type leaves them unchanged.
+constexpr const PcFileTypeRow& recordRules(std::int32_t type) {
+    const PcFileTypeRow* row = pcFileType(type);
+    return row ? *row : pcFileTypes[NoConversion];
+}
+
 static_assert([] {
     for (const PcFileTypeRow& row : pcFileTypes)
         if (pcFileType(row.type) != &row) return false;
     return true;
 }());
-
-// Types whose records are lines or DIF tuples.
-constexpr bool isTextLike(std::int32_t type) {
-    const PcFileTypeRow* row = pcFileType(type);
-    return row && row->isText;
-}
 
 }  // namespace settings

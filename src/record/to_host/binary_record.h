@@ -1,15 +1,19 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 
-#include "record/record_converter.h"
+#include "record/host_layout.h"
+#include "record/outcome.h"
+#include "text/code_page_state.h"
 
 namespace record::to_host {
 
-// Turns a BasicRandom record at the start of the shared buffer into the host record, in place: the same fields at the
-// same positions and lengths. Binary: bytes reversed. Zoned: F0 plus the digit, the last D0 plus the digit when its
-// zone is B or D. Packed: the sign nibble becomes D when it is B or D, F otherwise. Hexadecimal: unchanged. False when
-// a byte is no digit, which is reported with both numbers, or the code-page conversion fails.
-bool convertBinaryRecord(record::RecordConverter& converter, std::uint32_t recordNumber);
+// Builds the host record of a BasicRandom record: the same fields at the same positions and lengths. Binary: bytes
+// reversed. Zoned: F0 plus the digit, the last D0 plus the digit when its zone is B or D. Packed: the sign nibble
+// becomes D when it is B or D, F otherwise. Hexadecimal: unchanged. `record` is as long as `hostRecord`; `length`
+// becomes the bytes that were built.
+ConversionResult convertBinaryRecord(const HostLayout& layout, const text::CodePageState& codePage, const char* record,
+                                     std::span<char> hostRecord, std::uint32_t& length);
 
 }  // namespace record::to_host

@@ -2,18 +2,11 @@
 
 #include <algorithm>
 
-#include "Z7XFRPCS/settings.h"
-#include "record/dif_pieces.h"
 #include "record/to_host/dif_value.h"
-#include "send/refusals.h"
-#include "settings/pc_file_types.h"
 #include "text/double_byte.h"
 
 namespace record::to_host {
 namespace {
-
-using record::HostField;
-using record::RecordConverter;
 
 constexpr char PairBlank[] = "\x81\x40";
 
@@ -87,14 +80,10 @@ void skipCharacter(std::string_view& rest) { rest.remove_prefix(std::min<std::si
 // One character field of a record on its way to the field buffer.
 class CharacterField {
 public:
-    CharacterField(RecordConverter& converter, const HostField& field)
-        : converter_(converter),
-          settings_(*converter.transferSettings),
-          type_(field.type()),
-          length_(field.fieldLength().bytes),
-          buffer_(converter.fieldBuffer.data()) {}
+    CharacterField(const FieldConversion& conversion, const FieldPlan& plan)
+        : conversion_(conversion), file_(conversion.rules.type), plan_(plan), buffer_(conversion.fieldBuffer) {}
 
-    bool extract(std::string_view& rest, char* destination);
+    Outcome extract(std::string_view& rest, char* destination);
 
 private:
     bool pairFirst(std::string_view rest) const;
@@ -102,57 +91,61 @@ private:
     void prefill(bool doubleByte);
     void padMixedText(std::uint32_t stored);
     bool collect(std::string_view& rest, CollectedText& collected);
+    bool takeDifText(std::string_view& rest, CollectedText& collected) const;
     void takeDelimited(std::string_view& rest, CollectedText& collected) const;
     void takeLine(std::string_view rest);
-    bool isSourceSend() const { return settings_.hostFileType == zhst::value::SourceFile; }
-    bool isLongTextKept() const {
-        return converter_.tfSession->codePage().isCodePage43() && settings_.sendFileType != settings::BasicSequential;
+    bool isTuple() const { return file_.form == settings::RecordForm::Tuples; }
+    // Text of page 43 may become shorter on its way, so what is beyond the field is kept until then.
+    std::size_t limit(std::string_view rest) const {
+        const bool isLongTextKept =
+            conversion_.codePage.isCodePage43() && (isTuple() || file_.quotes != settings::Quotes::Always);
+        return isLongTextKept ? conversion_.fieldBufferSize : plan_.bytes - shiftBytes(rest);
     }
 
-    RecordConverter& converter_;
-    const settings::TransferSettings& settings_;
-    std::uint8_t type_;
-    std::uint32_t length_;
+    const FieldConversion& conversion_;
+    const settings::PcFileTypeRow& file_;
+    const FieldPlan& plan_;
     char* buffer_;
 };
 
-bool CharacterField::extract(std::string_view& rest, char* destination) {
-    if (settings_.sendFileType == settings::Dif && !isSourceSend() && !takeDifPiece(rest, record::dif::StringHead))
-        return send::refuseDifValue(converter_);
-    std::size_t sourceLength = length_;
-    if (isSourceSend()) {
+Outcome CharacterField::extract(std::string_view& rest, char* destination) {
+    std::size_t sourceLength = plan_.bytes;
+    if (conversion_.toSourceFile) {
         takeLine(rest);
     } else {
-        const bool doubleByte = type_ == record::DoubleByteOnly || (type_ == record::DoubleByteOpen && pairFirst(rest));
+        if (!takeDifPiece(rest, plan_.difHead)) return Outcome::BadDifValue;
+        const bool doubleByte = plan_.type == DoubleByteOnly || (plan_.type == DoubleByteOpen && pairFirst(rest));
         prefill(doubleByte);
-        CollectedText collected(buffer_, isLongTextKept() ? converter_.fieldBuffer.size() : length_ - shiftBytes(rest));
-        if (!collect(rest, collected)) return send::refuseDifValue(converter_);
+        CollectedText collected(buffer_, limit(rest));
+        if (!collect(rest, collected)) return Outcome::BadDifValue;
         if (doubleByte) padMixedText(static_cast<std::uint32_t>(collected.stored()));
         sourceLength = std::max(sourceLength, collected.stored());
     }
-    return converter_.pcToHost(buffer_, destination, static_cast<std::uint32_t>(sourceLength), length_);
+    const std::uint32_t failure =
+        conversion_.codePage.pcToHostText(buffer_, destination, static_cast<std::uint32_t>(sourceLength), plan_.bytes);
+    return failure == 0 ? Outcome::Converted : Outcome::TextNotConverted;
 }
 
 // Whether the first byte of the field's data is that of a double-byte character. A quote counts as data where the type
 // does without it.
 bool CharacterField::pairFirst(std::string_view rest) const {
-    if (settings_.sendFileType == settings::AsciiText) return false;
-    const bool quoted = settings_.sendFileType == settings::BasicSequential || settings_.sendFileType == settings::Dif;
-    return startsWithPair(rest.substr(std::min<std::size_t>(quoted ? 1 : 0, rest.size())));
+    if (plan_.isFixed) return false;
+    return startsWithPair(rest.substr(std::min<std::size_t>(plan_.isQuoted ? 1 : 0, rest.size())));
 }
 
 // The room that double-byte text leaves for the two shift bytes of the host.
 std::uint32_t CharacterField::shiftBytes(std::string_view rest) const {
-    if (type_ != record::DoubleByteOnly && type_ != record::DoubleByteOpen) return 0;
-    if (settings_.sendFileType != settings::AsciiText && rest.starts_with('"')) rest.remove_prefix(1);
-    return startsWithPair(rest) ? std::min(length_, 2u) : 0;
+    if (plan_.type != DoubleByteOnly && plan_.type != DoubleByteOpen) return 0;
+    if (!plan_.isFixed && rest.starts_with('"')) rest.remove_prefix(1);
+    return startsWithPair(rest) ? std::min(plan_.bytes, 2u) : 0;
 }
 
-// Double-byte blanks with two single-byte ones behind them make the host text end with a shift-in byte.
+// Double-byte blanks with two single-byte ones behind them make the host text end with a shift-in byte. The blank is
+// the Japanese one for every language.
 void CharacterField::prefill(bool doubleByte) {
-    std::fill_n(buffer_, length_, ' ');
+    std::fill_n(buffer_, plan_.bytes, ' ');
     if (!doubleByte) return;
-    for (std::uint32_t at = 0; at + 4 <= length_; at += 2) std::copy_n(PairBlank, 2, buffer_ + at);
+    for (std::uint32_t at = 0; at + 4 <= plan_.bytes; at += 2) std::copy_n(PairBlank, 2, buffer_ + at);
 }
 
 // Behind a text with single-byte characters the pairs of the prefill would stand crooked, and open a second run of
@@ -160,29 +153,29 @@ void CharacterField::prefill(bool doubleByte) {
 void CharacterField::padMixedText(std::uint32_t stored) {
     std::uint32_t at = 0;
     while (at < stored && text::isLeadByte(buffer_[at])) at += 2;
-    if (at < stored && stored < length_) std::fill(buffer_ + stored, buffer_ + length_, ' ');
+    if (at < stored && stored < plan_.bytes) std::fill(buffer_ + stored, buffer_ + plan_.bytes, ' ');
 }
 
+// False for a DIF text that is not written as one.
 bool CharacterField::collect(std::string_view& rest, CollectedText& collected) {
-    switch (settings_.sendFileType) {
-        case settings::AsciiText:
-            collected.add(rest.substr(0, length_));
-            rest.remove_prefix(std::min<std::size_t>(length_, rest.size()));
-            return true;
-        case settings::BasicSequential:
-            skipCharacter(rest);
-            takeQuoted(rest, ClosingQuote::BeforeComma, collected);
-            return true;
-        case settings::Dif: {
-            if (!rest.starts_with('"')) return false;
-            skipCharacter(rest);
-            takeQuoted(rest, ClosingQuote::BeforeLineEnd, collected);
-            return takeLineEnd(rest) || rest.empty();
-        }
-        default:
-            takeDelimited(rest, collected);
-            return true;
+    if (isTuple()) return takeDifText(rest, collected);
+    if (plan_.isFixed) {
+        collected.add(rest.substr(0, plan_.bytes));
+        rest.remove_prefix(std::min<std::size_t>(plan_.bytes, rest.size()));
+    } else if (plan_.isQuoted) {
+        skipCharacter(rest);
+        takeQuoted(rest, ClosingQuote::BeforeComma, collected);
+    } else {
+        takeDelimited(rest, collected);
     }
+    return true;
+}
+
+bool CharacterField::takeDifText(std::string_view& rest, CollectedText& collected) const {
+    if (!rest.starts_with('"')) return false;
+    skipCharacter(rest);
+    takeQuoted(rest, ClosingQuote::BeforeLineEnd, collected);
+    return takeLineEnd(rest) || rest.empty();
 }
 
 // Whatever stands between a closing quote and the delimiter is skipped.
@@ -192,8 +185,7 @@ void CharacterField::takeDelimited(std::string_view& rest, CollectedText& collec
         skipCharacter(rest);
         takeQuoted(rest, ClosingQuote::NotDoubled, collected);
     }
-    const char delimiter = settings_.sendFileType == settings::TabDelimited ? '\t' : settings_.listSeparator;
-    const std::size_t end = std::min(text::findCharacter(rest, delimiter), rest.size());
+    const std::size_t end = std::min(text::findCharacter(rest, conversion_.rules.separator), rest.size());
     if (!quoted) collected.add(rest.substr(0, end));
     rest.remove_prefix(end);
 }
@@ -201,14 +193,14 @@ void CharacterField::takeDelimited(std::string_view& rest, CollectedText& collec
 // A source line stands in each of its fields, with single blanks behind its end.
 void CharacterField::takeLine(std::string_view rest) {
     prefill(false);
-    std::copy_n(rest.data(), std::min<std::size_t>(length_, rest.size()), buffer_);
+    std::copy_n(rest.data(), std::min<std::size_t>(plan_.bytes, rest.size()), buffer_);
 }
 
 }  // namespace
 
-bool extractCharacterField(RecordConverter& converter, const HostField& field, std::string_view& rest,
-                           char* destination) {
-    return CharacterField(converter, field).extract(rest, destination);
+Outcome extractCharacterField(const FieldConversion& conversion, const FieldPlan& plan, std::string_view& rest,
+                              char* destination) {
+    return CharacterField(conversion, plan).extract(rest, destination);
 }
 
 }  // namespace record::to_host

@@ -1,12 +1,11 @@
 #include "record/to_host/host_number.h"
 
+#include "bytes/byte_order.h"
+#include "record/signs.h"
+
 namespace record::to_host {
 namespace {
 
-constexpr std::uint8_t Zone = 0xF0;
-constexpr std::uint8_t NegativeZone = 0xD0;
-constexpr std::uint8_t PositiveSign = 0xF;
-constexpr std::uint8_t NegativeSign = 0xD;
 constexpr std::uint32_t LargestBinary = 8;
 constexpr char HostBlank = 0x40;
 
@@ -28,14 +27,14 @@ bool isHexDigit(char character) {
 
 }  // namespace
 
-bool toBinary(const DecimalText& number, std::int32_t decimals, char* destination, std::uint32_t bytes) {
+bool toBinary(const DecimalText& number, std::int32_t decimals, char* destination, std::uint32_t count) {
     constexpr std::int32_t AnyPlaces = 1 << 20;
-    if (bytes == 0 || bytes > LargestBinary || !number.fits(AnyPlaces, decimals)) return false;
-    const std::uint64_t smallest = std::uint64_t{1} << (8 * bytes - 1);
+    if (count == 0 || count > LargestBinary || !number.fits(AnyPlaces, decimals)) return false;
+    const std::uint64_t smallest = std::uint64_t{1} << (8 * count - 1);
     std::uint64_t value = 0;
     if (!scaledMagnitude(number, decimals, number.isNegative() ? smallest : smallest - 1, value)) return false;
     if (number.isNegative()) value = ~value + 1;
-    for (std::uint32_t at = bytes; at > 0; value >>= 8) destination[--at] = static_cast<char>(value);
+    bytes::putHighFirst(destination, value, count);
     return true;
 }
 
@@ -43,8 +42,9 @@ bool toZoned(const DecimalText& number, std::int32_t decimals, char* destination
     const auto places = static_cast<std::int32_t>(digits);
     if (digits == 0 || !number.fits(places, decimals)) return false;
     for (std::int32_t at = 0; at < places; ++at)
-        destination[at] = static_cast<char>(Zone + number.digitAt(places - decimals - 1 - at));
-    if (number.isNegative()) destination[places - 1] = static_cast<char>(NegativeZone + number.digitAt(-decimals));
+        destination[at] = static_cast<char>(sign::HostZone + number.digitAt(places - decimals - 1 - at));
+    if (number.isNegative())
+        destination[places - 1] = static_cast<char>(sign::HostNegativeZone + number.digitAt(-decimals));
     return true;
 }
 
@@ -55,7 +55,7 @@ bool toPacked(const DecimalText& number, std::int32_t decimals, char* destinatio
     const std::uint32_t signAt = 2 * bytes - 1;
     for (std::uint32_t index = 0; index < signAt; ++index)
         putNibble(destination, number.digitAt(static_cast<std::int32_t>(signAt - index) - 1 - decimals), index);
-    putNibble(destination, number.isNegative() ? NegativeSign : PositiveSign, signAt);
+    putNibble(destination, number.isNegative() ? sign::HostNegative : sign::HostPositive, signAt);
     return true;
 }
 
@@ -64,7 +64,7 @@ bool hexTextToBytes(std::string_view pairs, char* destination) {
         const char first = pairs[0];
         const char second = pairs[1];
         if (!isHexDigit(first) || second < '0' || second > '9') return false;
-        *destination = first == '4' && second == '0' ? HostBlank : static_cast<char>(Zone + (second - '0'));
+        *destination = first == '4' && second == '0' ? HostBlank : static_cast<char>(sign::HostZone + (second - '0'));
     }
     return pairs.empty();
 }
@@ -72,9 +72,9 @@ bool hexTextToBytes(std::string_view pairs, char* destination) {
 void putNibble(char* destination, std::uint8_t value, std::uint32_t index) {
     char& byte = destination[index / 2];
     if (index % 2 == 0)
-        byte = static_cast<char>(value << 4);
+        byte = sign::ofNibbles(value, 0);
     else
-        byte = static_cast<char>((static_cast<std::uint8_t>(byte) & 0xF0) | value);
+        byte = sign::ofNibbles(sign::highNibble(byte), value);
 }
 
 }  // namespace record::to_host

@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <string_view>
 
-#include "record/host_field.h"
 #include "record/to_host/decimal_text.h"
 
 // The host's forms of a number. A number is stored exactly or not at all: each builder is false, with nothing stored,
@@ -11,8 +10,8 @@
 namespace record::to_host {
 
 // Two's complement, most significant byte first; the number is counted in units of its last decimal place. 1 to 8
-// bytes.
-bool toBinary(const DecimalText& number, std::int32_t decimals, char* destination, std::uint32_t bytes);
+// bytes, `count`.
+bool toBinary(const DecimalText& number, std::int32_t decimals, char* destination, std::uint32_t count);
 
 // A digit per byte: F0 plus the digit, the last D0 plus the digit when negative.
 bool toZoned(const DecimalText& number, std::int32_t decimals, char* destination, std::uint32_t digits);

@@ -6,8 +6,6 @@
 namespace record::to_host {
 namespace {
 
-namespace dif = record::dif;
-
 bool isLineEnd(char byte) { return byte == '\r' || byte == '\n' || byte == EndOfFileByte; }
 
 bool findLineEnd(std::string_view buffer, std::size_t& index) {
@@ -36,8 +34,8 @@ bool findTupleEnd(std::string_view buffer, std::size_t& index) {
 
 }  // namespace
 
-bool findRecordEnd(RecordKind kind, std::string_view buffer, std::size_t& index) {
-    return kind == RecordKind::Tuple ? findTupleEnd(buffer, index) : findLineEnd(buffer, index);
+bool findRecordEnd(settings::RecordForm form, std::string_view buffer, std::size_t& index) {
+    return form == settings::RecordForm::Tuples ? findTupleEnd(buffer, index) : findLineEnd(buffer, index);
 }
 
 std::size_t terminatorBytes(std::string_view buffer, std::size_t index) {

@@ -2,40 +2,35 @@
 
 #include <algorithm>
 
-#include "record/to_pc/number_text.h"
+#include "record/signs.h"
 
 namespace record::to_pc {
 namespace {
 
-constexpr std::uint8_t PcZone = 0x30;
-constexpr std::uint8_t PcNegativeZone = 0xB0;
-constexpr std::uint8_t PcPositiveSign = 0x3;
-constexpr std::uint8_t PcNegativeSign = 0xB;
-
 void zonedToPc(const char* source, char* destination, std::uint32_t bytes) {
     for (std::uint32_t at = 0; at < bytes; ++at) {
-        const auto byte = static_cast<std::uint8_t>(source[at]);
-        const bool negative = at + 1 == bytes && isNegativeSign(byte >> 4);
-        destination[at] = static_cast<char>((negative ? PcNegativeZone : PcZone) + (byte & 0x0F));
+        const bool negative = at + 1 == bytes && sign::isNegative(sign::highNibble(source[at]));
+        const std::uint8_t zone = negative ? sign::PcNegativeZone : sign::PcZone;
+        destination[at] = static_cast<char>(zone + sign::lowNibble(source[at]));
     }
 }
 
 void packedToPc(const char* source, char* destination, std::uint32_t bytes) {
     std::copy_n(source, bytes, destination);
     if (bytes == 0) return;
-    const auto last = static_cast<std::uint8_t>(source[bytes - 1]);
-    const std::uint8_t sign = isNegativeSign(last & 0x0F) ? PcNegativeSign : PcPositiveSign;
-    destination[bytes - 1] = static_cast<char>((last & 0xF0) | sign);
+    const char last = source[bytes - 1];
+    const bool negative = sign::isNegative(sign::lowNibble(last));
+    destination[bytes - 1] = sign::ofNibbles(sign::highNibble(last), negative ? sign::PcNegative : sign::PcPositive);
 }
 
-bool convertField(const RecordConverter& converter, const HostField& field, const char* source, char* destination,
+bool convertField(const text::CodePageState& codePage, const FieldPlan& plan, const char* source, char* destination,
                   std::uint32_t bytes) {
-    switch (field.type()) {
+    switch (plan.type) {
         case Hex:
             std::copy_n(source, bytes, destination);
             return true;
         case Binary:
-            reverseBytes(source, destination, bytes);
+            std::reverse_copy(source, source + bytes, destination);
             return true;
         case Zoned:
             zonedToPc(source, destination, bytes);
@@ -44,30 +39,27 @@ bool convertField(const RecordConverter& converter, const HostField& field, cons
             packedToPc(source, destination, bytes);
             return true;
         default:
-            return converter.hostToPc(source, destination, bytes, bytes, nullptr);
+            return codePage.hostToPcText(source, destination, bytes, bytes, nullptr) == 0;
     }
 }
 
 }  // namespace
 
-bool toBinaryRecord(RecordConverter& converter, std::string_view hostRecord, services::OwnedBytes& work,
-                    std::uint32_t& length) {
+ConversionResult toBinaryRecord(const HostLayout& layout, const text::CodePageState& codePage,
+                                std::string_view hostRecord, services::OwnedBytes& work, std::uint32_t& length) {
     const auto hostLength = static_cast<std::uint32_t>(hostRecord.size());
     work = services::OwnedBytes::make(std::max<std::uint32_t>(hostLength, 1), true);
-    if (!work) {
-        messages::show(converter.messageOwner(), zhst::message::OutOfMemory);
-        return false;
-    }
+    if (!work) return {Outcome::NoMemory};
     length = 0;
-    for (const HostField& field : converter.fields) {
+    for (const PlannedField& each : layout) {
         if (length >= hostLength) break;
-        const FieldLength declared = field.fieldLength();
-        const std::uint32_t bytes = std::min(declared.bytes, hostLength - length);
-        if (bytes < declared.bytes && !declared.isCharacter()) break;  // a number that is not whole
-        if (!convertField(converter, field, hostRecord.data() + length, work.data() + length, bytes)) return false;
+        const std::uint32_t bytes = std::min(each.plan.bytes, hostLength - length);
+        if (bytes < each.plan.bytes && !each.plan.isCharacter) break;  // a number that is not whole
+        if (!convertField(codePage, each.plan, hostRecord.data() + length, work.data() + length, bytes))
+            return {Outcome::TextNotConverted, 0, &each};
         length += bytes;
     }
-    return true;
+    return {};
 }
 
 }  // namespace record::to_pc

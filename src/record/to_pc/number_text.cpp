@@ -4,15 +4,14 @@
 #include <charconv>
 #include <cstring>
 
-#include "settings/pc_file_types.h"
+#include "bytes/byte_order.h"
+#include "record/signs.h"
 
 namespace record::to_pc {
 namespace {
 
 constexpr std::uint32_t LargestBinary = 8;
 constexpr std::uint32_t IntegerText = 24;
-
-bool isFixedForm(const HostField& field) { return field.transferSettings().receiveFileType == settings::AsciiText; }
 
 std::uint32_t finish(char* text, char* end) {
     *end = '\0';
@@ -26,42 +25,32 @@ char* cutTrailingZeros(const char* stop, char* end) {
 
 // --- Hexadecimal -------------------------------------------------------------------------------------------------
 
-std::uint32_t formatHex(const HostField& field, const char* source, char* text) {
+std::uint32_t formatHex(const FieldPlan& plan, const char* source, char* text) {
     constexpr char digits[] = "0123456789ABCDEF";
-    const std::int32_t type = field.transferSettings().receiveFileType;
-    const bool quoted = type == settings::BasicSequential || type == settings::Dif;
     char* next = text;
-    if (quoted) *next++ = '"';
-    for (std::uint32_t at = 0, count = field.fieldLength().bytes; at < count; ++at) {
-        const auto byte = static_cast<std::uint8_t>(source[at]);
-        *next++ = digits[byte >> 4];
-        *next++ = digits[byte & 0x0F];
+    if (plan.isQuoted) *next++ = '"';
+    for (std::uint32_t at = 0; at < plan.bytes; ++at) {
+        *next++ = digits[sign::highNibble(source[at])];
+        *next++ = digits[sign::lowNibble(source[at])];
     }
-    if (quoted) *next++ = '"';
+    if (plan.isQuoted) *next++ = '"';
     return finish(text, next);
 }
 
 // --- Binary ------------------------------------------------------------------------------------------------------
 
-std::int64_t signedBigEndian(const char* source, std::uint32_t bytes) {
-    std::uint64_t value = bytes > 0 && static_cast<std::int8_t>(source[0]) < 0 ? ~std::uint64_t{0} : 0;
-    for (std::uint32_t at = 0; at < bytes; ++at) value = value << 8 | static_cast<std::uint8_t>(source[at]);
-    return static_cast<std::int64_t>(value);
-}
-
 // Filled from the right over width + 1 positions: the separator stands `decimals` positions from the end, missing
 // decimals become zeros, and a sign follows the separator directly.
-std::uint32_t formatBinaryDecimals(const HostField& field, const char* integer, const char* integerEnd,
-                                   std::int32_t decimals, char* text) {
-    const auto width = static_cast<std::int32_t>(field.fieldTextWidth('\0'));
+std::uint32_t formatBinaryDecimals(const FieldPlan& plan, const char* integer, const char* integerEnd, char* text) {
+    const auto width = static_cast<std::int32_t>(plan.width);
     char positions[LargestBinary * 4];
     std::fill(positions, positions + width + 1, ' ');
     const char* rest = integerEnd;
     bool placed = false;
     std::int32_t position = width;
     for (; position >= 0; --position) {
-        if (position == width - decimals) {
-            positions[position] = field.transferSettings().decimalSeparator;
+        if (position == width - plan.decimals) {
+            positions[position] = plan.decimalSeparator;
             placed = true;
         } else if (!placed && (rest == integer || rest[-1] == '-')) {
             positions[position] = '0';
@@ -71,22 +60,21 @@ std::uint32_t formatBinaryDecimals(const HostField& field, const char* integer, 
             positions[position] = *--rest;
         }
     }
-    if (isFixedForm(field)) return finish(text, std::copy(positions, positions + width + 1, text));
+    if (plan.isFixed) return finish(text, std::copy(positions, positions + width + 1, text));
     const char* first = positions + (position + 1);
     char* end = cutTrailingZeros(first, positions + width + 1);
-    if (end - first == 1 && *first == field.transferSettings().decimalSeparator) return finish(text, text);
+    if (end - first == 1 && *first == plan.decimalSeparator) return finish(text, text);
     return finish(text, std::copy(first, static_cast<const char*>(end), text));
 }
 
-std::uint32_t formatBinary(const HostField& field, const char* source, char* text) {
-    const FieldLength length = field.fieldLength();
+std::uint32_t formatBinary(const FieldPlan& plan, const char* source, char* text) {
     char integer[IntegerText];
-    const std::int64_t value = signedBigEndian(source, length.bytes);
+    const std::int64_t value = bytes::highFirstSigned(source, plan.bytes);
     const char* integerEnd = std::to_chars(integer, integer + IntegerText, value).ptr;
-    if (length.decimals > 0) return formatBinaryDecimals(field, integer, integerEnd, length.decimals, text);
+    if (plan.decimals > 0) return formatBinaryDecimals(plan, integer, integerEnd, text);
     char* next = text;
-    if (isFixedForm(field)) {
-        const auto padding = static_cast<std::int32_t>(field.fieldTextWidth('\0')) - (integerEnd - integer);
+    if (plan.isFixed) {
+        const auto padding = static_cast<std::int32_t>(plan.width) - (integerEnd - integer);
         if (padding > 0) next = std::fill_n(text, padding, ' ');
     }
     return finish(text, std::copy(static_cast<const char*>(integer), integerEnd, next));
@@ -94,22 +82,26 @@ std::uint32_t formatBinary(const HostField& field, const char* source, char* tex
 
 // --- Zoned and packed --------------------------------------------------------------------------------------------
 
+// An even index is the high nibble of its byte. Nibbles above 9 are not checked and give the characters behind '9'.
+char packedDigit(const char* source, std::uint32_t index) {
+    const char byte = source[index / 2];
+    return static_cast<char>('0' + (index % 2 == 0 ? sign::highNibble(byte) : sign::lowNibble(byte)));
+}
+
 // The digits of a zoned or packed number one after the other; zeros behind the last.
 class Digits {
 public:
-    Digits(const HostField& field, const char* source) : source_(source), packed_(field.type() == Packed) {
-        const std::uint32_t bytes = field.fieldLength().bytes;
-        count_ = packed_ ? (bytes ? 2 * bytes - 1 : 0) : bytes;
-        if (bytes > 0) {
-            const auto last = static_cast<std::uint8_t>(source[bytes - 1]);
-            negative_ = isNegativeSign(packed_ ? last & 0x0F : last >> 4);
-        }
+    Digits(const FieldPlan& plan, const char* source)
+        : source_(source), packed_(plan.type == Packed), index_(plan.skipsPadNibble ? 1 : 0) {
+        if (plan.bytes == 0) return;
+        const char last = source[plan.bytes - 1];
+        count_ = packed_ ? 2 * plan.bytes - 1 : plan.bytes;
+        negative_ = sign::isNegative(packed_ ? sign::lowNibble(last) : sign::highNibble(last));
     }
-    void skip() { ++index_; }
     char next() {
         if (index_ >= count_) return '0';
         const std::uint32_t at = index_++;
-        return packed_ ? packedDigit(source_, at) : static_cast<char>('0' + (source_[at] & 0x0F));
+        return packed_ ? packedDigit(source_, at) : static_cast<char>('0' + sign::lowNibble(source_[at]));
     }
     bool isNegative() const {
         if (!negative_) return false;
@@ -117,27 +109,23 @@ public:
             if (rest.next() != '0') return true;
         return false;
     }
-    std::uint32_t count() const { return count_; }
 
 private:
     const char* source_;
     bool packed_;
+    std::uint32_t index_;
     bool negative_ = false;
     std::uint32_t count_ = 0;
-    std::uint32_t index_ = 0;
 };
 
 // Sign position, then all digits with a point at its place: `width` positions.
-bool rawText(const HostField& field, const char* source, std::uint32_t width, std::int32_t decimals, char* text) {
-    Digits digits(field, source);
-    const std::uint32_t point = decimals > 0 ? 1 : 0;
-    // Narrower than all digits: the first nibble is a pad, and no digit of the value.
-    if (width < digits.count() + 1 + point) digits.skip();
+bool rawText(const FieldPlan& plan, const char* source, char* text) {
+    Digits digits(plan, source);
     const bool negative = digits.isNegative();
     text[0] = negative ? '-' : ' ';
-    const std::int32_t pointAt = decimals > 0 ? static_cast<std::int32_t>(width) - decimals - 1 : -1;
-    for (std::uint32_t at = 1; at < width; ++at)
-        text[at] = static_cast<std::int32_t>(at) == pointAt ? '.' : digits.next();
+    const auto width = static_cast<std::int32_t>(plan.width);
+    const std::int32_t pointAt = plan.decimals > 0 ? width - plan.decimals - 1 : -1;
+    for (std::int32_t at = 1; at < width; ++at) text[at] = at == pointAt ? '.' : digits.next();
     return negative;
 }
 
@@ -177,14 +165,11 @@ std::uint32_t toDelimitedForm(char* text, std::uint32_t width, std::int32_t deci
     return finish(text, next);
 }
 
-std::uint32_t formatDecimal(const HostField& field, const char* source, char* text) {
-    const std::uint32_t width = field.fieldTextWidth('\0');
-    if (width == 0) return finish(text, text);
-    const std::int32_t decimals = field.fieldLength().decimals;
-    const bool negative = rawText(field, source, width, decimals, text);
-    const char separator = field.transferSettings().decimalSeparator;
-    return isFixedForm(field) ? toFixedForm(text, width, negative, separator)
-                              : toDelimitedForm(text, width, decimals, separator);
+std::uint32_t formatDecimal(const FieldPlan& plan, const char* source, char* text) {
+    if (plan.width == 0) return finish(text, text);
+    const bool negative = rawText(plan, source, text);
+    return plan.isFixed ? toFixedForm(text, plan.width, negative, plan.decimalSeparator)
+                        : toDelimitedForm(text, plan.width, plan.decimals, plan.decimalSeparator);
 }
 
 // What is left empty or blank is a zero.
@@ -199,28 +184,17 @@ std::uint32_t withZero(char* text, std::uint32_t length) {
 
 }  // namespace
 
-bool hasTextForm(const HostField& field) {
-    return field.type() != Binary || field.fieldLength().bytes <= LargestBinary;
-}
+bool hasTextForm(const FieldPlan& plan) { return plan.type != Binary || plan.bytes <= LargestBinary; }
 
-char packedDigit(const char* source, std::uint32_t index) {
-    const auto byte = static_cast<std::uint8_t>(source[index / 2]);
-    return static_cast<char>('0' + (index % 2 == 0 ? byte >> 4 : byte & 0x0F));
-}
-
-void reverseBytes(const char* source, char* destination, std::uint32_t count) {
-    std::reverse_copy(source, source + count, destination);
-}
-
-std::uint32_t formatNumericField(const HostField& field, const char* source, char* text) {
-    switch (field.type()) {
+std::uint32_t formatNumericField(const FieldPlan& plan, const char* source, char* text) {
+    switch (plan.type) {
         case Hex:
-            return formatHex(field, source, text);
+            return formatHex(plan, source, text);
         case Binary:
-            return withZero(text, formatBinary(field, source, text));
+            return withZero(text, formatBinary(plan, source, text));
         case Zoned:
         case Packed:
-            return withZero(text, formatDecimal(field, source, text));
+            return withZero(text, formatDecimal(plan, source, text));
         default:
             return finish(text, text);
     }

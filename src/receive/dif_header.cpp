@@ -1,4 +1,4 @@
-#include "record/to_pc/dif_header.h"
+#include "receive/dif_header.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -7,8 +7,10 @@
 #include "record/dif_pieces.h"
 #include "record/quoting.h"
 
-namespace record::to_pc {
+namespace receive {
 namespace {
+
+namespace dif = record::dif;
 
 constexpr std::uint32_t HeaderSize = 256;
 constexpr std::uint32_t NameCapacity = 80;
@@ -24,7 +26,7 @@ bool writeName(services::FileObject& file, const char* name) {
     char item[NameCapacity + 16];
     char* next = std::copy(dif::StringHead.begin(), dif::StringHead.end(), item);
     *next++ = '"';
-    if (!doubleQuotes(name, next, NameCapacity)) return false;
+    if (!record::doubleQuotes(name, next, NameCapacity)) return false;
     next += std::strlen(next);
     std::memcpy(next, "\"\r\n", 3);
     return writeToFile(file, {item, static_cast<std::size_t>(next + 3 - item)});
@@ -32,17 +34,16 @@ bool writeName(services::FileObject& file, const char* name) {
 
 }  // namespace
 
-bool writeDifHeader(const RecordConverter& converter, services::FileObject& file) {
+bool writeDifHeader(const record::HostLayout& layout, std::int32_t expectedCount, services::FileObject& file) {
     char header[HeaderSize];
-    const int length =
-        std::snprintf(header, sizeof(header), dif::HeaderTemplate, static_cast<long>(converter.fields.count()),
-                      static_cast<long>(static_cast<unsigned long>(converter.expectedCount) + 1));
+    const int length = std::snprintf(header, sizeof(header), dif::HeaderTemplate, static_cast<long>(layout.count()),
+                                     static_cast<long>(static_cast<unsigned long>(expectedCount) + 1));
     if (!writeToFile(file, {header, static_cast<std::size_t>(length)}) || !writeToFile(file, dif::BeginTuple) ||
-        converter.fields.isEmpty())
+        layout.isEmpty())
         return false;
-    for (const HostField& field : converter.fields)
-        if (!writeName(file, field.name())) return false;
+    for (const record::PlannedField& each : layout)
+        if (!writeName(file, each.field.name())) return false;
     return true;
 }
 
-}  // namespace record::to_pc
+}  // namespace receive

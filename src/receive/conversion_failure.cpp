@@ -1,0 +1,37 @@
+#include "receive/conversion_failure.h"
+
+#include <cstdio>
+
+#include "client/text_failure.h"
+#include "messages/own_sentences.h"
+#include "record/field_plan.h"
+
+namespace receive {
+namespace {
+
+void tellNoTextForm(const ZXFRPCSCLIENT& client, const record::HostField& field) {
+    char text[160];
+    std::snprintf(text, sizeof(text), messages::sentence::NoTextForm, field.name(),
+                  static_cast<unsigned>(field.length()));
+    messages::showOwnText(client.messageOwner(), text);
+}
+
+}  // namespace
+
+void tellConversionFailure(const ZXFRPCSCLIENT& client, const record::ConversionResult& result) {
+    switch (result.outcome) {
+        case record::Outcome::NoMemory:
+            messages::show(client.messageOwner(), zhst::message::OutOfMemory);
+            break;
+        case record::Outcome::NoTextForm:
+            tellNoTextForm(client, result.field->field);
+            break;
+        case record::Outcome::TextNotConverted:
+            client::tellTextNotConverted(client);
+            break;
+        default:
+            break;
+    }
+}
+
+}  // namespace receive

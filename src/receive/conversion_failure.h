@@ -1,0 +1,11 @@
+#pragma once
+
+#include "client/client_object.h"
+#include "record/outcome.h"
+
+namespace receive {
+
+// Tells why a host record did not become a PC record.
+void tellConversionFailure(const ZXFRPCSCLIENT& client, const record::ConversionResult& result);
+
+}  // namespace receive
