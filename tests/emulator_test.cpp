@@ -4,6 +4,7 @@
 
 #include "Z7XFRPCS/conversion.h"
 #include "Z7XFRPCS/dialogs.h"
+#include "Z7XFRPCS/messages.h"
 #include "Z7XFRPCS/runtime.h"
 #include "Z7XFRPCS/session.h"
 #include "platform/platform.h"
@@ -154,32 +155,28 @@ TEST_F(Emulator, LibrariesAreFoundLoadedAndCounted) {
     EXPECT_EQ(emulator::openObjects().modules, 0u);
 }
 
-TEST_F(Emulator, CatalogueHasASentenceForEverything) {
-    std::vector<std::uint32_t> ids = {4001, 4266, 4269, 4315, 4400, 4402, 4403, 4405, 4406,
-                                      4407, 4408, 4410, 4411, 4412, 4432, 4433, 4436, 4593,
-                                      4594, 4601, 4607, 4658, 4659, 4679, 4682, 4697, 4704};
-    for (std::uint32_t id = 4416; id <= 4431; ++id) ids.push_back(id);
-    // A table, its first and last text, and the longest text that their buffer takes.
-    const std::tuple<std::uint32_t, std::uint32_t, std::uint32_t, std::uint32_t> ranges[] = {
-        {7, 88, 88, 99},   {7, 400, 405, 99}, {7, 416, 416, 999}, {7, 418, 418, 39},
-        {7, 432, 432, 79}, {7, 434, 434, 99}, {7, 439, 440, 999}, {7, 443, 444, 39},
-        {7, 445, 459, 99}, {7, 500, 548, 99}, {17, 4, 4, 999},    {22, 202, 202, 299}};
-    for (const auto& [table, first, last, longest] : ranges)
-        for (std::uint32_t index = first; index <= last; ++index) {
-            char text[1000] = "?";
-            zhstLoadMessageText(session, table, index, text, sizeof text);
-            EXPECT_TRUE(*text && std::strlen(text) <= longest) << table << ',' << index;
-            ids.push_back(zhstMessageId(table, index));
-        }
-    for (std::uint32_t code :
-         {0x05, 0x06, 0x07, 0x16, 0x1C, 0x32, 0x33, 0x37, 0x48, 0x4B, 0x51, 0x87, 0xD4, 0xD5, 0xD7, 0xD8, 0xEC, 0xF5})
-        for (const std::uint32_t table : {22, 45}) ids.push_back(zhstMessageId(table, code));
+// That every number of the list has a sentence is checked when the catalogue is compiled. These are read by place into
+// buffers of their sizes; those that make messages also by the number of the message.
+TEST_F(Emulator, CatalogueTextsFitTheirReadersAndMakeMessages) {
+    const std::map<std::uint32_t, std::size_t> narrow = {{418, 39}, {432, 79}, {443, 39}, {444, 39}};
     zhstShowMessage(session, 0, 1, 0x30, 1, 0);
     const std::string absent = user.messages.back().text;
-    for (std::uint32_t id : ids) {
-        zhstShowMessage(session, 0, id, 0x30, 1, id);
-        EXPECT_NE(user.messages.back().text, absent) << id;
-    }
+    const auto expectFits = [&](std::uint32_t table, std::uint32_t index) {
+        char text[1000] = "?";
+        zhstLoadMessageText(session, table, index, text, sizeof text);
+        const auto longest = narrow.contains(index) ? narrow.at(index) : 99;
+        EXPECT_TRUE(*text && std::strlen(text) <= longest) << table << ',' << index;
+    };
+    const auto expectMessage = [&](std::uint32_t table, std::uint32_t index) {
+        zhstShowMessage(session, 0, zhstMessageId(table, index), 0x30, 1, 0);
+        EXPECT_NE(user.messages.back().text, absent) << table << ',' << index;
+    };
+#define EXPECT_TEXT(table, index, name, inserts) expectFits(table, index), expectMessage(table, index);
+    ZHST_TEXTS(EXPECT_TEXT)
+#define EXPECT_CODE(place, code) expectFits(7, place), expectFits(7, code);
+    ZHST_TRANSFER_CODES(EXPECT_CODE)
+#define EXPECT_PROVIDER_CODE(code, help) expectFits(22, code), expectFits(45, code);
+    ZHST_PROVIDER_CODES(EXPECT_PROVIDER_CODE)
 }
 
 TEST_F(Emulator, InsertsFillTheirPlaces) {
@@ -220,15 +217,19 @@ TEST_F(Emulator, JournalLinesHaveTheirShape) {
     zhstUnlockStoreList(store, list);
     zhstPumpMessages(zhstGetSessionApp(session), 1);
     emulator::note("-- mine");
+    zhstShowMessage(session, 3, zhstMessageId(7, 416), 0x30, 1, 124);
+    zhstLoadMessageText(session, 7, 503, buffer, sizeof buffer);
     zhstSetStringSetting(settings, 9999, std::string(65, 'x').c_str());
-    EXPECT_EQ(emulator::journal(),
-              (Lines{"GetSetting(7, 215 TransportType) = 9", "GetStringSetting(7, 40 HostSystemName, \"AS4\", 4) = 1",
-                     "OpenStore(\"ZHST\") = 1", "OpenStoreNode(1, 0, XFR4, 0, XFR4)",
-                     "OpenStoreList(1, XFR4, X4RP, 0, X4RP)", "OpenStoreItem(1, X4RP, XDTI, 0, XDTI)",
-                     "SetStoreItem(1, XDTI, \"lost\", 4)", "LockStoreList(1, X4RP) = 1",
-                     "SetStoreItem(1, XDTI, \"\\x01\\\"\\\\\\r\\n\\t\\xFF\", 7)", "UnlockStoreList(1, X4RP)",
-                     "GetSessionApp(1) = 2", "PumpMessages(2, 1)", "IsMessageEnabled(7, 4315) = 1", "-- mine",
-                     "SetStringSetting(7, 9999, \"" + std::string(64, 'x') + "\"...)"}));
+    EXPECT_EQ(
+        emulator::journal(),
+        (Lines{"GetSetting(7, 215 TransportType) = 9", "GetStringSetting(7, 40 HostSystemName, \"AS4\", 4) = 1",
+               "OpenStore(\"ZHST\") = 1", "OpenStoreNode(1, 0, XFR4, 0, XFR4)", "OpenStoreList(1, XFR4, X4RP, 0, X4RP)",
+               "OpenStoreItem(1, X4RP, XDTI, 0, XDTI)", "SetStoreItem(1, XDTI, \"lost\", 4)",
+               "LockStoreList(1, X4RP) = 1", "SetStoreItem(1, XDTI, \"\\x01\\\"\\\\\\r\\n\\t\\xFF\", 7)",
+               "UnlockStoreList(1, X4RP)", "GetSessionApp(1) = 2", "PumpMessages(2, 1)",
+               "IsMessageEnabled(7, 4315 TransferCancelled) = 1", "-- mine", "MessageId(7, 416 NoRecords) = 70416",
+               "ShowMessage(1, 3, 70416 NoRecords, 48, 1, 124) = 1", "LoadMessageText(1, 7, 503, \"The\", 4)",
+               "SetStringSetting(7, 9999, \"" + std::string(64, 'x') + "\"...)"}));
     EXPECT_EQ(emulator::storeItem("XDTI").writes, 1u);
     EXPECT_EQ(emulator::storeItem("XDTI").value, "\x01\"\\\r\n\t\xFF");
 }

@@ -65,7 +65,7 @@ TEST_F(Exports, CancelNotesItsMessageAndShowsNothing) {
     emulator::clearJournal();
     library.pcsCancelTransfer(client());
     EXPECT_EQ(journalCount("IsMessageEnabled("), 1u);
-    EXPECT_EQ(journalCount("IsMessageEnabled(*, 4315)"), 1u);
+    EXPECT_EQ(journalCount("IsMessageEnabled(*, 4315 TransferCancelled)"), 1u);
     EXPECT_TRUE(user.messages.empty());
 }
 

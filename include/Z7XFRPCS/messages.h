@@ -102,6 +102,7 @@ enum ZhstErrorTable {
 /* Return codes of the transfer function in ascending order: place, code. The place is the index of the code's text in
    the transfer table, and its help topic. */
 #define ZHST_TRANSFER_CODES(X) \
+    X(500, 0x0103)             \
     X(501, 0x0300)             \
     X(502, 0x0302)             \
     X(503, 0x0400)             \
@@ -154,6 +155,7 @@ enum ZhstErrorTable {
 /* Return codes of the emulator's own providers: code, help topic. All are below the first one of the transfer function.
    Their texts stand in the provider tables, by the code. */
 #define ZHST_PROVIDER_CODES(X) \
+    X(0x0005, 1200)            \
     X(0x0006, 1201)            \
     X(0x0007, 1202)            \
     X(0x0016, 1203)            \

@@ -11,8 +11,8 @@
 #include "Z7XFRPCS/settings.h"
 
 // The emulator stand-in, seen from the program that plays with it. The services themselves are the functions of
-// src/host; this page is how a program or a test sets up what they answer and sees what was asked of them. One state
-// per process, user-interface thread only.
+// include/Z7XFRPCS; this page is how a program or a test sets up what they answer and sees what was asked of them. One
+// state per process, user-interface thread only.
 namespace emulator {
 
 // --- What the user sees and does ---------------------------------------------------------------------------------
@@ -149,11 +149,13 @@ void onStoreWrite(std::function<void(std::string_view code, std::string_view val
 
 // Every service call in order while the journal is on (it is off at first), one line each:
 //     GetSetting(7, 215 TransportType) = 9
+//     IsMessageEnabled(7, 4001 OutOfMemory) = 1
 //     FileObject.write("A,B\r\n", 5) = 1
 //     LockStoreList(1, X4RP) = 1
 // Texts and bytes stand in double quotes, with \r \n \t \\ \" and \xHH; handles and numbers in decimal; store parts by
-// their code; a setting's number is followed by its name; addresses that are no texts as "*", null as 0. Bytes beyond
-// 64 are cut, with "..." behind the quote. Calls without a result have no " = ". Allocations are not journalled.
+// their code; the number of a setting, a message or a text of the catalogue is followed by its name; addresses that are
+// no texts as "*", null as 0. Bytes beyond 64 are cut, with "..." behind the quote. Calls without a result have no
+// " = ". Allocations are not journalled.
 //
 // Arguments stand in their order, the object of an object operation left out. A buffer or handle that the call fills
 // shows what it was filled with:

@@ -1,10 +1,9 @@
 #include "emulator/journal.h"
 
-#include <algorithm>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
+#include "emulator/catalogue.h"
 #include "emulator/emulator.h"
 #include "emulator/setting_rows.h"
 
@@ -15,14 +14,15 @@ std::vector<std::string> lines;
 // A call that was under way when the journal was cleared must not write its result into a younger line.
 std::uint64_t journalNumber = 0;
 
-const char* settingName(std::uint32_t id) {
-    static const auto* const names = [] {
-        auto* made = new std::unordered_map<std::uint32_t, const char*>;
-        for (const auto& row : settingRows) made->emplace(row.number, row.name);
-        return made;
-    }();
-    const auto found = names->find(id);
-    return found == names->end() ? nullptr : found->second;
+std::string_view settingName(std::uint32_t id) {
+    for (const SettingRow& row : settingRows)
+        if (row.number == id) return row.name;
+    return {};
+}
+
+void appendNamed(std::string& line, std::uint32_t number, std::string_view name) {
+    line += std::to_string(number);
+    if (!name.empty()) line.append(" ").append(name);
 }
 
 void appendByte(std::string& line, unsigned char byte) {
@@ -76,9 +76,15 @@ void append(std::string& line, const char* text) {
         line += '0';
 }
 
-void append(std::string& line, Setting setting) {
-    line += std::to_string(setting.id);
-    if (const char* name = settingName(setting.id)) line.append(" ").append(name);
+void append(std::string& line, Setting setting) { appendNamed(line, setting.id, settingName(setting.id)); }
+
+void append(std::string& line, Message message) {
+    appendNamed(line, message.id, catalogue::findMessage(message.id).name);
+}
+
+void append(std::string& line, Text text) {
+    line.append(std::to_string(text.table)).append(", ");
+    appendNamed(line, text.index, catalogue::findText(text.table, text.index).name);
 }
 
 void append(std::string& line, Code code) {

@@ -14,6 +14,12 @@ namespace emulator::journalled {
 struct Setting {
     std::uint32_t id;
 };
+struct Message {
+    std::uint32_t id;
+};
+struct Text {
+    std::uint32_t table, index;
+};
 // Four characters of a store part; 0 is no part.
 struct Code {
     std::uint32_t code;
@@ -32,6 +38,8 @@ void append(std::string& line, std::integral auto number) { line += std::to_stri
 void append(std::string& line, const char* text);
 void append(std::string& line, std::string_view text);
 void append(std::string& line, Setting setting);
+void append(std::string& line, Message message);
+void append(std::string& line, Text text);
 void append(std::string& line, Code code);
 void append(std::string& line, Bytes bytes);
 void append(std::string& line, Address address);

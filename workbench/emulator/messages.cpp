@@ -100,7 +100,7 @@ void resetMessages() { disabled.clear(); }
 using namespace emulator;
 
 std::uint32_t ZHST_CALL zhstIsMessageEnabled(ZhstSettings settings, std::uint32_t id) {
-    return Call("IsMessageEnabled", settings, id).result(messageEnabled(id) ? 1u : 0u);
+    return Call("IsMessageEnabled", settings, journalled::Message{id}).result(messageEnabled(id) ? 1u : 0u);
 }
 
 void ZHST_CALL zhstLoadMessageText(ZhstSession session, std::uint32_t table, std::uint32_t index, char* buffer,
@@ -110,23 +110,24 @@ void ZHST_CALL zhstLoadMessageText(ZhstSession session, std::uint32_t table, std
         std::memcpy(buffer, text.data(), text.size());
         buffer[text.size()] = 0;
     }
-    Call("LoadMessageText", session, table, index, static_cast<const char*>(size > 0 ? buffer : nullptr), size);
+    Call("LoadMessageText", session, journalled::Text{table, index},
+         static_cast<const char*>(size > 0 ? buffer : nullptr), size);
 }
 
 std::uint32_t ZHST_CALL zhstMessageId(std::uint32_t table, std::uint32_t index) {
-    return Call("MessageId", table, index).result(catalogue::messageId(table, index));
+    return Call("MessageId", journalled::Text{table, index}).result(catalogue::messageId(table, index));
 }
 
 std::int32_t ZHST_CALL zhstShowMessage(ZhstSession session, ZhstWindow owner, std::uint32_t id, std::uint32_t flags,
                                        std::uint32_t one, std::uint32_t helpId) {
-    const Call call("ShowMessage", session, owner, id, flags, one, helpId);
+    const Call call("ShowMessage", session, owner, journalled::Message{id}, flags, one, helpId);
     return call.result(show({owner, id, flags, helpId}, {}));
 }
 
 std::int32_t ZHST_CALL zhstShowMessage1(ZhstSession session, ZhstWindow owner, std::uint32_t id, std::uint32_t flags,
                                         std::uint32_t one, std::uint32_t helpId, const char* insert1) {
     const Insert inserts[] = {textInsert(insert1)};
-    const Call call("ShowMessage1", session, owner, id, flags, one, helpId, inserts[0]);
+    const Call call("ShowMessage1", session, owner, journalled::Message{id}, flags, one, helpId, inserts[0]);
     return call.result(show({owner, id, flags, helpId}, inserts));
 }
 
@@ -135,7 +136,8 @@ std::int32_t ZHST_CALL zhstShowMessage2(ZhstSession session, ZhstWindow owner, s
                                         ZhstInsert insert2) {
     const catalogue::Message message = catalogue::findMessage(id);
     const Insert inserts[] = {insertAt(message, 0, insert1), insertAt(message, 1, insert2)};
-    const Call call("ShowMessage2", session, owner, id, flags, one, helpId, inserts[0], inserts[1]);
+    const Call call("ShowMessage2", session, owner, journalled::Message{id}, flags, one, helpId, inserts[0],
+                    inserts[1]);
     return call.result(show({owner, id, flags, helpId}, inserts));
 }
 
@@ -145,7 +147,8 @@ std::int32_t ZHST_CALL zhstShowMessage3(ZhstSession session, ZhstWindow owner, s
     const catalogue::Message message = catalogue::findMessage(id);
     const Insert inserts[] = {insertAt(message, 0, insert1), insertAt(message, 1, insert2),
                               insertAt(message, 2, insert3)};
-    const Call call("ShowMessage3", session, owner, id, flags, one, helpId, inserts[0], inserts[1], inserts[2]);
+    const Call call("ShowMessage3", session, owner, journalled::Message{id}, flags, one, helpId, inserts[0], inserts[1],
+                    inserts[2]);
     return call.result(show({owner, id, flags, helpId}, inserts));
 }
 
@@ -153,7 +156,8 @@ std::int32_t ZHST_CALL zhstShowMessageCode(ZhstSession session, ZhstWindow owner
                                            std::uint32_t one, std::uint32_t helpId, std::uint32_t insert1,
                                            const char* insert2, const char* insert3) {
     const Insert inserts[] = {numberInsert(insert1), textInsert(insert2), textInsert(insert3)};
-    const Call call("ShowMessageCode", session, owner, id, flags, one, helpId, inserts[0], inserts[1], inserts[2]);
+    const Call call("ShowMessageCode", session, owner, journalled::Message{id}, flags, one, helpId, inserts[0],
+                    inserts[1], inserts[2]);
     return call.result(show({owner, id, flags, helpId}, inserts));
 }
 
@@ -166,7 +170,7 @@ std::int32_t ZHST_CALL zhstShowMessageText(ZhstSession session, ZhstWindow owner
 std::int32_t ZHST_CALL zhstMessageBox_scroll(ZhstSession session, ZhstWindow owner, std::uint32_t id,
                                              std::uint32_t flags, std::uint32_t one, std::uint32_t helpId,
                                              const char* text) {
-    const Call call("zhstMessageBox_scroll", session, owner, id, flags, one, helpId, text);
+    const Call call("zhstMessageBox_scroll", session, owner, journalled::Message{id}, flags, one, helpId, text);
     return call.result(showReady({owner, id, flags, helpId}, true, text));
 }
 
