@@ -1,24 +1,32 @@
 #pragma once
 
-#include "services/session.h"
-#include "settings/transfer_settings.h"
+#include "messages/box.h"
+#include "services/objects.h"
+
+namespace monitor {
+class MonitorStore;
+}
+namespace settings {
+struct TransferSettings;
+}
 
 namespace client {
 
 // What the reader and the writer of PC file descriptions are handed for one transfer. Owns nothing.
 struct TransferContext {
-    TransferContext(services::SessionHandle owner, provider::TransferFunctionSession* functions,
-                    ::settings::TransferSettings* snapshot)
+    TransferContext(services::SessionHandle owner, monitor::MonitorStore* store, ::settings::TransferSettings* snapshot)
         : session(owner),
-          tfSession(functions),
+          monitorStore(store),
           pathServices(services::GetPathServices(owner)),
           settings(services::GetSessionSettings(owner)),
           transferSettings(snapshot),
           mainWindow(services::GetSessionWindow(settings)) {}
 
+    messages::Owner messageOwner() const { return {session, settings, mainWindow}; }
+
     services::SessionHandle session;
-    provider::TransferFunctionSession* tfSession;
-    services::PathServices* pathServices;
+    monitor::MonitorStore* monitorStore;   // null when there was no memory for it
+    services::PathServices* pathServices;  // null when the session has none
     services::SettingsHandle settings;
     ::settings::TransferSettings* transferSettings;
     services::WindowHandle mainWindow;

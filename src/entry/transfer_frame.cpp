@@ -96,7 +96,7 @@ bool makeSnapshotAndContext(ZXFRPCSCLIENT& client) {
     client.transferSettings = services::Owned<settings::TransferSettings>::make(client.session, tf);
     if (client.transferSettings)
         client.transferContext =
-            services::Owned<client::TransferContext>::make(client.session, tf, client.transferSettings.get());
+            services::Owned<client::TransferContext>::make(client.session, tf->monitorStore(), client.transferSettings.get());
     if (client.transferContext) return true;
     reportOutOfMemory(client);
     return false;

@@ -41,9 +41,9 @@ constexpr CodeRow decimalSeparators[] = {{1, 6} /*.*/, {2, 2} /*,*/};
 struct FieldTypeCodes {
     std::int32_t hex, binary, character, zoned, packed;
 };
-constexpr FieldTypeCodes FdfFieldTypesText{2, 2, 1, 2, 2};  // 1 = character, 2 = numeric
-constexpr FieldTypeCodes FdfFieldTypesRandom{3, 4, 1, 5, 6};
-constexpr FieldTypeCodes FdfFieldTypesNoConversion{3, 4, 10, 11, 12};
+constexpr FieldTypeCodes FdfFieldTypesText{2, 2, 1, 2, 2};             // 1 = character, 2 = numeric
+constexpr FieldTypeCodes FdfFieldTypesRandom{3, 4, 1, 5, 6};           // number forms of the PC
+constexpr FieldTypeCodes FdfFieldTypesNoConversion{3, 4, 10, 11, 12};  // those of the host
 
 const FieldTypeCodes& fieldTypes(const settings::PcFileTypeRow& pcFileType) {
     if (pcFileType.isText()) return FdfFieldTypesText;
@@ -80,7 +80,7 @@ std::int32_t fieldTypeCode(const settings::PcFileTypeRow& pcFileType, std::uint8
             return codes.zoned;
         case record::Packed:
             return codes.packed;
-        default:
+        default:  // double-byte text, and whatever else a host may have
             return codes.character;
     }
 }

@@ -5,24 +5,25 @@
 #include "Z7XFRPCS/settings.h"
 #include "fdf/code_tables.h"
 #include "fdf/fdf_path.h"
-#include "provider/transfer_function_session.h"
+#include "monitor/monitor_store.h"
 #include "settings/pc_file_types.h"
+#include "settings/transfer_settings.h"
 
 namespace fdf {
 namespace {
 
 namespace id = zhst::setting;
 
-constexpr std::uint32_t LineSize = 256;
+constexpr std::uint32_t LineSize = 256;  // more than any text needs: a name has at most 29 characters
 
 // Written and published; false when the write failed.
 bool writeText(const client::TransferContext& context, services::FileObject& file, const char* text, int length) {
     if (length < 0 || !file.write(text, static_cast<std::uint32_t>(length))) return false;
-    if (monitor::MonitorStore* store = context.tfSession->monitorStore())
-        store->recordReceiveDescription({text, static_cast<std::size_t>(length)});
+    if (context.monitorStore) context.monitorStore->recordReceiveDescription({text, static_cast<std::size_t>(length)});
     return true;
 }
 
+// An option without a code is written as -1, which no reader takes; only the decimal separator has a sign for none.
 bool writeHead(const client::TransferContext& context, services::FileObject& file) {
     const settings::TransferSettings& options = *context.transferSettings;
     const std::int32_t decimal = valueToFdfCode(FdfDecimalSeparators, options.decimalSeparatorMode);
@@ -45,7 +46,7 @@ void formatLength(const record::HostField& field, bool isText, services::Setting
         std::snprintf(text, sizeof(text), "%d", static_cast<int>(field.length()));
         return;
     }
-    const int extra = services::GetSetting(settings, id::FdfNumericLengthMode) == 0 ? 1 : 0;
+    const int extra = services::GetSetting(context.settings, id::FdfNumericLengthMode) == 0 ? 1 : 0;
     const int digits = static_cast<int>(field.precision()) + extra;
     if (field.decimals() > 0)
         std::snprintf(text, sizeof(text), "%d/%d", digits + extra, field.decimals());
@@ -74,10 +75,7 @@ void writeFdf(const client::TransferContext& context, const record::HostLayout& 
     const services::OwnedFile file =
         resolveFdfPath(context, pcFileName, context.transferSettings->receiveDescriptionFile, path);
     if (!file) return;
-    file->setName(path);
-    file->setTypeFlag(0);
-    file->setOpenFlags(OpenFlags);
-    // A description is never appended to.
+    // A description is never appended to: a second header would make it unreadable.
     file->setExistingFileAction(static_cast<std::uint32_t>(mode == zhst::value::Append ? zhst::value::Replace : mode));
     if (mode == zhst::value::AskUser) file->prepareNewFile();
     if (file->openForWriting() && writeHead(context, *file)) writeFdfFieldLines(context, layout, *file);
