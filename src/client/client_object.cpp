@@ -2,6 +2,7 @@
 
 #include "Z7XFRPCS/exports.h"
 #include "Z7XFRPCS/settings.h"
+#include "platform/platform.h"
 
 namespace client {
 
@@ -11,6 +12,7 @@ services::Owned<provider::TransferFunctionSession> makeTransferFunctionSession(s
 
 }  // namespace client
 
+// A dialog on display processes the messages itself, those of its cancel button among them.
 void ZXFRPCSCLIENT::pumpMessages() {
     if (progressDialog && showProgress)
         services::ProgressDialogCommand(progressDialog, services::ProgressCommand::ProcessMessages);
@@ -27,4 +29,8 @@ bool ZXFRPCSCLIENT::tfStart() {
     if (tfSession) return tfSession->tfStart();
     messages::show(messageOwner(), zhst::message::OutOfMemory);
     return false;
+}
+
+messages::Owner ZXFRPCSCLIENT::popupOwner() const {
+    return {session, settings, platform::GetLastActivePopup(mainWindow)};
 }

@@ -4,8 +4,8 @@
 
 #include "client/transfer_context.h"
 #include "provider/transfer_function_session.h"
-#include "services/objects.h"
 #include "services/owned.h"
+#include "services/owned_file.h"
 #include "settings/transfer_settings.h"
 #include "text/text_buffer.h"
 
@@ -21,7 +21,7 @@ struct ZXFRPCSCLIENT {
     services::SessionHandle session;
     services::SettingsHandle settings = 0;
     services::PathServices* pathServices = nullptr;
-    services::FileObject* fileObject = nullptr;   // running: the PC file
+    services::OwnedFile fileObject;               // running: the PC file
     services::TextDisplayHandle textDisplay = 0;  // running, output to the screen
     services::WindowHandle ownerWindow = 0;       // running
     services::WindowHandle mainWindow = 0;
@@ -51,8 +51,9 @@ struct ZXFRPCSCLIENT {
     // would write over what stands there.
     bool isBusy() const { return transferRunning || (tfSession && tfSession->isWaiting()); }
 
+    // Owners of message boxes: the main window; its last active popup; during a transfer, the transfer's owner window.
     messages::Owner messageOwner() const { return {session, settings, mainWindow}; }
-    // During a transfer, its owner window.
+    messages::Owner popupOwner() const;
     messages::Owner dialogOwner() const { return {session, settings, transferRunning ? ownerWindow : mainWindow}; }
 };
 static_assert(offsetof(ZXFRPCSCLIENT, moreRequested) == 0);

@@ -5,17 +5,20 @@
 #include <string_view>
 
 #include "Z7XFRPCS/settings.h"
+#include "client/display_pages.h"
+#include "client/progress.h"
 #include "platform/own_module.h"
 #include "platform/platform.h"
 #include "services/text_display.h"
-#include "settings/pc_file_types.h"
 
 namespace client {
 namespace {
 
 namespace id = zhst::setting;
+using services::Direction;
 using services::ProgressCommand;
 
+// String resources. 1 and 2, a heading and a rule, belong to the table as a text; the display has titles instead.
 constexpr std::uint32_t FirstRowResource = 3;
 constexpr std::uint32_t LastRowResource = 25;
 constexpr std::uint32_t FirstTitleResource = 100;
@@ -25,17 +28,10 @@ constexpr std::uint32_t FirstTitleResource = 100;
 constexpr std::uint32_t columnWidths[] = {12, 15, 22, 21, 6, 7};
 constexpr std::uint32_t ColumnCount = std::size(columnWidths);
 
-constexpr std::uint32_t TextTable = 7;
-// Texts of the status line, and the sizes of their buffers.
-constexpr std::uint32_t NormalStatusText = 418;
-constexpr std::uint32_t NormalStatusSize = 40;
-constexpr std::uint32_t MoreText = 432;
-constexpr std::uint32_t MoreSize = 80;
-
 constexpr std::uint32_t SimulatedRecords = 2340;
 constexpr std::uint32_t SimulatedSteps = 5;
 constexpr std::uint32_t StepMilliseconds = 500;
-constexpr std::uint32_t NapMilliseconds = 10;
+constexpr std::uint32_t NapMilliseconds = 10;  // the wait is to cost no processor time
 
 struct ResourceText {
     explicit ResourceText(std::uint32_t resource) {
@@ -43,12 +39,6 @@ struct ResourceText {
     }
     char text[100] = {};
 };
-
-void setStatus(const ZXFRPCSCLIENT& client, std::uint32_t index, std::uint32_t size) {
-    char text[std::max(NormalStatusSize, MoreSize)] = {};
-    services::LoadMessageText(client.session, TextTable, index, text, size);
-    services::TextDisplaySetStatus(client.textDisplay, text);
-}
 
 void addColumns(const ZXFRPCSCLIENT& client) {
     for (std::uint32_t column = 0; column < ColumnCount; ++column) {
@@ -72,32 +62,17 @@ void addRow(const ZXFRPCSCLIENT& client, std::uint32_t resource) {
     }
 }
 
-void showTable(ZXFRPCSCLIENT& client, std::int32_t pageSize) {
-    client.displayClosed = 0;
-    client.moreRequested = 1;
-    if (client.progressDialog) {
-        services::ProgressDialogDestroy(client.progressDialog);
-        client.progressDialog = 0;
-    }
-    services::TextDisplayBegin(client.textDisplay, pageSize, 0);
+void showTable(ZXFRPCSCLIENT& client, std::int32_t rowsPerPage) {
+    DisplayPages pages(client, rowsPerPage, DisplayPages::Texts::LoadedAnew);
+    pages.begin();
+    progress::destroy(client);
+    services::TextDisplayBegin(client.textDisplay, rowsPerPage, 0);
     addColumns(client);
-    std::int32_t pageLine = 0;
     for (std::uint32_t resource = FirstRowResource; resource <= LastRowResource; ++resource) {
         addRow(client, resource);
-        if (pageLine + 1 < pageSize) {
-            ++pageLine;
-        } else {
-            pageLine = 0;
-            client.moreRequested = 0;
-            setStatus(client, MoreText, MoreSize);
-        }
-        while (!client.moreRequested && !client.displayClosed) client.pumpMessages();
-        if (client.displayClosed) return;
-        client.moreRequested = 1;
-        setStatus(client, NormalStatusText, NormalStatusSize);
+        if (!pages.endRow()) return;
     }
-    services::TextDisplayEnd(client.textDisplay);
-    while (!client.displayClosed) client.pumpMessages();
+    pages.end();
 }
 
 void wait(std::uint32_t milliseconds) {
@@ -105,42 +80,36 @@ void wait(std::uint32_t milliseconds) {
     while (platform::GetTickCount() - start < milliseconds) platform::Sleep(NapMilliseconds);
 }
 
-std::uint32_t setTotal(const ZXFRPCSCLIENT& client, bool fromHost) {
-    const std::uint32_t size = client.fileObject && !fromHost ? client.fileObject->size() : 0;
-    const std::uint32_t total = fromHost ? SimulatedRecords : size;
-    services::SetSetting(client.settings, id::TransferDirection, fromHost ? services::FromHost : services::ToHost);
-    services::ProgressDialogSetTotal(client.progressDialog, total, fromHost ? services::Records : services::Bytes);
-    return total;
+// The records of a receive are as made up as its table.
+std::uint32_t totalOf(const ZXFRPCSCLIENT& client, Direction direction) {
+    return direction == Direction::FromHost ? SimulatedRecords : client.fileObject->size();
 }
 
-void simulateProgress(const ZXFRPCSCLIENT& client, bool fromHost) {
+void simulateProgress(const ZXFRPCSCLIENT& client, Direction direction) {
     const settings::TransferSettings& settings = *client.transferSettings;
-    const auto* type = settings::pcFileType(fromHost ? settings.receiveFileType : settings.sendFileType);
-    if (type)
-        services::ProgressDialogCommand(client.progressDialog, static_cast<ProgressCommand>(type->progressCommand));
-    const std::uint32_t total = setTotal(client, fromHost);
-    services::ProgressDialogCommand(client.progressDialog, ProgressCommand::DataBegins);
+    progress::showFileType(client, direction == Direction::FromHost ? settings.receiveFileType : settings.sendFileType);
+    const std::uint32_t total = totalOf(client, direction);
+    progress::setTotal(client, direction, total);
+    progress::command(client, ProgressCommand::DataBegins);
     for (std::uint32_t step = 1; step <= SimulatedSteps; ++step) {
         wait(StepMilliseconds);
         services::SetSetting(client.settings, id::ProgressCount,
                              static_cast<std::int32_t>(total / SimulatedSteps * step));
+        // The application's pump even while the dialog is on display, unlike pumpMessages.
         services::PumpMessages(client.appHandle, 1);
-        if (client.cancelRequested) {
-            services::ProgressDialogCommand(client.progressDialog, ProgressCommand::SimulationCancelled);
-            return;
-        }
+        if (client.cancelRequested) return progress::command(client, ProgressCommand::SimulationCancelled);
     }
-    services::ProgressDialogCommand(client.progressDialog, ProgressCommand::Ended);
+    progress::command(client, ProgressCommand::Ended);
 }
 
 }  // namespace
 
-void runDemonstration(ZXFRPCSCLIENT& client, bool fromHost) {
-    const std::int32_t pageSize = services::GetSetting(client.settings, id::DisplayRowsPerPage);
-    if (fromHost && client.transferSettings->receiveOutput == zhst::value::ToDisplay) {
-        if (client.textDisplay) showTable(client, pageSize);
+void runDemonstration(ZXFRPCSCLIENT& client, Direction direction) {
+    const std::int32_t rowsPerPage = services::GetSetting(client.settings, id::DisplayRowsPerPage);
+    if (direction == Direction::FromHost && client.transferSettings->receiveOutput == zhst::value::ToDisplay) {
+        if (client.textDisplay) showTable(client, rowsPerPage);
     } else if (client.progressDialog) {
-        simulateProgress(client, fromHost);
+        simulateProgress(client, direction);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "Z7XFRPCS/exports.h"
 
+#include "Z7XFRPCS/messages.h"
 #include "client/client_lifecycle.h"
 #include "entry/transfer_frame.h"
 #include "request/catalog_browser.h"
@@ -16,7 +17,9 @@ void ZHST_CALL EHNTF_STF_Callback() { provider::TransferFunctionSession::yieldTo
 
 void ZHST_CALL pcsTransferFile(ZXFRPCSCLIENT* client, const char* settingsFile, std::uint32_t direction,
                                std::uint32_t showProgress, std::uint32_t ownerWindow) {
-    if (client) entry::transferFile(*client, settingsFile, direction, showProgress, ownerWindow);
+    // The other way round than everywhere else: 0 is from the host, and whatever is not 0 goes to it.
+    const auto way = direction == 0 ? services::Direction::FromHost : services::Direction::ToHost;
+    if (client) entry::transferFile(*client, settingsFile, way, showProgress, ownerWindow);
 }
 
 std::uint32_t ZHST_CALL pcsGetFirstHostFilename(std::uint32_t session, const char* pattern, HostCatalogEntry* entry) {
@@ -34,6 +37,7 @@ std::uint32_t ZHST_CALL pcsAreXferCmdsEnabled(ZXFRPCSCLIENT*, std::uint32_t stat
     return stateCode == 74 || stateCode == 75 || stateCode == 168;
 }
 
+// Of the context no more is asked than its first two words, which is what the display knows of a client.
 std::uint32_t ZHST_CALL TextDisplayMoreNotification(void* context) {
     if (context) static_cast<std::uint32_t*>(context)[0] = 1;
     return 1;
@@ -45,11 +49,10 @@ std::uint32_t ZHST_CALL TextDisplayCloseNotification(void* context) {
 }
 
 void ZHST_CALL pcsCancelTransfer(ZXFRPCSCLIENT* client) {
-    constexpr std::uint32_t TransferCancelled = 4315;
     if (!client) return;
     client->cancelRequested = 1;
     // Asked so that the session notes the message; nothing is shown.
-    services::IsMessageEnabled(client->settings, TransferCancelled);
+    services::IsMessageEnabled(client->settings, zhst::message::TransferCancelled);
 }
 
 std::uint32_t ZHST_CALL stateChangeProc(std::uint32_t session, std::uint32_t settingId, std::int32_t newValue,
@@ -64,6 +67,7 @@ void ZHST_CALL runtimeSettingNotification(std::uint32_t session, std::uint32_t v
     if (client && client->tfSession) client->tfSession->setRuntimeSetting(value);
 }
 
+// Without its decoration on ELF, where an @ in the name of a symbol introduces a version.
 void ZHST_CALL xferCleanup(std::uint32_t session) {
     ZXFRPCSCLIENT* client = client::findClient(session);
     if (client && client->tfSession) client->tfSession->tfStop();

@@ -4,6 +4,7 @@
 
 #include "Z7XFRPCS/settings.h"
 #include "client/connection_check.h"
+#include "client/progress.h"
 #include "platform/platform.h"
 #include "receive/receive_driver.h"
 #include "send/send_driver.h"
@@ -13,7 +14,9 @@ namespace entry {
 namespace {
 
 namespace id = zhst::setting;
+using services::Direction;
 
+// The application command that runs a settings file; its argument is a text.
 constexpr std::uint32_t SettingsFileCommand = 67;
 constexpr std::uint32_t SettingsFileSubCode = 24;
 constexpr std::uint32_t SettingsFileMode = 3;
@@ -27,6 +30,7 @@ bool runSettingsFile(const ZXFRPCSCLIENT& client, const char* settingsFile) {
     const services::AppCommandArgument argument = {TextArgument, settingsFile};
     services::RunAppCommand(client.appHandle, SettingsFileCommand, SettingsFileSubCode, SettingsFileMode, &argument);
     if (services::CheckCommandFailed(client.settings)) {
+        // It is 0 already; whoever watches it hears that the transfer is over.
         services::SetSetting(client.settings, id::TransferActive, 0);
         return false;
     }
@@ -43,6 +47,7 @@ services::WindowHandle chooseOwner(const ZXFRPCSCLIENT& client, services::Window
     return platform::GetLastActivePopup(fallback ? fallback : client.mainWindow);
 }
 
+// Emptied first: a service that finds no text may leave the buffer as it was, with the names of the transfer before.
 void readFileNames(ZXFRPCSCLIENT& client) {
     client.pcFileName[0] = '\0';
     client.hostFileName[0] = '\0';
@@ -50,6 +55,7 @@ void readFileNames(ZXFRPCSCLIENT& client) {
     services::GetStringSetting(client.settings, id::HostFileName, client.hostFileName, sizeof(client.hostFileName));
 }
 
+// These two spellings alone, anywhere in the name; in mixed case it is a file like any other.
 bool asksForTrace(const char* pcFileName) {
     return std::strstr(pcFileName, "XFERTRCE.LOG") || std::strstr(pcFileName, "xfertrce.log");
 }
@@ -57,14 +63,13 @@ bool asksForTrace(const char* pcFileName) {
 // The receive file type that the output asks for, in the setting and in the snapshot, for as long as this lives.
 class ForcedFileType {
 public:
-    ForcedFileType(ZXFRPCSCLIENT& client, bool receive)
+    ForcedFileType(ZXFRPCSCLIENT& client, Direction direction)
         : settings_(client.settings), saved_(client.transferSettings->receiveFileType) {
-        const std::int32_t output = client.transferSettings->receiveOutput;
-        if (!receive) return;
-        if (output == zhst::value::ToDisplay) {
+        if (direction == Direction::ToHost) return;
+        if (client.transferSettings->receiveOutput == zhst::value::ToDisplay) {
             force(client, settings::AsciiText);
             client.showProgress = 0;
-        } else if (output == zhst::value::ToSpreadsheet) {
+        } else if (client.transferSettings->receiveOutput == zhst::value::ToSpreadsheet) {
             force(client, settings::Dif);
         }
     }
@@ -86,91 +91,89 @@ private:
     bool forced_ = false;
 };
 
-void reportOutOfMemory(const ZXFRPCSCLIENT& client) {
-    messages::show({client.session, client.settings, platform::GetLastActivePopup(client.mainWindow)},
-                   zhst::message::OutOfMemory);
+bool failWithoutMemory(const ZXFRPCSCLIENT& client) {
+    messages::show(client.popupOwner(), zhst::message::OutOfMemory);
+    return false;
 }
 
 bool makeSnapshotAndContext(ZXFRPCSCLIENT& client) {
     provider::TransferFunctionSession* tf = client.tfSession.get();
     client.transferSettings = services::Owned<settings::TransferSettings>::make(client.session, tf);
     if (client.transferSettings)
-        client.transferContext =
-            services::Owned<client::TransferContext>::make(client.session, tf->monitorStore(), client.transferSettings.get());
-    if (client.transferContext) return true;
-    reportOutOfMemory(client);
-    return false;
+        client.transferContext = services::Owned<client::TransferContext>::make(client.session, tf->monitorStore(),
+                                                                                client.transferSettings.get());
+    return client.transferContext || failWithoutMemory(client);
 }
 
-bool makeFileObject(ZXFRPCSCLIENT& client, bool receive) {
+// A display needs none, nor does output 2 or an unknown one, whose records are fetched and dropped.
+bool needsPcFile(const ZXFRPCSCLIENT& client, Direction direction) {
     const std::int32_t output = client.transferSettings->receiveOutput;
-    if (receive && output != zhst::value::ToPcFile && output != zhst::value::ToSpreadsheet) return true;
-    client.fileObject = services::CreateFileObject(client.session);
-    if (!client.fileObject) {
-        reportOutOfMemory(client);
-        return false;
-    }
-    client.fileObject->setName(client.pcFileName);
-    const std::int32_t type = services::GetSetting(client.settings, receive ? id::ReceiveFileType : id::SendFileType);
-    const bool binary = type == settings::BasicRandom || type == settings::NoConversion;
-    client.fileObject->setTypeFlag(binary ? 1 : 0);
-    client.fileObject->setOpenFlags(PcFileOpenFlags);
-    client.fileObject->setExistingFileAction(
+    return direction == Direction::ToHost || output == zhst::value::ToPcFile || output == zhst::value::ToSpreadsheet;
+}
+
+bool makePcFile(ZXFRPCSCLIENT& client, Direction direction) {
+    client.fileObject = services::OwnedFile(services::CreateFileObject(client.session));
+    if (!client.fileObject) return failWithoutMemory(client);
+    services::FileObject& file = *client.fileObject;
+    file.setName(client.pcFileName);
+    // By the live setting, in which a forced type stands as well.
+    const std::int32_t type = services::GetSetting(
+        client.settings, direction == Direction::FromHost ? id::ReceiveFileType : id::SendFileType);
+    file.setTypeFlag(type == settings::BasicRandom || type == settings::NoConversion ? 1 : 0);
+    file.setOpenFlags(PcFileOpenFlags);
+    file.setExistingFileAction(
         static_cast<std::uint32_t>(services::GetSetting(client.settings, id::ExistingFileAction)));
     return true;
 }
 
-void releaseFileAndDialog(ZXFRPCSCLIENT& client) {
-    if (client.fileObject) {
-        client.fileObject->close();
-        client.fileObject->destroy();
-        client.fileObject = nullptr;
-    }
-    if (client.progressDialog) {
-        services::ProgressDialogDestroy(client.progressDialog);
-        client.progressDialog = 0;
-    }
+void closePcFile(ZXFRPCSCLIENT& client) {
+    if (client.fileObject) client.fileObject->close();
+    client.fileObject = services::OwnedFile();
 }
 
-// With the snapshot and the context in place.
-void runDriver(ZXFRPCSCLIENT& client, bool receive) {
-    const ForcedFileType forcedType(client, receive);
-    if (makeFileObject(client, receive)) {
-        if (receive)
+// With the snapshot and the context in place. The forced type goes back when file and dialog are gone, while there is a
+// snapshot still.
+void runDriver(ZXFRPCSCLIENT& client, Direction direction) {
+    const ForcedFileType forcedType(client, direction);
+    if (!needsPcFile(client, direction) || makePcFile(client, direction)) {
+        if (direction == Direction::FromHost)
             receive::receiveFromHost(client);
         else
             send::sendToHost(client);
     }
-    releaseFileAndDialog(client);
+    closePcFile(client);
+    client::progress::destroy(client);
 }
 
-void runActiveTransfer(ZXFRPCSCLIENT& client, bool receive, services::WindowHandle ownerWindow) {
+void runActiveTransfer(ZXFRPCSCLIENT& client, Direction direction, services::WindowHandle ownerWindow) {
     services::SetSetting(client.settings, id::TransferActive, 1);
     client.ownerWindow = chooseOwner(client, ownerWindow);
     readFileNames(client);
     if (asksForTrace(client.pcFileName)) client.tfSession->tfTraceOn(TraceFileName);
     client.cancelRequested = 0;
-    if (makeSnapshotAndContext(client)) runDriver(client, receive);
+    if (makeSnapshotAndContext(client)) runDriver(client, direction);
     client.transferSettings.reset();
     client.transferContext.reset();
     services::SetSetting(client.settings, id::TransferActive, 0);
 }
 
-void runTransfer(ZXFRPCSCLIENT& client, const char* settingsFile, std::uint32_t direction, std::uint32_t showProgress,
+// The session stays started behind the transfer, for the next one; so does the provider.
+void runTransfer(ZXFRPCSCLIENT& client, const char* settingsFile, Direction direction,
                  services::WindowHandle ownerWindow) {
-    client.showProgress = showProgress;
     if (settingsFile && *settingsFile && !runSettingsFile(client, settingsFile)) return;
-    if (!client::checkConnection(client) || !client.tfStart()) return;
-    runActiveTransfer(client, direction == 0, ownerWindow);
+    if (client::checkConnection(client) && client.tfStart()) runActiveTransfer(client, direction, ownerWindow);
 }
 
 }  // namespace
 
-void transferFile(ZXFRPCSCLIENT& client, const char* settingsFile, std::uint32_t direction, std::uint32_t showProgress,
+// Running from the first step on, before the transfer is active: one that came in through a message pump, while a dialog
+// is up or the provider is being bound, would take the provider, or the snapshot, from under this one.
+void transferFile(ZXFRPCSCLIENT& client, const char* settingsFile, Direction direction, std::uint32_t showProgress,
                   services::WindowHandle ownerWindow) {
     if (client.isBusy()) return;
     client.transferRunning = true;
-    runTransfer(client, settingsFile, direction, showProgress, ownerWindow);
+    client.showProgress = showProgress;
+    runTransfer(client, settingsFile, direction, ownerWindow);
     client.transferRunning = false;
 }
 

@@ -113,7 +113,7 @@ void ReceiveRun::run() {
     resetJobSettings();
     if (createProgressDialog()) {
         if (client_.isDemonstration())
-            client::runDemonstration(client_, true);
+            client::runDemonstration(client_, services::Direction::FromHost);
         else if (transfer())
             finishOutput();
     }

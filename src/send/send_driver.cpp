@@ -87,7 +87,7 @@ private:
 void SendRun::run() {
     if (!createProgressDialog()) return;
     if (client_.isDemonstration()) {
-        client::runDemonstration(client_, false);
+        client::runDemonstration(client_, services::Direction::ToHost);
         return;
     }
     std::string_view options;
