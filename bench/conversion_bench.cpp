@@ -34,7 +34,7 @@ struct Conversion {
     explicit Conversion(std::int32_t fileType)
         : session(sessionFor(fileType)),
           functions(session, ignoreSetting, doNotYield),
-          snapshot(session, &functions),
+          snapshot(session),
           layout(record::FileRules(snapshot, fileType)),
           records(layout, functions.codePage(), snapshot.settings, 0) {
         for (const Field& field : fields()) layout.append(field.description);

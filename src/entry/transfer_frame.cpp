@@ -97,11 +97,10 @@ bool failWithoutMemory(const ZXFRPCSCLIENT& client) {
 }
 
 bool makeSnapshotAndContext(ZXFRPCSCLIENT& client) {
-    provider::TransferFunctionSession* tf = client.tfSession.get();
-    client.transferSettings = services::Owned<settings::TransferSettings>::make(client.session, tf);
+    client.transferSettings = services::Owned<settings::TransferSettings>::make(client.session);
     if (client.transferSettings)
-        client.transferContext = services::Owned<client::TransferContext>::make(client.session, tf->monitorStore(),
-                                                                                client.transferSettings.get());
+        client.transferContext = services::Owned<client::TransferContext>::make(
+            client.session, client.tfSession->monitorStore(), client.transferSettings.get());
     return client.transferContext || failWithoutMemory(client);
 }
 

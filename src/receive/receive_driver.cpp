@@ -3,6 +3,8 @@
 #include "Z7XFRPCS/exports.h"
 #include "Z7XFRPCS/settings.h"
 #include "client/demonstration.h"
+#include "client/display_pages.h"
+#include "client/progress.h"
 #include "fdf/fdf_writer.h"
 #include "messages/own_sentences.h"
 #include "platform/platform.h"
@@ -46,7 +48,8 @@ public:
     explicit ReceiveRun(ZXFRPCSCLIENT& client)
         : client_(client),
           settings_(*client.transferSettings),
-          rowsPerPage_(services::GetSetting(client.settings, id::DisplayRowsPerPage)) {
+          pages_(client, services::GetSetting(client.settings, id::DisplayRowsPerPage),
+                 client::DisplayPages::Texts::LoadedOnce) {
         client_.lastResult.returnCode = TF_NO_MORE_DATA;  // no request is open
     }
 
@@ -89,8 +92,8 @@ private:
         return client_.lastResult.returnCode == TF_COMPLETED && client_.lastResult.dataLength == 0;
     }
     bool goesOn() const { return client_.cancelRequested == 0; }
-    void command(ProgressCommand code) { services::ProgressDialogCommand(client_.progressDialog, code); }
-    messages::Owner owner() const { return {client_.session, client_.settings, client_.ownerWindow}; }
+    void command(ProgressCommand code) { client::progress::command(client_, code); }
+    messages::Owner owner() const { return client_.dialogOwner(); }
     bool fail(std::uint32_t message) const {
         messages::show(owner(), message);
         return false;
@@ -98,12 +101,9 @@ private:
 
     ZXFRPCSCLIENT& client_;
     settings::TransferSettings& settings_;
-    std::int32_t rowsPerPage_;
+    client::DisplayPages pages_;
     std::int32_t expectedCount_ = 0;  // 0 without a count query: every record is a progress step
     std::int32_t recordNumber_ = 1;
-    std::int32_t pageLine_ = 0;
-    char titleText_[40] = {};
-    char moreText_[80] = {};
     services::Owned<Conversion> conversion_;
 };
 
@@ -128,9 +128,8 @@ bool ReceiveRun::settingsFit() {
 }
 
 void ReceiveRun::prepareDisplay() {
-    messages::loadText(client_.session, zhst::text::DisplayTitle, titleText_);
     const services::TextDisplayParameters parameters = {
-        client_.ownerWindow,          client_.session, titleText_, TextDisplayMoreNotification, 0,
+        client_.ownerWindow,          client_.session, pages_.loadTitle(), TextDisplayMoreNotification, 0,
         TextDisplayCloseNotification, &client_};
     client_.textDisplay = services::TextDisplayCreate(&parameters);
     messages::loadText(client_.session, zhst::text::DisplayName, client_.pcFileName);
@@ -144,13 +143,7 @@ void ReceiveRun::resetJobSettings() {
 }
 
 bool ReceiveRun::createProgressDialog() {
-    const std::uint32_t mode = !client_.showProgress ? 0 : settings_.recordProgress == 1 ? 1 : 2;
-    client_.progressDialog = services::ProgressDialogCreate(client_.session, services::FromHost, mode, 0);
-    if (!client_.progressDialog) return fail(zhst::message::OutOfMemory);
-    if (client_.showProgress) {
-        services::ProgressDialogSetPcName(client_.progressDialog, client_.pcFileName);
-        services::ProgressDialogSetHostName(client_.progressDialog, client_.hostFileName);
-    }
+    if (!client::progress::create(client_, services::Direction::FromHost)) return fail(zhst::message::OutOfMemory);
     command(ProgressCommand::Starting);
     return true;
 }
@@ -168,8 +161,7 @@ bool ReceiveRun::countRecords() {
     if (count == 0) return tellNoRecords();
     expectedCount_ = count;
     services::SetSetting(client_.settings, id::JobRecordsTotal, count);
-    services::SetSetting(client_.settings, id::TransferDirection, services::FromHost);
-    services::ProgressDialogSetTotal(client_.progressDialog, static_cast<std::uint32_t>(count), services::Records);
+    client::progress::setTotal(client_, services::Direction::FromHost, static_cast<std::uint32_t>(count));
     return true;
 }
 
@@ -212,8 +204,7 @@ bool ReceiveRun::readFields() {
     provider::TfResult last;
     request::readHostFields(client_, conversion_->layout, services::Direction::FromHost, last);
     if (!client_.tfSession->isStarted() || !goesOn()) return false;
-    if (const auto* type = settings::pcFileType(settings_.receiveFileType))
-        command(static_cast<ProgressCommand>(type->progressCommand));
+    client::progress::showFileType(client_, settings_.receiveFileType);
     command(ProgressCommand::DataBegins);
     return true;
 }
@@ -224,14 +215,12 @@ bool ReceiveRun::prepareOutput() {
 }
 
 bool ReceiveRun::beginDisplay() {
-    services::ProgressDialogDestroy(client_.progressDialog);
-    client_.progressDialog = 0;
-    if (!client_.textDisplay || !services::TextDisplayBegin(client_.textDisplay, rowsPerPage_, 0))
+    client::progress::destroy(client_);
+    if (!client_.textDisplay || !services::TextDisplayBegin(client_.textDisplay, pages_.rowsPerPage(), 0))
         return fail(zhst::message::DisplayNotBegun);
     record::to_pc::defineDisplayColumns(conversion_->layout, client_.textDisplay);
-    client_.displayClosed = 0;
-    client_.moreRequested = 1;
-    messages::loadText(client_.session, zhst::text::DisplayMore, moreText_);
+    pages_.begin();
+    pages_.loadPrompt();
     return true;
 }
 
@@ -290,23 +279,11 @@ bool ReceiveRun::writePcRecord(std::string_view bytes) {
     return client_.fileObject->write(bytes.data(), static_cast<std::uint32_t>(bytes.size()));
 }
 
-// Stops after each full page until the user asks for the next. False when the user closes the display.
+// False when the user has closed the display.
 bool ReceiveRun::showRow() {
-    if (pageLine_ + 1 < rowsPerPage_) {
-        ++pageLine_;
-    } else {
-        pageLine_ = 0;
-        client_.moreRequested = 0;
-        services::TextDisplaySetStatus(client_.textDisplay, moreText_);
-    }
-    while (!client_.moreRequested && !client_.displayClosed) client_.pumpMessages();
-    if (client_.displayClosed) {
-        client_.tfSession->tfEndData();
-        return false;
-    }
-    client_.moreRequested = 1;
-    services::TextDisplaySetStatus(client_.textDisplay, titleText_);
-    return true;
+    if (pages_.endRow()) return true;
+    client_.tfSession->tfEndData();
+    return false;
 }
 
 void ReceiveRun::showProgress() {
@@ -316,10 +293,7 @@ void ReceiveRun::showProgress() {
 }
 
 void ReceiveRun::finishOutput() {
-    if (toDisplay()) {
-        services::TextDisplayEnd(client_.textDisplay);
-        while (!client_.displayClosed) client_.pumpMessages();
-    }
+    if (toDisplay()) pages_.end();
     if (!toFile()) return;
     if (settings_.recordProgress == 1) services::SetSetting(client_.settings, id::ProgressCount, recordNumber_ - 1);
     command(ProgressCommand::AllDataTransferred);

@@ -4,6 +4,7 @@
 
 #include "Z7XFRPCS/settings.h"
 #include "client/demonstration.h"
+#include "client/progress.h"
 #include "messages/own_sentences.h"
 #include "platform/platform.h"
 #include "record/to_host/record_finder.h"
@@ -65,12 +66,12 @@ private:
 
     bool isText() const { return settings::recordRules(settings_.sendFileType).isText(); }
     bool goesOn() const { return client_.cancelRequested == 0; }
-    void command(ProgressCommand code) { services::ProgressDialogCommand(client_.progressDialog, code); }
+    void command(ProgressCommand code) { client::progress::command(client_, code); }
     void showPosition() {
         services::SetSetting(client_.settings, id::ProgressCount,
                              static_cast<std::int32_t>(client_.fileObject->position()));
     }
-    messages::Owner owner() const { return {client_.session, client_.settings, client_.ownerWindow}; }
+    messages::Owner owner() const { return client_.dialogOwner(); }
     bool fail(std::uint32_t message) const {
         messages::show(owner(), message);
         return false;
@@ -101,18 +102,9 @@ void SendRun::run() {
 }
 
 bool SendRun::createProgressDialog() {
-    client_.progressDialog =
-        services::ProgressDialogCreate(client_.session, services::ToHost, client_.showProgress ? 1 : 0, 0);
-    if (!client_.progressDialog) {
-        const services::WindowHandle popup = platform::GetLastActivePopup(client_.mainWindow);
-        messages::show({client_.session, client_.settings, popup}, zhst::message::OutOfMemory);
-        return false;
-    }
-    if (client_.showProgress) {
-        services::ProgressDialogSetPcName(client_.progressDialog, client_.pcFileName);
-        services::ProgressDialogSetHostName(client_.progressDialog, client_.hostFileName);
-    }
-    return true;
+    if (client::progress::create(client_, services::Direction::ToHost)) return true;
+    messages::show(client_.popupOwner(), zhst::message::OutOfMemory);
+    return false;
 }
 
 bool SendRun::openPcFile() {
@@ -177,8 +169,7 @@ bool SendRun::readLayout() {
 bool SendRun::prepareData() {
     services::FileObject& file = *client_.fileObject;
     const std::uint32_t size = file.size();
-    services::SetSetting(client_.settings, id::TransferDirection, services::ToHost);
-    services::ProgressDialogSetTotal(client_.progressDialog, size, services::Bytes);
+    client::progress::setTotal(client_, services::Direction::ToHost, size);
     if (settings_.createMode != zhst::value::CreateFile && sending_->sender.layout().count() > 1 &&
         settings_.hostFileType == zhst::value::SourceFile)
         return fail(zhst::message::SourceOfSeveralFields);
@@ -190,13 +181,9 @@ bool SendRun::prepareData() {
 }
 
 bool SendRun::showFileType() {
-    const settings::PcFileTypeRow* type = settings::pcFileType(settings_.sendFileType);
-    if (!type) {
-        messages::showOwnText(owner(), messages::sentence::UnknownFileType);
-        return false;
-    }
-    command(static_cast<ProgressCommand>(type->progressCommand));
-    return true;
+    if (client::progress::showFileType(client_, settings_.sendFileType)) return true;
+    messages::showOwnText(owner(), messages::sentence::UnknownFileType);
+    return false;
 }
 
 // True when the PC file has no more data.

@@ -25,9 +25,8 @@ char decimalSeparatorOf(std::int32_t mode) {
 
 }  // namespace
 
-TransferSettings::TransferSettings(services::SessionHandle owner, provider::TransferFunctionSession* functions)
+TransferSettings::TransferSettings(services::SessionHandle owner)
     : selectList(services::Owned<text::TextBuffer>::make()),
-      tfSession(functions),
       settings(services::GetSessionSettings(owner)),
       session(owner),
       sessionServices(services::GetSessionServices(owner)) {

@@ -6,16 +6,12 @@
 #include "services/owned.h"
 #include "text/text_buffer.h"
 
-namespace provider {
-class TransferFunctionSession;
-}
-
 namespace settings {
 
 // The settings of one transfer, read once at its start; a change of the live settings does not reach the transfer.
 // The comments give the setting each field is read from where the name does not.
 struct TransferSettings {
-    TransferSettings(services::SessionHandle owner, provider::TransferFunctionSession* functions);
+    explicit TransferSettings(services::SessionHandle owner);
 
     char fileText[51] = {};
     char memberText[51] = {};
@@ -44,7 +40,6 @@ struct TransferSettings {
     std::int32_t recordProgress = 0;
     std::uint32_t startRecord = 0;                 // first record sent, from 1
     services::Owned<text::TextBuffer> selectList;  // null when there was no memory: all fields
-    provider::TransferFunctionSession* tfSession;
     services::SettingsHandle settings;
     services::SessionHandle session;
     const services::SessionServices* sessionServices;
