@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "bytes/byte_order.h"
 #include "platform/platform.h"
 #include "services/session.h"
 #include "text/double_byte.h"
@@ -26,16 +27,17 @@ constexpr std::uint32_t RowCount = 128;
 
 constexpr char ShiftOut = 0x0E;
 constexpr char ShiftIn = 0x0F;
-constexpr char HostBlank = 0x40;
 constexpr char PcBlank = 0x20;
+constexpr std::uint16_t PcBlankPair = 0x2020;  // two blanks: not every PC page has a double-byte one
+constexpr std::uint16_t HostBlankPair = 0x4040;
 
-// The converted pair, first byte high; 0 when the table has none.
-std::uint16_t convertedPair(const services::OwnedBytes& table, char first, char second) {
-    const auto* bytes = reinterpret_cast<const std::uint8_t*>(table.data());
-    const std::uint32_t row = bytes[RowIndexOffset + static_cast<std::uint8_t>(first)];
-    if (row >= RowCount) return 0;
-    const std::uint8_t* entry = bytes + RowsOffset + row * RowSize + 2u * static_cast<std::uint8_t>(second);
-    return static_cast<std::uint16_t>(entry[0] | entry[1] << 8);
+// The converted pair, first byte high; `unknown` when the table has none.
+std::uint16_t convertedPair(const services::OwnedBytes& table, const char* pair, std::uint16_t unknown) {
+    const std::uint32_t row = bytes::at(table.data(), RowIndexOffset + bytes::at(pair, 0));
+    if (row >= RowCount) return unknown;  // 255: the first byte of no pair; the table ends behind its last row
+    const std::uint16_t converted =
+        bytes::lowFirst16(table.data() + RowsOffset + row * RowSize + 2 * bytes::at(pair, 1));
+    return converted ? converted : unknown;
 }
 
 // Host bytes being produced, up to a fixed number.
@@ -61,23 +63,23 @@ CodePageState::CodePageState(services::SessionHandle session)
       textServicesHandle_(services::GetTextServices(session)) {}
 
 void CodePageState::setHostCodePage(std::int32_t hostCodePage) {
-    hostCodePage_ = hostCodePage;
     isCodePage43_ = hostCodePage == CodePage43;
     dbcsToPcTable_.reset();
     dbcsToHostTable_.reset();
     auto* services = services::GetCodePageServices(session_);
     dbcsTablesLoaded_ = services && services->isDoubleByte(hostCodePage);
-    if (dbcsTablesLoaded_) loadDoubleByteTables();
+    if (dbcsTablesLoaded_) loadDoubleByteTables(hostCodePage);
 }
 
-void CodePageState::loadDoubleByteTables() {
+// All three are filled even when one of the large ones finds no memory: the other direction still works.
+void CodePageState::loadDoubleByteTables(std::int32_t hostCodePage) {
     dbcsToPcTable_ = services::OwnedBytes::make(PairTableSize, true);
     dbcsToHostTable_ = services::OwnedBytes::make(PairTableSize, true);
     if (dbcsToPcTable_)
-        services::LoadCodeTable(session_, dbcsToPcTable_.data(), PairsToPcKind, hostCodePage_, PairTableSize);
+        services::LoadCodeTable(session_, dbcsToPcTable_.data(), PairsToPcKind, hostCodePage, PairTableSize);
     if (dbcsToHostTable_)
-        services::LoadCodeTable(session_, dbcsToHostTable_.data(), PairsToHostKind, hostCodePage_, PairTableSize);
-    services::LoadCodeTable(session_, singleByteTables_, SingleByteKind, hostCodePage_, sizeof(singleByteTables_));
+        services::LoadCodeTable(session_, dbcsToHostTable_.data(), PairsToHostKind, hostCodePage, PairTableSize);
+    services::LoadCodeTable(session_, singleByteTables_, SingleByteKind, hostCodePage, sizeof(singleByteTables_));
 }
 
 std::uint32_t CodePageState::hostToPcText(const char* source, char* destination, std::uint32_t length,
@@ -87,14 +89,17 @@ std::uint32_t CodePageState::hostToPcText(const char* source, char* destination,
     std::memcpy(destination, source, length);
     if (dbcsTablesLoaded_) return dbcsHostToPc(length, destination);
     if (isCodePage43_) {
+        // A session may lack the entry. To go on would be to write, or to send, the text unconverted.
         const auto convert = sessionServices_ ? sessionServices_->hostTextToPc() : nullptr;
         if (!convert) return ConversionFailed;
+        // What the shorter text leaves of the field becomes blanks; the host's bytes copied above would show there.
         const std::uint32_t converted =
             std::min(convert(textServicesHandle_, source, length, destination, capacity, 2), capacity);
         if (converted < length) std::fill(destination + converted, destination + length, PcBlank);
         if (convertedLength) *convertedLength = converted;
         return 0;
     }
+    // Here and below a failed conversion counts only without OEM text.
     const std::uint32_t result = services::ConvertHostText(emulatorConverter_, services::HostToPc, length, destination);
     if (convertToOem_ == 0) return result;
     platform::CharToOemBuffA(destination, destination, length);
@@ -129,15 +134,14 @@ std::uint32_t CodePageState::dbcsHostToPc(std::uint32_t length, char* buffer) co
         if (*read == ShiftOut || *read == ShiftIn) {
             doubleByte = *read++ == ShiftOut;
         } else if (!doubleByte) {
-            *write++ = static_cast<char>(singleByteTables_[SingleToPcOffset + static_cast<std::uint8_t>(*read++)]);
+            *write++ = singleByteTables_[SingleToPcOffset + bytes::at(read++, 0)];
         } else if (end - read < 2) {
             *write++ = PcBlank;  // half a pair
             ++read;
         } else {
-            const std::uint16_t pair = convertedPair(dbcsToPcTable_, read[0], read[1]);
+            bytes::putHighFirst(write, convertedPair(dbcsToPcTable_, read, PcBlankPair), 2);
             read += 2;
-            *write++ = pair ? static_cast<char>(pair >> 8) : PcBlank;
-            *write++ = pair ? static_cast<char>(pair) : PcBlank;
+            write += 2;
         }
     }
     std::fill(write, buffer + length, PcBlank);
@@ -145,7 +149,8 @@ std::uint32_t CodePageState::dbcsHostToPc(std::uint32_t length, char* buffer) co
 }
 
 // The source is never read beyond `length` bytes: a pair is only taken inside double-byte text, whose shift-out has put
-// the host text one byte ahead of the source.
+// the host text one byte ahead of the source. No shift-in is put at the end; senders see to it that double-byte text
+// ends before its field.
 std::uint32_t CodePageState::dbcsPcToHost(std::uint32_t length, const char* source, char* destination) const {
     if (!dbcsToHostTable_) return ConversionFailed;
     HostText out(destination, length);
@@ -158,12 +163,13 @@ std::uint32_t CodePageState::dbcsPcToHost(std::uint32_t length, const char* sour
             if (out.isFull()) break;
         }
         if (pairAhead) {
-            const std::uint16_t pair = convertedPair(dbcsToHostTable_, source[0], source[1]);
-            out.put(pair ? static_cast<char>(pair >> 8) : HostBlank);
-            out.put(pair ? static_cast<char>(pair) : HostBlank);
+            char pair[2];
+            bytes::putHighFirst(pair, convertedPair(dbcsToHostTable_, source, HostBlankPair), sizeof(pair));
+            out.put(pair[0]);
+            out.put(pair[1]);
             source += 2;
         } else {
-            out.put(static_cast<char>(singleByteTables_[SingleToHostOffset + static_cast<std::uint8_t>(*source++)]));
+            out.put(singleByteTables_[SingleToHostOffset + bytes::at(source++, 0)]);
         }
     }
     return 0;

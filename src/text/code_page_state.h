@@ -45,7 +45,7 @@ public:
                                std::uint32_t destinationLength) const;
 
 private:
-    void loadDoubleByteTables();
+    void loadDoubleByteTables(std::int32_t hostCodePage);
     std::uint32_t dbcsHostToPc(std::uint32_t length, char* buffer) const;
     std::uint32_t dbcsPcToHost(std::uint32_t length, const char* source, char* destination) const;
 
@@ -53,13 +53,12 @@ private:
     const services::SessionServices* sessionServices_;
     services::ConverterHandle emulatorConverter_;
     services::TextServicesHandle textServicesHandle_;
-    std::int32_t hostCodePage_ = 0;
     std::int32_t convertToOem_ = 0;
     bool isCodePage43_ = false;
     bool dbcsTablesLoaded_ = false;
     services::OwnedBytes dbcsToPcTable_;    // kind 6
     services::OwnedBytes dbcsToHostTable_;  // kind 5
-    std::uint8_t singleByteTables_[2824] = {};
+    char singleByteTables_[2824] = {};
 };
 
 }  // namespace text
