@@ -30,33 +30,36 @@ public:
                       std::string_view data);
 
     // The texts are recorded with a terminating zero, which they need not have.
-    void recordReceiveStatement(std::string_view statement);
-    void recordSendStatement(std::string_view statement);
-    void recordReceiveField(std::string_view description);
-    void recordSendField(std::string_view description);
-    void recordReceiveDescription(std::string_view text);
-    void recordSendDescription(std::string_view text);
-    void recordReceivedRecord(std::string_view record);
-    void recordSentRecord(std::string_view record);
+    void recordReceiveStatement(std::string_view statement) { writeStatement(receive_, statement); }
+    void recordSendStatement(std::string_view statement) { writeStatement(send_, statement); }
+    void recordReceiveField(std::string_view description) { write(receive_, Field, description); }
+    void recordSendField(std::string_view description) { write(send_, Field, description); }
+    void recordReceiveDescription(std::string_view text) { write(receive_, Description, text); }
+    void recordSendDescription(std::string_view text) { write(send_, Description, text); }
+    void recordReceivedRecord(std::string_view record) { write(receive_, Record, record); }
+    void recordSentRecord(std::string_view record) { write(send_, Record, record); }
 
     // Lock and unlock the list once.
-    void touchReceiveList();
-    void touchSendList();
-
-    static constexpr std::uint32_t ItemsPerList = 9;
+    void touchReceiveList() { touch(receive_); }
+    void touchSendList() { touch(send_); }
 
 private:
+    // The items of both lists mean the same in their direction; those without a name here belong to the store's layout,
+    // but are never written.
+    enum Item : std::uint32_t { Field, Statement, Unused2, Description, Unused4, Record, Unused6, Unused7, Exchange };
+    static constexpr std::uint32_t ItemsPerList = 9;
+
     struct List {
         services::StorePartHandle handle = 0;
         services::StorePartHandle items[ItemsPerList] = {};
     };
 
-    void openItems(List& list, const std::uint32_t (&itemCodes)[ItemsPerList]);
+    void openItems(List& list, const char* const (&names)[ItemsPerList]);
     void closeItems(const List& list);
     bool lock(const List& list);
-    void write(const List& list, std::uint32_t item, std::string_view value);
+    void write(const List& list, Item item, std::string_view value);
     template <class Fill>
-    void writeBuilt(const List& list, std::uint32_t item, std::uint32_t size, Fill fill);
+    void writeBuilt(const List& list, Item item, std::uint32_t size, Fill fill);
     void writeStatement(const List& list, std::string_view statement);
     void touch(const List& list);
 
