@@ -62,8 +62,8 @@ bool TransferFunctionSession::tfCheckResult(std::uint32_t contextText, const TfR
         case TF_NOT_STARTED:
             if (services::IsMessageEnabled(settings_, TransferFunctionNotStarted)) {
                 const messages::HiddenDialog hidden(dialog);
-                services::ShowMessage(session_, sessionWindow_, TransferFunctionNotStarted,
-                                      messages::Box::ExclamationAndOk, 1, TransferFunctionNotStarted);
+                services::ShowMessage(session_, sessionWindow_, TransferFunctionNotStarted, messages::Box::ExclamationAndOk, 1,
+                                      TransferFunctionNotStarted);
             }
             return false;
         default:
@@ -88,9 +88,9 @@ void TransferFunctionSession::loadErrorText(const TfResult& result, std::uint32_
             contextText = 0;
             return;
         }
-        const std::uint32_t table = code < FirstTransferCode ? OwnProviderTable : TransferTable;
+        const std::uint32_t table = isProviderCode(code) ? OwnProviderTable : TransferTable;
         services::LoadMessageText(session_, table, code, buffer, TextSize);
-    } else if (isOwnProviderTransport(transportType_) && code < FirstTransferCode) {
+    } else if (isOwnProviderTransport(transportType_) && isProviderCode(code)) {
         const std::uint32_t table = routerKind_ == zhst::value::RouterAs400 ? As400ProviderTable : OwnProviderTable;
         services::LoadMessageText(session_, table, code, buffer, TextSize);
     } else if (const std::uint32_t index = errorTextIndex(code)) {
@@ -106,12 +106,12 @@ void TransferFunctionSession::showError(const TfResult& result, std::uint32_t co
     } else if (contextText != 0) {
         char context[TextSize] = {};
         services::LoadMessageText(session_, TransferTable, contextText, context, TextSize);
-        services::ShowMessage3(session_, sessionWindow_, ErrorWithContext, messages::Box::ExclamationAndOk, 1,
-                               ErrorWithContext, services::insert(context),
-                               services::insert(std::uint32_t{result.returnCode}), services::insert(errorText));
-    } else if (showsOwnTextAlone(transportType_) && result.returnCode < FirstTransferCode) {
-        services::ShowMessage1(session_, sessionWindow_, TextAlone, messages::Box::ExclamationAndOk, 1,
-                               helpIdOf(result.returnCode), errorText);
+        services::ShowMessage3(session_, sessionWindow_, ErrorWithContext, messages::Box::ExclamationAndOk, 1, ErrorWithContext,
+                               services::insert(context), services::insert(std::uint32_t{result.returnCode}),
+                               services::insert(errorText));
+    } else if (showsOwnTextAlone(transportType_) && isProviderCode(result.returnCode)) {
+        services::ShowMessage1(session_, sessionWindow_, TextAlone, messages::Box::ExclamationAndOk, 1, helpIdOf(result.returnCode),
+                               errorText);
     } else {
         showNotCompleted();
     }
@@ -123,11 +123,9 @@ void TransferFunctionSession::showHostText(const TfResult& result, std::string_v
     text::copyCut(hostText, text, sizeof(text));
     const bool alone = result.returnCode == TF_HOST_MESSAGE || result.returnCode == TF_HOST_MESSAGE_INSTEAD;
     if (alone && tfIsAs400Mode())
-        services::zhstMessageBox_scroll(session_, sessionWindow_, 0, messages::Box::ExclamationAndOk, 1, TextAlone,
-                                        text);
+        services::zhstMessageBox_scroll(session_, sessionWindow_, 0, messages::Box::ExclamationAndOk, 1, TextAlone, text);
     else if (alone)
-        services::ShowMessage1(session_, sessionWindow_, TextAlone, messages::Box::ExclamationAndOk, 1, TextAlone,
-                               text);
+        services::ShowMessage1(session_, sessionWindow_, TextAlone, messages::Box::ExclamationAndOk, 1, TextAlone, text);
     else
         services::ShowMessageCode(session_, sessionWindow_, ErrorWithHostText, messages::Box::ExclamationAndOk, 1,
                                   helpIdOf(result.returnCode), result.returnCode, errorText, text);
@@ -152,8 +150,7 @@ void TransferFunctionSession::showNotCompleted() const {
     const services::TextRecord* inserts[] = {&received.record, &total.record,   &system.record,
                                              &jobName.record,  &jobUser.record, &jobNumber.record};
     services::formatStringSet(&message.record, inserts, 6);
-    services::ShowMessage1(session_, sessionWindow_, TextAlone, messages::Box::ExclamationAndOk, 1, TextAlone,
-                           message.text);
+    services::ShowMessage1(session_, sessionWindow_, TextAlone, messages::Box::ExclamationAndOk, 1, TextAlone, message.text);
 }
 
 }  // namespace provider
