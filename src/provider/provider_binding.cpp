@@ -2,182 +2,144 @@
 
 #include <utility>
 
+#include "Z7XFRPCS/messages.h"
 #include "Z7XFRPCS/settings.h"
-#include "messages/box.h"
 #include "platform/platform.h"
-#include "provider/transports.h"
+#include "services/objects.h"
 #include "services/runtime.h"
 
 namespace provider {
 namespace {
 
+namespace message = zhst::message;
+
 constexpr char IbmLibrary[] = "E32TFW.DLL";
 constexpr char IbmRouterLibrary[] = "E32APPC.DLL";
-constexpr char EmulatorLibrary[] = "ZEHNTFW.DLL";
-constexpr char AppcLibrary[] = "ZTFWAPPC.DLL";
 constexpr char As400Library[] = "AS4XFER.DLL";
 
-constexpr std::uint32_t SearchIbm = 0;
-constexpr std::uint32_t SearchOwn = 1;
-
-constexpr std::int32_t MisplacedRouterKind = 30;  // a transport type where a router kind belongs
-
-enum Message : std::uint32_t {
-    RouterNotLoaded = 4266,
-    RouterIsReplacement = 4269,
-    LibraryNotFound = 4400,
-    OwnProviderNotLoaded = 4402,
-    EmulatorEntryMissing = 4403,
-    RouterNotRunning = 4407,
-    IbmProviderNotLoaded = 4593,
-    IbmEntryMissing = 4594,
-    AppcProviderNotLoaded = 4658,
-    AppcEntryMissing = 4659,
-    As400EntryMissingOtherKind = 4697,
-    As400EntryMissing = 4704,
+// The libraries of the emulator's own transfer-function providers. The messages of the second have its name as insert,
+// those of the first stand for it alone.
+struct OwnLibrary {
+    const char* name;
+    const char* newClient;
+    const char* deleteClient;
+    std::uint32_t notLoaded;
+    std::uint32_t entryMissing;
+    const char* insert;
+};
+constexpr OwnLibrary OwnLibraries[] = {
+    {"ZEHNTFW.DLL", "newZEHNTFWCLIENT", "deleteZEHNTFWCLIENT", message::OwnProviderNotLoaded,
+     message::EmulatorEntryMissing, nullptr},
+    {"ZTFWAPPC.DLL", "newZTFWAPPCCLIENT", "deleteZTFWAPPCCLIENT", message::AppcProviderNotLoaded,
+     message::AppcEntryMissing, "ZTFWAPPC.DLL"},
 };
 
-constexpr std::uint32_t ReplacementTextTable = 22;
-constexpr std::uint32_t ReplacementText = 202;
+template <class Entry>
+Entry lookUp(services::ModuleHandle module, const char* name) {
+    return reinterpret_cast<Entry>(platform::GetProcAddress(module, name));
+}
 
 }  // namespace
 
-bool ProviderBinding::bind(services::SessionHandle session, std::int32_t transportType, std::int32_t routerKind) {
-    session_ = session;
-    settings_ = services::GetSessionSettings(session);
-    window_ = services::GetSessionWindow(settings_);
-    bool bound = false;
-    if (checkRouter(transportType, routerKind)) {
-        if (routerKind != zhst::value::RouterIbm) {
-            bound = bindAs400(routerKind);
-        } else {
-            const Transport transport = transportOf(transportType);
-            bound = (transport == Transport::Ibm && bindIbm()) ||
-                    (transport == Transport::Emulator && bindEmulator()) ||
-                    (transport == Transport::Appc && bindAppc());
-        }
-    }
-    if (!bound) {
-        deleteClient();
-        freeModules();
-    }
-    return bound;
+// The window is that of the moment: it owns the messages, and the provider is given it.
+bool ProviderBinding::bind(services::SessionHandle session, const Connection& connection) {
+    const services::SettingsHandle settings = services::GetSessionSettings(session);
+    owner_ = {session, settings, services::GetSessionWindow(settings)};
+    if (bindProvider(connection)) return true;
+    deleteClient();
+    freeModules();
+    return false;
 }
 
-bool ProviderBinding::checkRouter(std::int32_t transportType, std::int32_t routerKind) {
-    if (routerKind != zhst::value::RouterIbm) return true;
-    const Transport transport = transportOf(transportType);
-    if (transport == Transport::Ibm) return checkIbmRouter();
-    return transport != Transport::Unknown;
+// Only the IBM router leaves a choice by transport. Transport 30 has nothing to do with it and is not served there.
+bool ProviderBinding::bindProvider(const Connection& connection) {
+    if (connection.routerKind != zhst::value::RouterIbm) return bindAs400(connection.routerKind);
+    const Family family = connection.transport().family;
+    if (family == Family::Ibm) return hasIbmRouter() && bindIbm();
+    return isOwnProvider(family) && bindOwn(family);
 }
 
-bool ProviderBinding::checkIbmRouter() {
-    if (!libraryExists(IbmRouterLibrary)) return false;
-    if (services::LoadModule(IbmRouterLibrary, SearchIbm, &routerModule_) != 0) {
-        routerModule_ = nullptr;
-        return fail(RouterNotLoaded);
-    }
+// The router stays loaded as long as the provider, which calls it.
+bool ProviderBinding::hasIbmRouter() {
+    if (!load(IbmRouterLibrary, ZhstSearchIbm, routerModule_, message::RouterNotLoaded)) return false;
+    // The emulator's own replacement of that library, which its entry gives away, cannot serve the IBM provider.
     if (platform::GetProcAddress(routerModule_, "EHNAPPC_KVX")) {
         char text[300] = {};
-        services::LoadMessageText(session_, ReplacementTextTable, ReplacementText, text, sizeof(text));
-        return fail(RouterIsReplacement, text);
+        messages::loadText(owner_.session, zhst::text::RouterReplacement, text);
+        return fail(message::RouterIsReplacement, text);
     }
+    // A router that cannot be asked is taken for one that does not run.
     const auto isLoaded = lookUp<TfIsRouterLoadedEntry>(routerModule_, "EHNAPPC_IsRouterLoaded");
-    return (isLoaded && isLoaded(session_) != 0) || fail(RouterNotRunning);
+    return (isLoaded && isLoaded(owner_.session) != 0) || fail(message::RouterNotRunning);
 }
 
 bool ProviderBinding::bindIbm() {
-    if (!libraryExists(IbmLibrary)) return false;
-    if (!loadProvider(IbmLibrary, SearchIbm)) return fail(IbmProviderNotLoaded);
+    if (!load(IbmLibrary, ZhstSearchIbm, providerModule_, message::IbmProviderNotLoaded)) return false;
     stfEntry_ = lookUp<TfStfEntry>(providerModule_, "EHNTF_STF");
     stfCleanupEntry_ = lookUp<TfStfCleanupEntry>(providerModule_, "E32TF_Cleanup");
-    if (!stfEntry_) return fail(IbmEntryMissing);
+    if (!stfEntry_) return fail(message::IbmEntryMissing);
     family_ = Family::Ibm;
     return true;
 }
 
-bool ProviderBinding::bindEmulator() {
-    if (!libraryExists(EmulatorLibrary)) return false;
-    if (!loadProvider(EmulatorLibrary, SearchOwn)) return fail(OwnProviderNotLoaded);
-    const auto newClient = lookUp<TfNewClientEntry>(providerModule_, "newZEHNTFWCLIENT");
-    if (!lookUpEmulatorEntries(newClient, "deleteZEHNTFWCLIENT")) return fail(EmulatorEntryMissing);
-    return makeClient(newClient);
-}
-
-bool ProviderBinding::bindAppc() {
-    if (!libraryExists(AppcLibrary)) return false;
-    if (!loadProvider(AppcLibrary, SearchOwn)) return fail(AppcProviderNotLoaded, AppcLibrary);
-    const auto newClient = lookUp<TfNewClientEntry>(providerModule_, "newZTFWAPPCCLIENT");
-    if (!lookUpEmulatorEntries(newClient, "deleteZTFWAPPCCLIENT")) return fail(AppcEntryMissing, AppcLibrary);
-    return makeClient(newClient);
+bool ProviderBinding::bindOwn(Family family) {
+    const OwnLibrary& library = OwnLibraries[family == Family::Appc ? 1 : 0];
+    if (!load(library.name, ZhstSearchOwn, providerModule_, library.notLoaded, library.insert)) return false;
+    const auto newClient = lookUp<TfNewClientEntry>(providerModule_, library.newClient);
+    requestEntry_ = lookUp<TfRequestEntry>(providerModule_, "zehnRequestor");
+    deleteClientEntry_ = lookUp<TfDeleteClientEntry>(providerModule_, library.deleteClient);
+    if (!requestEntry_ || !newClient || !deleteClientEntry_) return fail(library.entryMissing, library.insert);
+    client_ = newClient(owner_.session, owner_.window);
+    if (client_ == 0) return false;
+    family_ = family;
+    return true;
 }
 
 bool ProviderBinding::bindAs400(std::int32_t routerKind) {
-    if (!libraryExists(As400Library)) return false;
-    if (!loadProvider(As400Library, SearchOwn)) return fail(OwnProviderNotLoaded);
+    if (!load(As400Library, ZhstSearchOwn, providerModule_, message::OwnProviderNotLoaded)) return false;
     // The client is made before the other entries are looked at; without a destructor it cannot be ended either.
     const auto newClient = lookUp<TfNewClientEntry>(providerModule_, "newAS4XFERCLIENT");
-    client_ = newClient ? newClient(session_, window_) : 0;
+    client_ = newClient ? newClient(owner_.session, owner_.window) : 0;
     if (client_ == 0) return false;
     deleteClientEntry_ = lookUp<TfDeleteClientEntry>(providerModule_, "deleteZAS4XFERCLIENT");
     const auto getClient = lookUp<TfGetClientEntry>(providerModule_, "getAS4XFERCLIENT");
     requestEntry_ = lookUp<TfRequestEntry>(providerModule_, "as400Request");
-    if (!deleteClientEntry_ || !getClient || !requestEntry_)
-        return fail(routerKind == MisplacedRouterKind ? As400EntryMissingOtherKind : As400EntryMissing);
-    family_ = Family::As400;
-    return true;
+    if (deleteClientEntry_ && getClient && requestEntry_) {
+        family_ = Family::As400;
+        return true;
+    }
+    // The catalogue has a second message for this, for a transport type that stands where a router kind belongs.
+    const bool misplaced = routerKind == zhst::value::TransportAs400;
+    return fail(misplaced ? message::As400EntryMissingOtherKind : message::As400EntryMissing);
 }
 
-bool ProviderBinding::libraryExists(const char* name) const {
-    auto* paths = services::GetPathServices(session_);
-    return (paths && paths->fileExists(name)) || fail(LibraryNotFound, name);
+// The search is LoadModule's. A library is asked for by its name first, so that one that is not there and one that
+// cannot be loaded have messages of their own.
+bool ProviderBinding::load(const char* name, std::uint32_t search, services::ModuleHandle& module,
+                           std::uint32_t notLoaded, const char* insert) const {
+    auto* paths = services::GetPathServices(owner_.session);
+    if (!paths || !paths->fileExists(name)) return fail(message::LibraryNotFound, name);
+    if (services::LoadModule(name, search, &module) == 0) return true;
+    module = nullptr;
+    return fail(notLoaded, insert);
 }
 
-bool ProviderBinding::loadProvider(const char* name, std::uint32_t search) {
-    if (services::LoadModule(name, search, &providerModule_) == 0) return true;
-    providerModule_ = nullptr;
+bool ProviderBinding::fail(std::uint32_t message, const char* insert) const {
+    insert ? messages::show(owner_, message, insert) : messages::show(owner_, message);
     return false;
 }
 
-bool ProviderBinding::lookUpEmulatorEntries(TfNewClientEntry newClient, const char* deleteName) {
-    requestEntry_ = lookUp<TfRequestEntry>(providerModule_, "zehnRequestor");
-    deleteClientEntry_ = lookUp<TfDeleteClientEntry>(providerModule_, deleteName);
-    return requestEntry_ && newClient && deleteClientEntry_;
-}
-
-bool ProviderBinding::makeClient(TfNewClientEntry newClient) {
-    client_ = newClient(session_, window_);
-    if (client_ == 0) return false;
-    family_ = Family::Emulator;
-    return true;
-}
-
-template <class Entry>
-Entry ProviderBinding::lookUp(services::ModuleHandle module, const char* name) const {
-    return reinterpret_cast<Entry>(platform::GetProcAddress(module, name));
-}
-
-bool ProviderBinding::fail(std::uint32_t messageId, const char* insert) const {
-    const messages::Owner owner{session_, settings_, window_};
-    if (insert)
-        messages::show(owner, messageId, insert);
-    else
-        messages::show(owner, messageId);
-    return false;
-}
-
+// By what was bound, not by the transport type of the moment. The two agree for the router kinds 1 and 2; with any
+// other the AS/400 client is bound, and so it is also called and ended.
 TfResult ProviderBinding::call(const Call& call, std::uint32_t* conversation) const {
     void* data = nullptr;
-    std::uint32_t dataLength = 0;
-    std::uint32_t detail = 0;
-    std::uint32_t code = 0;
-    if (family_ == Family::Ibm) {
-        code = stfEntry_(window_, call.yield, conversation, call.function, call.buffer, BufferSize, call.length,
-                         call.designation, call.reserved, &data, &dataLength, &detail);
-    } else {
-        code = requestEntry_(client_, conversation, call.function, call.buffer, BufferSize, call.length,
-                             call.designation, call.reserved, &data, &dataLength, &detail);
-    }
+    std::uint32_t dataLength = 0, detail = 0;
+    const std::uint32_t code =
+        family_ == Family::Ibm
+            ? stfEntry_(owner_.window, call.yield, conversation, call.function, call.buffer, BufferSize, call.length,
+                        call.designation, call.reserved, &data, &dataLength, &detail)
+            : requestEntry_(client_, conversation, call.function, call.buffer, BufferSize, call.length,
+                            call.designation, call.reserved, &data, &dataLength, &detail);
     return {static_cast<std::uint16_t>(code), static_cast<std::uint16_t>(detail), dataLength, data};
 }
 
@@ -185,6 +147,7 @@ void ProviderBinding::callStfCleanup() const {
     if (stfCleanupEntry_) stfCleanupEntry_();
 }
 
+// The client is forgotten before its end, so that it cannot be ended a second time from inside.
 void ProviderBinding::deleteClient() {
     const std::uint32_t client = std::exchange(client_, 0);
     if (client != 0 && deleteClientEntry_) deleteClientEntry_(client);

@@ -3,17 +3,15 @@
 #include <cstdint>
 
 #include "Z7XFRPCS/provider.h"
+#include "messages/box.h"
+#include "provider/connection.h"
 #include "provider/tf_result.h"
-#include "services/objects.h"
-#include "services/session.h"
 
 namespace provider {
 
-enum class Family { None, Ibm, Emulator, As400 };
-
-// The provider library chosen by transport type and router kind: found, loaded, its entries looked up, its client made.
-// Every failure is shown to the user with the session's window as owner, except for unsupported transport types and
-// clients that the provider does not make; what was loaded until then is released at once.
+// The provider library that a connection asks for: found, loaded, its entries looked up, its client made. Every failure
+// is shown to the user with the session's window as owner, except for unsupported transport types and clients that the
+// provider does not make; what was loaded until then is released at once.
 //
 //   router kind 1, transport 2, 4            E32TFW.DLL    EHNTF_STF, optional E32TF_Cleanup; needs its router
 //   router kind 1, transport 8, 9, 14, 15    ZEHNTFW.DLL   zehnRequestor, newZEHNTFWCLIENT, deleteZEHNTFWCLIENT
@@ -27,7 +25,7 @@ public:
     ProviderBinding& operator=(const ProviderBinding&) = delete;
 
     // True when the provider is bound.
-    bool bind(services::SessionHandle session, std::int32_t transportType, std::int32_t routerKind);
+    bool bind(services::SessionHandle session, const Connection& connection);
 
     // Calls the provider. `conversation` is read and updated by it; out values start at zero.
     struct Call {
@@ -40,6 +38,7 @@ public:
     };
     TfResult call(const Call& call, std::uint32_t* conversation) const;
 
+    // Of the provider that is bound.
     Family family() const { return family_; }
     bool isBound() const { return family_ != Family::None; }
 
@@ -51,29 +50,22 @@ public:
     void freeModules();
 
 private:
-    bool checkRouter(std::int32_t transportType, std::int32_t routerKind);
-    bool checkIbmRouter();
+    bool bindProvider(const Connection& connection);
     bool bindIbm();
-    bool bindEmulator();
-    bool bindAppc();
+    bool hasIbmRouter();
+    bool bindOwn(Family family);
     bool bindAs400(std::int32_t routerKind);
-    bool libraryExists(const char* name) const;
-    bool loadProvider(const char* name, std::uint32_t search);
-    bool lookUpEmulatorEntries(TfNewClientEntry newClient, const char* deleteName);
-    bool makeClient(TfNewClientEntry newClient);
-    template <class Entry>
-    Entry lookUp(services::ModuleHandle module, const char* name) const;
-    bool fail(std::uint32_t messageId, const char* insert = nullptr) const;
+    bool load(const char* name, std::uint32_t search, services::ModuleHandle& module, std::uint32_t notLoaded,
+              const char* insert = nullptr) const;
+    bool fail(std::uint32_t message, const char* insert = nullptr) const;
 
-    services::SessionHandle session_ = 0;
-    services::SettingsHandle settings_ = 0;
-    services::WindowHandle window_ = 0;
+    messages::Owner owner_ = {};
     Family family_ = Family::None;
     services::ModuleHandle providerModule_ = nullptr;
     services::ModuleHandle routerModule_ = nullptr;
     TfStfEntry stfEntry_ = nullptr;
     TfStfCleanupEntry stfCleanupEntry_ = nullptr;
-    // zehnRequestor or as400Request, with the constructor and destructor beside it.
+    // zehnRequestor or as400Request, with the destructor beside it.
     TfRequestEntry requestEntry_ = nullptr;
     TfDeleteClientEntry deleteClientEntry_ = nullptr;
     std::uint32_t client_ = 0;

@@ -11,7 +11,6 @@ namespace {
 
 constexpr std::size_t NameOffset = 7;
 constexpr std::size_t NameLength = 8;
-constexpr std::int32_t QualifiedNameTransport = 8;
 
 // "NET.NAME" loses everything up to the point, and with it the first character of the name, as hosts of this transport
 // expect it.
@@ -34,7 +33,7 @@ const char* TransferFunctionSession::hostSystemDesignation() {
     std::fill(std::begin(systemDesignation_), std::end(systemDesignation_), ' ');
     char buffer[sizeof(systemDesignation_)] = {};
     services::GetStringSetting(settings_, zhst::setting::HostSystemName, buffer, sizeof(buffer));
-    const char* name = transportType_ == QualifiedNameTransport ? withoutNetwork(buffer) : buffer;
+    const char* name = connection_.transport().has(QualifiedName) ? withoutNetwork(buffer) : buffer;
     char shown[NameLength + 1];
     text::copyCut(name, shown, sizeof(shown));
     upperAscii(shown);

@@ -4,7 +4,6 @@
 #include "platform/platform.h"
 #include "provider/return_codes.h"
 #include "provider/transfer_function_session.h"
-#include "provider/transports.h"
 #include "text/double_byte.h"
 
 // The one place where the result of an exchange is judged and told.
@@ -29,11 +28,6 @@ constexpr char NotCompletedTemplate[] =
     "File transfer not completed.\nReceived approximately %1 records of %2.\n\n"
     "Refer to job log on host system %3.\nJob name %4, user profile %5, job number %6";
 constexpr std::uint32_t NotCompletedCapacity = 1500;
-
-// Transports whose own error texts are shown alone; fewer than the transports of the own providers.
-bool showsOwnTextAlone(std::int32_t transportType) {
-    return transportType == 5 || transportType == 7 || transportType == 8 || transportType == 13;
-}
 
 // An insert in memory of its own, so that no message is lost for want of memory.
 template <std::uint32_t Size>
@@ -62,8 +56,8 @@ bool TransferFunctionSession::tfCheckResult(std::uint32_t contextText, const TfR
         case TF_NOT_STARTED:
             if (services::IsMessageEnabled(settings_, TransferFunctionNotStarted)) {
                 const messages::HiddenDialog hidden(dialog);
-                services::ShowMessage(session_, sessionWindow_, TransferFunctionNotStarted, messages::Box::ExclamationAndOk, 1,
-                                      TransferFunctionNotStarted);
+                services::ShowMessage(session_, sessionWindow_, TransferFunctionNotStarted,
+                                      messages::Box::ExclamationAndOk, 1, TransferFunctionNotStarted);
             }
             return false;
         default:
@@ -83,15 +77,16 @@ bool TransferFunctionSession::tfCheckResult(std::uint32_t contextText, const TfR
 void TransferFunctionSession::loadErrorText(const TfResult& result, std::uint32_t& contextText,
                                             char (&buffer)[100]) const {
     const std::uint16_t code = result.returnCode;
-    if (transportType_ == zhst::value::TransportAs400) {
+    if (connection_.transport().family == Family::As400) {
         if (result.detailCode != 0) {
             contextText = 0;
             return;
         }
         const std::uint32_t table = isProviderCode(code) ? OwnProviderTable : TransferTable;
         services::LoadMessageText(session_, table, code, buffer, TextSize);
-    } else if (isOwnProviderTransport(transportType_) && isProviderCode(code)) {
-        const std::uint32_t table = routerKind_ == zhst::value::RouterAs400 ? As400ProviderTable : OwnProviderTable;
+    } else if (isOwnProvider(connection_.transport().family) && isProviderCode(code)) {
+        const std::uint32_t table =
+            connection_.routerKind == zhst::value::RouterAs400 ? As400ProviderTable : OwnProviderTable;
         services::LoadMessageText(session_, table, code, buffer, TextSize);
     } else if (const std::uint32_t index = errorTextIndex(code)) {
         services::LoadMessageText(session_, TransferTable, index, buffer, TextSize);
@@ -106,12 +101,12 @@ void TransferFunctionSession::showError(const TfResult& result, std::uint32_t co
     } else if (contextText != 0) {
         char context[TextSize] = {};
         services::LoadMessageText(session_, TransferTable, contextText, context, TextSize);
-        services::ShowMessage3(session_, sessionWindow_, ErrorWithContext, messages::Box::ExclamationAndOk, 1, ErrorWithContext,
-                               services::insert(context), services::insert(std::uint32_t{result.returnCode}),
-                               services::insert(errorText));
-    } else if (showsOwnTextAlone(transportType_) && isProviderCode(result.returnCode)) {
-        services::ShowMessage1(session_, sessionWindow_, TextAlone, messages::Box::ExclamationAndOk, 1, helpIdOf(result.returnCode),
-                               errorText);
+        services::ShowMessage3(session_, sessionWindow_, ErrorWithContext, messages::Box::ExclamationAndOk, 1,
+                               ErrorWithContext, services::insert(context),
+                               services::insert(std::uint32_t{result.returnCode}), services::insert(errorText));
+    } else if (connection_.transport().has(OwnTextAlone) && isProviderCode(result.returnCode)) {
+        services::ShowMessage1(session_, sessionWindow_, TextAlone, messages::Box::ExclamationAndOk, 1,
+                               helpIdOf(result.returnCode), errorText);
     } else {
         showNotCompleted();
     }
@@ -123,9 +118,11 @@ void TransferFunctionSession::showHostText(const TfResult& result, std::string_v
     text::copyCut(hostText, text, sizeof(text));
     const bool alone = result.returnCode == TF_HOST_MESSAGE || result.returnCode == TF_HOST_MESSAGE_INSTEAD;
     if (alone && tfIsAs400Mode())
-        services::zhstMessageBox_scroll(session_, sessionWindow_, 0, messages::Box::ExclamationAndOk, 1, TextAlone, text);
+        services::zhstMessageBox_scroll(session_, sessionWindow_, 0, messages::Box::ExclamationAndOk, 1, TextAlone,
+                                        text);
     else if (alone)
-        services::ShowMessage1(session_, sessionWindow_, TextAlone, messages::Box::ExclamationAndOk, 1, TextAlone, text);
+        services::ShowMessage1(session_, sessionWindow_, TextAlone, messages::Box::ExclamationAndOk, 1, TextAlone,
+                               text);
     else
         services::ShowMessageCode(session_, sessionWindow_, ErrorWithHostText, messages::Box::ExclamationAndOk, 1,
                                   helpIdOf(result.returnCode), result.returnCode, errorText, text);
@@ -150,7 +147,8 @@ void TransferFunctionSession::showNotCompleted() const {
     const services::TextRecord* inserts[] = {&received.record, &total.record,   &system.record,
                                              &jobName.record,  &jobUser.record, &jobNumber.record};
     services::formatStringSet(&message.record, inserts, 6);
-    services::ShowMessage1(session_, sessionWindow_, TextAlone, messages::Box::ExclamationAndOk, 1, TextAlone, message.text);
+    services::ShowMessage1(session_, sessionWindow_, TextAlone, messages::Box::ExclamationAndOk, 1, TextAlone,
+                           message.text);
 }
 
 }  // namespace provider

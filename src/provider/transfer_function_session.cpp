@@ -70,9 +70,9 @@ bool TransferFunctionSession::tfStart() {
     if (isDemonstration()) return true;
     // Binding shows messages and calls the provider, so exports may come in and find the session half started.
     if (starting_) return false;
-    adjustRouterKind();
+    connection_.settle(settings_);
     starting_ = true;
-    const bool bound = allocateBuffer() && binding_.bind(session_, transportType_, routerKind_);
+    const bool bound = allocateBuffer() && binding_.bind(session_, connection_);
     starting_ = false;
     const bool stopArrived = std::exchange(stopPending_, false);
     if (!bound) return false;
@@ -85,21 +85,6 @@ bool TransferFunctionSession::tfStart() {
     }
     if (!started_) messages::showOwnText(messageOwner(), StoppedText);
     return started_;
-}
-
-// Transport types that only one kind of provider serves settle the router kind.
-void TransferFunctionSession::adjustRouterKind() {
-    transportType_ = services::GetSetting(settings_, id::TransportType);
-    if (transportType_ == zhst::value::TransportAs400)
-        services::SetSetting(settings_, id::RouterKind, zhst::value::RouterAs400);
-    if (transportType_ == 2 || transportType_ == 4)
-        services::SetSetting(settings_, id::RouterKind, zhst::value::RouterIbm);
-    routerKind_ = services::GetSetting(settings_, id::RouterKind);
-}
-
-void TransferFunctionSession::readConnectionSettings() {
-    transportType_ = services::GetSetting(settings_, id::TransportType);
-    routerKind_ = services::GetSetting(settings_, id::RouterKind);
 }
 
 bool TransferFunctionSession::allocateBuffer() {
@@ -137,7 +122,7 @@ void TransferFunctionSession::endConversation() {
         inProviderCall_ = true;
         binding_.callStfCleanup();
         inProviderCall_ = false;
-    } else if (binding_.family() == Family::Emulator) {
+    } else if (isOwnProvider(binding_.family())) {
         sendControl(TF_RESET);
     }
     conversation_ = 0;
@@ -179,7 +164,7 @@ void TransferFunctionSession::carryOutPendingStop(std::uint32_t function, TfResu
                                                   services::ProgressDialogHandle dialog) {
     if (stopping_ || !std::exchange(stopPending_, false)) return;
     tfStop();
-    readConnectionSettings();
+    connection_.read(settings_);
     result = {};
     result.returnCode = TF_NOT_STARTED;
     if (!isControl(function)) tellInterruption(dialog);
@@ -204,11 +189,6 @@ void TransferFunctionSession::tfEndData() {
     if (inProviderCall_) return;
     if (started_) sendControl(TF_END_DATA);
     conversation_ = 0;
-}
-
-bool TransferFunctionSession::tfIsAs400Mode() const {
-    return transportType_ == zhst::value::TransportAs400 ||
-           services::GetSetting(settings_, id::RouterKind) == zhst::value::RouterAs400;
 }
 
 void TransferFunctionSession::tfTraceOn(const char* fileName) {
@@ -237,50 +217,32 @@ void TransferFunctionSession::yieldToDialog() {
 
 void TransferFunctionSession::onSettingChanged(std::uint32_t setting, std::int32_t newValue, std::int32_t oldValue) {
     if (newValue == oldValue) return;
-    switch (setting) {
-        case id::HostCodePage:
-            codePage_.setHostCodePage(newValue);
-            break;
-        case id::ConvertToOem:
-            codePage_.setConvertToOem(newValue);
-            break;
-        case id::TransportType:
-            stopForChange(connectionChanging_ ? pendingTransportType_ : transportType_, newValue);
-            break;
-        case id::RouterKind:
-            stopForChange(connectionChanging_ ? pendingRouterKind_ : routerKind_, newValue);
-            break;
-        case id::ConnectionChanging:
-            onConnectionChanging(newValue != 0);
-            break;
-        default:
-            break;
-    }
+    if (setting == id::HostCodePage) codePage_.setHostCodePage(newValue);
+    if (setting == id::ConvertToOem) codePage_.setConvertToOem(newValue);
+    if (setting == id::TransportType) changeConnection(&Connection::transportType, newValue);
+    if (setting == id::RouterKind) changeConnection(&Connection::routerKind, newValue);
+    if (setting == id::ConnectionChanging) onConnectionChanging(newValue != 0);
 }
 
-// While the emulator changes several settings only the pending value is kept; the stop waits for the last of them.
-void TransferFunctionSession::stopForChange(std::int32_t& current, std::int32_t newValue) {
-    if (connectionChanging_) {
-        current = newValue;
+// An idle session takes no note: it reads both settings when it starts. A stop that waits keeps the values of the
+// provider it has to take leave of, and reads both settings behind it.
+void TransferFunctionSession::changeConnection(std::int32_t Connection::*setting, std::int32_t value) {
+    if (change_.isUnderWay()) {
+        change_.keep(setting, value);
         return;
     }
     if (!started_ && !starting_) return;
     tfStop();
-    if (!stopPending_) current = newValue;
+    if (!stopPending_) connection_.*setting = value;
 }
 
 void TransferFunctionSession::onConnectionChanging(bool changing) {
-    connectionChanging_ = changing;
     if (changing) {
-        pendingTransportType_ = 0;
-        pendingRouterKind_ = 0;
-        return;
+        change_.begin();
+    } else if (change_.end(connection_)) {
+        tfStop();
+        if (!stopPending_) connection_.read(settings_);
     }
-    const bool transportChanged = pendingTransportType_ != 0 && pendingTransportType_ != transportType_;
-    const bool routerChanged = pendingRouterKind_ != 0 && pendingRouterKind_ != routerKind_;
-    if (!transportChanged && !routerChanged) return;
-    tfStop();
-    if (!stopPending_) readConnectionSettings();
 }
 
 }  // namespace provider

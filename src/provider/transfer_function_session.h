@@ -5,6 +5,7 @@
 
 #include "messages/box.h"
 #include "monitor/monitor_store.h"
+#include "provider/connection.h"
 #include "provider/provider_binding.h"
 #include "services/owned.h"
 #include "text/code_page_state.h"
@@ -44,7 +45,7 @@ public:
     void tfEndData();
 
     // True with the AS/400 client provider: its options are binary and its qualifiers are file names.
-    bool tfIsAs400Mode() const;
+    bool tfIsAs400Mode() const { return connection_.isAs400Mode(settings_); }
 
     // Makes and sets up the trace file object. Nothing is written to it; exchanges are followed in the monitor store.
     void tfTraceOn(const char* fileName);
@@ -69,7 +70,7 @@ public:
     // the shared buffer, never more than BufferSize.
     std::string_view returned(const TfResult& result) const;
 
-    std::int32_t transportType() const { return transportType_; }
+    std::int32_t transportType() const { return connection_.transportType; }
     const text::CodePageState& codePage() const { return codePage_; }
 
     // The monitor store; null when there was no memory for it.
@@ -81,16 +82,14 @@ public:
 private:
     messages::Owner messageOwner() const { return {session_, settings_, sessionWindow_}; }
     bool isDemonstration() const;
-    void adjustRouterKind();
     bool allocateBuffer();
     void freeBuffer();
-    void readConnectionSettings();
     void endConversation();
     void releaseProvider();
     void sendControl(TfFunction function);
     void carryOutPendingStop(std::uint32_t function, TfResult& result, services::ProgressDialogHandle dialog);
+    void changeConnection(std::int32_t Connection::*setting, std::int32_t value);
     void onConnectionChanging(bool changing);
-    void stopForChange(std::int32_t& current, std::int32_t newValue);
 
     void loadErrorText(const TfResult& result, std::uint32_t& contextText, char (&buffer)[100]) const;
     void showError(const TfResult& result, std::uint32_t contextText, const char* errorText) const;
@@ -115,12 +114,9 @@ private:
     TfResult controlResult_;  // of the exchanges the session makes itself
     void* bufferHandle_ = nullptr;
     bool started_ = false;
-    std::int32_t transportType_ = 0;
-    std::int32_t routerKind_ = 0;
+    Connection connection_;
+    ConnectionChange change_;
     char systemDesignation_[301] = {};
-    std::int32_t pendingTransportType_ = 0;
-    std::int32_t pendingRouterKind_ = 0;
-    bool connectionChanging_ = false;
     bool starting_ = false;
     bool inProviderCall_ = false;
     bool stopPending_ = false;
