@@ -14,9 +14,6 @@ namespace id = zhst::setting;
 constexpr std::uint32_t WatchedSettings[] = {id::TransportType, id::RouterKind, id::ConnectionChanging,
                                              id::ConvertToOem, id::HostCodePage};
 
-constexpr std::uint32_t BufferNotAllocated = 4405;
-constexpr std::uint32_t MovableZeroNotBanked = 0x1042;  // flags of the shared buffer's global memory
-
 constexpr std::uint32_t TraceIsBinary = 1;
 constexpr std::uint32_t TraceOption = 1;
 
@@ -88,19 +85,9 @@ bool TransferFunctionSession::tfStart() {
 }
 
 bool TransferFunctionSession::allocateBuffer() {
-    if (dataBuffer_) return true;
-    bufferHandle_ = platform::GlobalAlloc(MovableZeroNotBanked, BufferSize);
-    if (bufferHandle_) dataBuffer_ = static_cast<char*>(platform::GlobalLock(bufferHandle_));
-    if (dataBuffer_) return true;
-    freeBuffer();
-    messages::show(messageOwner(), BufferNotAllocated);
+    if (buffer_.allocate()) return true;
+    messages::show(messageOwner(), zhst::message::BufferNotAllocated);
     return false;
-}
-
-void TransferFunctionSession::freeBuffer() {
-    if (!bufferHandle_) return;
-    if (std::exchange(dataBuffer_, nullptr)) platform::GlobalUnlock(bufferHandle_);
-    platform::GlobalFree(std::exchange(bufferHandle_, nullptr));
 }
 
 void TransferFunctionSession::tfStop() {
@@ -132,7 +119,7 @@ void TransferFunctionSession::releaseProvider() {
     inProviderCall_ = true;
     binding_.deleteClient();
     inProviderCall_ = false;
-    freeBuffer();
+    buffer_.free();
     binding_.freeModules();
     if (traceFile_) std::exchange(traceFile_, nullptr)->destroy();
     started_ = false;
@@ -149,9 +136,9 @@ void TransferFunctionSession::tfRequest(std::uint32_t function, std::uint32_t le
     }
     activeDialog_ = dialog;
     length = std::min(length, BufferSize);
-    if (monitorStore_) monitorStore_->recordRequest(function, reserved, {dataBuffer_, length}, designation);
+    if (monitorStore_) monitorStore_->recordRequest(function, reserved, {dataBuffer(), length}, designation);
     inProviderCall_ = true;
-    result = binding_.call({function, dataBuffer_, length, reserved, designation, yield_}, &conversation_);
+    result = binding_.call({function, dataBuffer(), length, reserved, designation, yield_}, &conversation_);
     inProviderCall_ = false;
     activeDialog_ = 0;
     if (function == TF_END_DATA) conversation_ = 0;
@@ -198,15 +185,6 @@ void TransferFunctionSession::tfTraceOn(const char* fileName) {
     traceFile_->setTypeFlag(TraceIsBinary);
     traceFile_->setExistingFileAction(zhst::value::Append);
     traceFile_->setOption(TraceOption);
-}
-
-std::string_view TransferFunctionSession::returned(const TfResult& result) const {
-    if (!result.data) return {};
-    const auto* data = static_cast<const char*>(result.data);
-    std::uint32_t room = BufferSize;
-    if (dataBuffer_ && data >= dataBuffer_ && data < dataBuffer_ + BufferSize)
-        room = static_cast<std::uint32_t>(dataBuffer_ + BufferSize - data);
-    return {data, std::min(result.dataLength, room)};
 }
 
 void TransferFunctionSession::yieldToDialog() {

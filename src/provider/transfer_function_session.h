@@ -7,6 +7,7 @@
 #include "monitor/monitor_store.h"
 #include "provider/connection.h"
 #include "provider/provider_binding.h"
+#include "provider/shared_buffer.h"
 #include "services/owned.h"
 #include "text/code_page_state.h"
 
@@ -64,11 +65,10 @@ public:
     void setRuntimeSetting(std::uint32_t value) { runtimeSetting_ = value; }
 
     // The shared buffer of BufferSize bytes; null while there is none, as after a stop.
-    char* dataBuffer() const { return dataBuffer_; }
+    char* dataBuffer() const { return buffer_.data(); }
 
-    // The bytes that a result returned, as far as they can be trusted: none without an address, none behind the end of
-    // the shared buffer, never more than BufferSize.
-    std::string_view returned(const TfResult& result) const;
+    // The bytes that a result returned, as far as they can be trusted.
+    std::string_view returned(const TfResult& result) const { return buffer_.returned(result); }
 
     std::int32_t transportType() const { return connection_.transportType; }
     const text::CodePageState& codePage() const { return codePage_; }
@@ -83,7 +83,6 @@ private:
     messages::Owner messageOwner() const { return {session_, settings_, sessionWindow_}; }
     bool isDemonstration() const;
     bool allocateBuffer();
-    void freeBuffer();
     void endConversation();
     void releaseProvider();
     void sendControl(TfFunction function);
@@ -105,14 +104,13 @@ private:
     services::SettingWatch watch_;
     TfYield yield_;
 
-    char* dataBuffer_ = nullptr;
+    SharedBuffer buffer_;
     services::FileObject* traceFile_ = nullptr;
     std::uint32_t runtimeSetting_ = 0;
     ProviderBinding binding_;
     std::uint32_t conversation_ = 0;
     services::ProgressDialogHandle activeDialog_ = 0;
     TfResult controlResult_;  // of the exchanges the session makes itself
-    void* bufferHandle_ = nullptr;
     bool started_ = false;
     Connection connection_;
     ConnectionChange change_;
