@@ -5,6 +5,7 @@
 
 #include "Z7XFRPCS/settings.h"
 #include "platform/platform.h"
+#include "provider/result_judge.h"
 
 namespace provider {
 namespace {
@@ -185,6 +186,12 @@ void TransferFunctionSession::tfTraceOn(const char* fileName) {
     traceFile_->setTypeFlag(TraceIsBinary);
     traceFile_->setExistingFileAction(zhst::value::Append);
     traceFile_->setOption(TraceOption);
+}
+
+// A result with a length but no address has no host text, and is told as one without.
+bool TransferFunctionSession::tfCheckResult(std::uint32_t contextText, const TfResult& result,
+                                            services::ProgressDialogHandle dialog) {
+    return started_ && judgeResult(messageOwner(), connection_, {result, returned(result), contextText, dialog});
 }
 
 void TransferFunctionSession::yieldToDialog() {

@@ -53,7 +53,8 @@ public:
 
     // Whether the transfer may go on after an exchange. A failure has been shown by the message rules, its code and
     // text are in the settings LastReturnCode and LastErrorText. `contextText` is the index in message table 7 of a
-    // text that says what was being done, 0 for none; `dialog` (0: none) is hidden while a message is up.
+    // text that says what was being done, 0 for none; `dialog` (0: none) is hidden while a message is up. False without
+    // a word when the session is not started.
     bool tfCheckResult(std::uint32_t contextText, const TfResult& result, services::ProgressDialogHandle dialog);
 
     // "SYSTEM(NAME    )", built anew on each call; null when the session names no host system.
@@ -89,11 +90,6 @@ private:
     void carryOutPendingStop(std::uint32_t function, TfResult& result, services::ProgressDialogHandle dialog);
     void changeConnection(std::int32_t Connection::*setting, std::int32_t value);
     void onConnectionChanging(bool changing);
-
-    void loadErrorText(const TfResult& result, std::uint32_t& contextText, char (&buffer)[100]) const;
-    void showError(const TfResult& result, std::uint32_t contextText, const char* errorText) const;
-    void showHostText(const TfResult& result, std::string_view hostText, const char* errorText) const;
-    void showNotCompleted() const;
 
     // In the order in which the constructor makes them.
     services::SessionHandle session_;
