@@ -64,25 +64,23 @@ bool TransferFunctionSession::isDemonstration() const {
 }
 
 bool TransferFunctionSession::tfStart() {
-    if (started_) return true;
-    if (isDemonstration()) return true;
+    if (isStarted() || isDemonstration()) return true;
     // Binding shows messages and calls the provider, so exports may come in and find the session half started.
-    if (starting_) return false;
+    if (isWaiting()) return false;
     connection_.settle(settings_);
-    starting_ = true;
+    phase_.beginBinding();
     const bool bound = allocateBuffer() && binding_.bind(session_, connection_);
-    starting_ = false;
-    const bool stopArrived = std::exchange(stopPending_, false);
+    phase_.endBinding(bound);
     if (!bound) return false;
-    if (stopArrived) {
-        releaseProvider();
-    } else {
-        started_ = true;
+    if (isStarted()) {
         sendControl(TF_RESET);
         codePage_.setConvertToOem(services::GetSetting(settings_, id::ConvertToOem));
+    } else {
+        releaseProvider();
     }
-    if (!started_) messages::showOwnText(messageOwner(), StoppedText);
-    return started_;
+    // Stopped while it was being bound or reset, which nobody else would tell.
+    if (!isStarted()) messages::showOwnText(messageOwner(), StoppedText);
+    return isStarted();
 }
 
 bool TransferFunctionSession::allocateBuffer() {
@@ -91,70 +89,68 @@ bool TransferFunctionSession::allocateBuffer() {
     return false;
 }
 
+// A connection that has become the demonstration is left without a farewell; what is bound goes with the session.
 void TransferFunctionSession::tfStop() {
-    if (starting_ || (started_ && inProviderCall_ && !stopping_)) {
-        stopPending_ = true;
-        return;
-    }
-    if (!started_ || stopping_ || isDemonstration()) return;
-    stopping_ = true;
+    if (phase_.deferStop() || !phase_.isReady() || isDemonstration()) return;
+    phase_.beginStop();
     endConversation();
     releaseProvider();
-    stopping_ = false;
 }
 
+// The IBM provider's clean-up is for a conversation, and so is not called without one.
 void TransferFunctionSession::endConversation() {
     if (conversation_ == 0) return;
     if (binding_.family() == Family::Ibm) {
         sendControl(TF_END_DATA);
-        inProviderCall_ = true;
+        const SessionPhase::ProviderCall call(phase_);
         binding_.callStfCleanup();
-        inProviderCall_ = false;
     } else if (isOwnProvider(binding_.family())) {
         sendControl(TF_RESET);
     }
     conversation_ = 0;
 }
 
+// The client goes first: it may use the buffer, and needs its library, to its end.
 void TransferFunctionSession::releaseProvider() {
-    inProviderCall_ = true;
-    binding_.deleteClient();
-    inProviderCall_ = false;
+    {
+        const SessionPhase::ProviderCall call(phase_);
+        binding_.deleteClient();
+    }
     buffer_.free();
     binding_.freeModules();
     if (traceFile_) std::exchange(traceFile_, nullptr)->destroy();
-    started_ = false;
+    phase_.released();
 }
 
 void TransferFunctionSession::tfRequest(std::uint32_t function, std::uint32_t length, std::uint32_t reserved,
                                         TfResult& result, const char* designation,
                                         services::ProgressDialogHandle dialog) {
     result = {};
-    // The provider serves one call at a time; one that comes in through its yield call-back is turned away.
-    if (inProviderCall_ || !tfStart() || !binding_.isBound()) {
+    // The provider serves one call at a time; one that comes in through its yield call-back is turned away. In a
+    // demonstration the session starts without a provider.
+    if (phase_.isCalling() || !tfStart() || !binding_.isBound()) {
         result.returnCode = TF_NOT_STARTED;
         return;
     }
     activeDialog_ = dialog;
     length = std::min(length, BufferSize);
     if (monitorStore_) monitorStore_->recordRequest(function, reserved, {dataBuffer(), length}, designation);
-    inProviderCall_ = true;
-    result = binding_.call({function, dataBuffer(), length, reserved, designation, yield_}, &conversation_);
-    inProviderCall_ = false;
+    {
+        const SessionPhase::ProviderCall call(phase_);
+        result = binding_.call({function, dataBuffer(), length, reserved, designation, yield_}, &conversation_);
+    }
     activeDialog_ = 0;
     if (function == TF_END_DATA) conversation_ = 0;
     if (monitorStore_) monitorStore_->recordResult(function, result.returnCode, result.detailCode, returned(result));
-    carryOutPendingStop(function, result, dialog);
+    if (phase_.takePendingStop()) carryOutPendingStop(function, result, dialog);
 }
 
-// What the provider returned goes with the provider.
+// What the provider returned goes with the provider. The session's own exchanges are not missed by anybody.
 void TransferFunctionSession::carryOutPendingStop(std::uint32_t function, TfResult& result,
                                                   services::ProgressDialogHandle dialog) {
-    if (stopping_ || !std::exchange(stopPending_, false)) return;
     tfStop();
     connection_.read(settings_);
-    result = {};
-    result.returnCode = TF_NOT_STARTED;
+    result = {TF_NOT_STARTED};
     if (!isControl(function)) tellInterruption(dialog);
 }
 
@@ -170,12 +166,13 @@ void TransferFunctionSession::sendControl(TfFunction function) {
 
 // A session that was stopped has no request left to end, and is not started again for it.
 void TransferFunctionSession::tfEndRequest() {
-    if (started_ && !isDemonstration()) sendControl(TF_END_REQUEST);
+    if (isStarted() && !isDemonstration()) sendControl(TF_END_REQUEST);
 }
 
+// During a call the conversation is the provider's to change.
 void TransferFunctionSession::tfEndData() {
-    if (inProviderCall_) return;
-    if (started_) sendControl(TF_END_DATA);
+    if (phase_.isCalling()) return;
+    if (isStarted()) sendControl(TF_END_DATA);
     conversation_ = 0;
 }
 
@@ -191,7 +188,7 @@ void TransferFunctionSession::tfTraceOn(const char* fileName) {
 // A result with a length but no address has no host text, and is told as one without.
 bool TransferFunctionSession::tfCheckResult(std::uint32_t contextText, const TfResult& result,
                                             services::ProgressDialogHandle dialog) {
-    return started_ && judgeResult(messageOwner(), connection_, {result, returned(result), contextText, dialog});
+    return isStarted() && judgeResult(messageOwner(), connection_, {result, returned(result), contextText, dialog});
 }
 
 void TransferFunctionSession::yieldToDialog() {
@@ -216,9 +213,9 @@ void TransferFunctionSession::changeConnection(std::int32_t Connection::*setting
         change_.keep(setting, value);
         return;
     }
-    if (!started_ && !starting_) return;
+    if (!isStarted() && !phase_.isBinding()) return;
     tfStop();
-    if (!stopPending_) connection_.*setting = value;
+    if (!phase_.isStopPending()) connection_.*setting = value;
 }
 
 void TransferFunctionSession::onConnectionChanging(bool changing) {
@@ -226,7 +223,7 @@ void TransferFunctionSession::onConnectionChanging(bool changing) {
         change_.begin();
     } else if (change_.end(connection_)) {
         tfStop();
-        if (!stopPending_) connection_.read(settings_);
+        if (!phase_.isStopPending()) connection_.read(settings_);
     }
 }
 

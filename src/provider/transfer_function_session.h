@@ -7,6 +7,7 @@
 #include "monitor/monitor_store.h"
 #include "provider/connection.h"
 #include "provider/provider_binding.h"
+#include "provider/session_phase.h"
 #include "provider/shared_buffer.h"
 #include "services/owned.h"
 #include "text/code_page_state.h"
@@ -33,9 +34,9 @@ public:
     // been reported.
     bool tfStart();
     void tfStop();
-    bool isStarted() const { return started_; }
+    bool isStarted() const { return phase_.isStarted(); }
     // A provider call is on the stack, or the provider is being bound.
-    bool isWaiting() const { return inProviderCall_ || starting_; }
+    bool isWaiting() const { return phase_.isWaiting(); }
 
     // One exchange: `length` bytes of the shared buffer go to the provider, its answer into `result`. Starts an idle
     // session first; NotStarted when that fails. `designation` may be null; `dialog` (0: none) is kept alive while the
@@ -107,14 +108,10 @@ private:
     std::uint32_t conversation_ = 0;
     services::ProgressDialogHandle activeDialog_ = 0;
     TfResult controlResult_;  // of the exchanges the session makes itself
-    bool started_ = false;
+    SessionPhase phase_;
     Connection connection_;
     ConnectionChange change_;
     char systemDesignation_[301] = {};
-    bool starting_ = false;
-    bool inProviderCall_ = false;
-    bool stopPending_ = false;
-    bool stopping_ = false;
 };
 
 }  // namespace provider
