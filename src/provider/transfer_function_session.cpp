@@ -1,9 +1,9 @@
 #include "provider/transfer_function_session.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "Z7XFRPCS/settings.h"
+#include "messages/own_sentences.h"
 #include "platform/platform.h"
 #include "provider/result_judge.h"
 
@@ -18,13 +18,13 @@ constexpr std::uint32_t WatchedSettings[] = {id::TransportType, id::RouterKind, 
 constexpr std::uint32_t TraceIsBinary = 1;
 constexpr std::uint32_t TraceOption = 1;
 
-constexpr char StoppedText[] =
-    "The connection was ended or its settings were changed while the host was working on a request. "
-    "The request was not completed.";
-
-// The session whose dialog a waiting provider keeps alive: the first one made in this process.
-TransferFunctionSession* callbackSession = nullptr;
-std::uint32_t callbackProcess = 0;
+// The only state of the process, not of a session: who is meant when a provider calls back. The process is noted, since
+// the data of a library may be seen by several.
+struct YieldTarget {
+    TransferFunctionSession* session = nullptr;
+    std::uint32_t process = 0;
+};
+YieldTarget yieldTarget;
 
 bool isControl(std::uint32_t function) {
     return function == TF_END_REQUEST || function == TF_RESET || function == TF_END_DATA;
@@ -34,19 +34,15 @@ bool isControl(std::uint32_t function) {
 
 TransferFunctionSession::TransferFunctionSession(services::SessionHandle session, services::SettingWatch watch,
                                                  TfYield yield)
-    : session_(session),
-      settings_(services::GetSessionSettings(session)),
+    : owner_{session, services::GetSessionSettings(session), 0},
       codePage_(session),
       monitorStore_(services::Owned<monitor::MonitorStore>::make()),
-      sessionWindow_(services::GetSessionWindow(settings_)),
       watch_(watch),
       yield_(yield) {
-    const std::int32_t hostCodePage = services::GetSetting(settings_, id::HostCodePage);
-    if (!callbackSession) {
-        callbackSession = this;
-        callbackProcess = platform::GetCurrentProcessId();
-    }
-    for (const std::uint32_t setting : WatchedSettings) services::WatchSetting(settings_, setting, watch_);
+    owner_.window = services::GetSessionWindow(owner_.settings);
+    const std::int32_t hostCodePage = services::GetSetting(owner_.settings, id::HostCodePage);
+    if (!yieldTarget.session) yieldTarget = {this, platform::GetCurrentProcessId()};
+    for (const std::uint32_t setting : WatchedSettings) services::WatchSetting(owner_.settings, setting, watch_);
     services::AttachSession(session);
     codePage_.setHostCodePage(hostCodePage);
 }
@@ -55,37 +51,37 @@ TransferFunctionSession::~TransferFunctionSession() {
     tfStop();
     // A provider bound before the connection became a demonstration, and the buffer of a binding that failed.
     releaseProvider();
-    for (const std::uint32_t setting : WatchedSettings) services::UnwatchSetting(settings_, setting, watch_);
-    if (callbackSession == this) callbackSession = nullptr;
+    for (const std::uint32_t setting : WatchedSettings) services::UnwatchSetting(owner_.settings, setting, watch_);
+    if (yieldTarget.session == this) yieldTarget.session = nullptr;
 }
 
 bool TransferFunctionSession::isDemonstration() const {
-    return services::GetSetting(settings_, id::ConnectionType) == zhst::value::DemonstrationConnection;
+    return services::GetSetting(owner_.settings, id::ConnectionType) == zhst::value::DemonstrationConnection;
 }
 
 bool TransferFunctionSession::tfStart() {
     if (isStarted() || isDemonstration()) return true;
     // Binding shows messages and calls the provider, so exports may come in and find the session half started.
     if (isWaiting()) return false;
-    connection_.settle(settings_);
+    connection_.settle(owner_.settings);
     phase_.beginBinding();
-    const bool bound = allocateBuffer() && binding_.bind(session_, connection_);
+    const bool bound = allocateBuffer() && binding_.bind(owner_.session, connection_);
     phase_.endBinding(bound);
     if (!bound) return false;
     if (isStarted()) {
         sendControl(TF_RESET);
-        codePage_.setConvertToOem(services::GetSetting(settings_, id::ConvertToOem));
+        codePage_.setConvertToOem(services::GetSetting(owner_.settings, id::ConvertToOem));
     } else {
         releaseProvider();
     }
     // Stopped while it was being bound or reset, which nobody else would tell.
-    if (!isStarted()) messages::showOwnText(messageOwner(), StoppedText);
+    if (!isStarted()) messages::showOwnText(owner_, messages::sentence::ConnectionStopped);
     return isStarted();
 }
 
 bool TransferFunctionSession::allocateBuffer() {
     if (buffer_.allocate()) return true;
-    messages::show(messageOwner(), zhst::message::BufferNotAllocated);
+    messages::show(owner_, zhst::message::BufferNotAllocated);
     return false;
 }
 
@@ -118,7 +114,7 @@ void TransferFunctionSession::releaseProvider() {
     }
     buffer_.free();
     binding_.freeModules();
-    if (traceFile_) std::exchange(traceFile_, nullptr)->destroy();
+    traceFile_ = services::OwnedFile();
     phase_.released();
 }
 
@@ -149,15 +145,15 @@ void TransferFunctionSession::tfRequest(std::uint32_t function, std::uint32_t le
 void TransferFunctionSession::carryOutPendingStop(std::uint32_t function, TfResult& result,
                                                   services::ProgressDialogHandle dialog) {
     tfStop();
-    connection_.read(settings_);
+    connection_.read(owner_.settings);
     result = {TF_NOT_STARTED};
     if (!isControl(function)) tellInterruption(dialog);
 }
 
 // The code of the exchange before would stand in the settings and read as success.
 void TransferFunctionSession::tellInterruption(services::ProgressDialogHandle dialog) const {
-    services::SetSetting(settings_, id::LastReturnCode, TF_NOT_STARTED);
-    messages::showOwnText(messageOwner(), StoppedText, dialog);
+    services::SetSetting(owner_.settings, id::LastReturnCode, TF_NOT_STARTED);
+    messages::showOwnText(owner_, messages::sentence::ConnectionStopped, dialog);
 }
 
 void TransferFunctionSession::sendControl(TfFunction function) {
@@ -177,7 +173,7 @@ void TransferFunctionSession::tfEndData() {
 }
 
 void TransferFunctionSession::tfTraceOn(const char* fileName) {
-    if (!traceFile_) traceFile_ = services::CreateFileObject(session_);
+    if (!traceFile_) traceFile_ = services::OwnedFile(services::CreateFileObject(owner_.session));
     if (!traceFile_) return;
     traceFile_->setName(fileName);
     traceFile_->setTypeFlag(TraceIsBinary);
@@ -188,13 +184,17 @@ void TransferFunctionSession::tfTraceOn(const char* fileName) {
 // A result with a length but no address has no host text, and is told as one without.
 bool TransferFunctionSession::tfCheckResult(std::uint32_t contextText, const TfResult& result,
                                             services::ProgressDialogHandle dialog) {
-    return isStarted() && judgeResult(messageOwner(), connection_, {result, returned(result), contextText, dialog});
+    return isStarted() && judgeResult(owner_, connection_, {result, returned(result), contextText, dialog});
+}
+
+const char* TransferFunctionSession::hostSystemDesignation() {
+    return designation_.make(owner_.settings, connection_.transport().has(QualifiedName));
 }
 
 void TransferFunctionSession::yieldToDialog() {
-    if (!callbackSession || callbackProcess != platform::GetCurrentProcessId()) return;
-    if (const services::ProgressDialogHandle dialog = callbackSession->activeDialog_)
-        services::ProgressDialogCommand(dialog, services::ProgressCommand::ProcessMessages);
+    const auto& [session, process] = yieldTarget;
+    if (!session || process != platform::GetCurrentProcessId() || !session->activeDialog_) return;
+    services::ProgressDialogCommand(session->activeDialog_, services::ProgressCommand::ProcessMessages);
 }
 
 void TransferFunctionSession::onSettingChanged(std::uint32_t setting, std::int32_t newValue, std::int32_t oldValue) {
@@ -223,7 +223,7 @@ void TransferFunctionSession::onConnectionChanging(bool changing) {
         change_.begin();
     } else if (change_.end(connection_)) {
         tfStop();
-        if (!phase_.isStopPending()) connection_.read(settings_);
+        if (!phase_.isStopPending()) connection_.read(owner_.settings);
     }
 }
 

@@ -9,7 +9,9 @@
 #include "provider/provider_binding.h"
 #include "provider/session_phase.h"
 #include "provider/shared_buffer.h"
+#include "provider/system_designation.h"
 #include "services/owned.h"
+#include "services/owned_file.h"
 #include "text/code_page_state.h"
 
 namespace provider {
@@ -47,7 +49,7 @@ public:
     void tfEndData();
 
     // True with the AS/400 client provider: its options are binary and its qualifiers are file names.
-    bool tfIsAs400Mode() const { return connection_.isAs400Mode(settings_); }
+    bool tfIsAs400Mode() const { return connection_.isAs400Mode(owner_.settings); }
 
     // Makes and sets up the trace file object. Nothing is written to it; exchanges are followed in the monitor store.
     void tfTraceOn(const char* fileName);
@@ -64,6 +66,7 @@ public:
     void onSettingChanged(std::uint32_t setting, std::int32_t newValue, std::int32_t oldValue);
     // Tells that the session was stopped under a request, which a session that is not started would not report.
     void tellInterruption(services::ProgressDialogHandle dialog) const;
+    // Kept for the emulator, which hands it over; nothing depends on it.
     void setRuntimeSetting(std::uint32_t value) { runtimeSetting_ = value; }
 
     // The shared buffer of BufferSize bytes; null while there is none, as after a stop.
@@ -78,11 +81,11 @@ public:
     // The monitor store; null when there was no memory for it.
     monitor::MonitorStore* monitorStore() const { return monitorStore_.get(); }
 
-    // The provider waits: lets the dialog of the exchange in progress process messages.
+    // The provider waits: lets the dialog of the exchange in progress process messages. A provider calls back without
+    // saying for whom, so one session of the process is the target: the first one made, until its end.
     static void yieldToDialog();
 
 private:
-    messages::Owner messageOwner() const { return {session_, settings_, sessionWindow_}; }
     bool isDemonstration() const;
     bool allocateBuffer();
     void endConversation();
@@ -93,25 +96,23 @@ private:
     void onConnectionChanging(bool changing);
 
     // In the order in which the constructor makes them.
-    services::SessionHandle session_;
-    services::SettingsHandle settings_;
+    messages::Owner owner_;  // the session's window
     text::CodePageState codePage_;
     services::Owned<monitor::MonitorStore> monitorStore_;
-    services::WindowHandle sessionWindow_;
     services::SettingWatch watch_;
     TfYield yield_;
 
-    SharedBuffer buffer_;
-    services::FileObject* traceFile_ = nullptr;
-    std::uint32_t runtimeSetting_ = 0;
-    ProviderBinding binding_;
-    std::uint32_t conversation_ = 0;
-    services::ProgressDialogHandle activeDialog_ = 0;
-    TfResult controlResult_;  // of the exchanges the session makes itself
     SessionPhase phase_;
     Connection connection_;
     ConnectionChange change_;
-    char systemDesignation_[301] = {};
+    ProviderBinding binding_;
+    SharedBuffer buffer_;
+    services::OwnedFile traceFile_;
+    SystemDesignation designation_;
+    std::uint32_t conversation_ = 0;  // the provider's handle; 0 for none
+    services::ProgressDialogHandle activeDialog_ = 0;
+    TfResult controlResult_;  // of the exchanges the session makes itself
+    std::uint32_t runtimeSetting_ = 0;
 };
 
 }  // namespace provider
