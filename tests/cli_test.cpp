@@ -163,7 +163,7 @@ TEST_F(Cli, RefusedRecordLeavesThoseInFrontOfIt) {
     fs::copy_file(fs::path(binFolder()) / "sample.db", path("my.db"));
     run("receive QGPL/CUST c.csv --describe '*.fdf'");
     std::string bytes = read("c.csv");
-    bytes.insert(bytes.find("100003"), "x");
+    bytes.insert(bytes.find("100003") + 1, "x");
     writeFile(path("c.csv"), bytes);
     const Outcome sent =
         expect(1, "send c.csv 'QGPL/CUST(NEW)' --description c.fdf --create member --host-data my.db", "Record 3: ");

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "Z7XFRPCS/settings.h"
-#include "record/to_host/host_number.h"
+#include "record/to_host/number_text.h"
 #include "services/owned.h"
 #include "services/session.h"
 #include "text/double_byte.h"
@@ -13,7 +13,7 @@ namespace {
 
 // The text up to the delimiter or the end of the record. In BasicSequential files a comma delimits too, unless the text
 // is a number and the comma its decimal separator.
-std::string_view delimitedText(const FileRules& rules, std::string_view text, bool isNumber) {
+std::string_view upToDelimiter(const FileRules& rules, std::string_view text, bool isNumber) {
     char delimiters[2] = {rules.listSeparator, rules.listSeparator};
     if (rules.type.form == settings::RecordForm::Tuples) {
         delimiters[0] = '\r';
@@ -35,7 +35,7 @@ std::string_view delimitedText(const FileRules& rules, std::string_view text, bo
 bool takeHexEnd(const FileRules& rules, bool quoted, std::string_view rest, std::size_t& consumed) {
     if (rules.type.isFixed() || (quoted && rest.empty())) return true;
     if (quoted && rest[0] != '"') return false;
-    const std::string_view between = delimitedText(rules, rest, false);
+    const std::string_view between = upToDelimiter(rules, rest, false);
     consumed += between.size();
     return quoted || text::trimmed(between).empty();
 }
@@ -58,44 +58,14 @@ ConvertedField convertHex(const FileRules& rules, const FieldPlan& plan, std::st
 
 // --- Numbers -----------------------------------------------------------------------------------------------------
 
-NumberGrammar grammarOf(const FieldPlan& plan) {
-    const char separator = plan.decimalSeparator;
-    if (plan.type != Binary) return {separator, '\0', false, true, 15};
-    return {separator, separator == ',' ? '.' : ',', true, false, 9};
+bool store(const WorkingText& working, const FieldPlan& plan, char* destination) {
+    return plan.type == Zoned ? textToZoned(working, destination, plan.bytes)
+                              : textToPacked(working, destination, plan.bytes);
 }
 
-// Whether the character in the decimal place is a mark, whatever it looks like. A blank is one in front of digits only.
-bool isMark(std::string_view text, std::size_t at) {
-    if (text[at] == ' ') return !text::trimmed(text.substr(at)).empty() && !text::trimmed(text.substr(0, at)).empty();
-    return text[at] != '-' && (text[at] < '0' || text[at] > '?');
-}
-
-// A fixed text has its decimal point in a fixed place, where any mark will do. A number without a mark there is taken
-// as it reads, and then has to end in front of that place, or behind a point of its own and in front of the text's last
-// position: otherwise nobody can tell 10 from 0.10, or what was cut off.
-bool readFixed(const FieldPlan& plan, std::string_view text, std::uint32_t width, DecimalText& number) {
-    const std::int64_t place = static_cast<std::int64_t>(width) - plan.decimals - 1;
-    if (plan.type == Binary || plan.decimals <= 0 || place < 0 || place >= static_cast<std::int64_t>(text.size()))
-        return number.read(text, grammarOf(plan));
-    const auto pointAt = static_cast<std::size_t>(place);
-    if (isMark(text, pointAt)) return number.read(text, grammarOf(plan), pointAt);
-    if (!number.read(text, grammarOf(plan))) return false;
-    const std::size_t length = text::trimmedEnd(text).size();
-    return number.isZero() || length < (number.hasPoint() ? width : pointAt + 1);
-}
-
-bool store(const FieldPlan& plan, const DecimalText& number, char* destination) {
-    switch (plan.type) {
-        case Binary:
-            return toBinary(number, plan.decimals, destination, plan.bytes);
-        case Zoned:
-            return toZoned(number, plan.decimals, destination, plan.bytes);
-        default: {
-            // All positions of the text form but those of sign and point: its even precision is accounted for.
-            const std::uint32_t digits = plan.width - (plan.decimals > 0 ? 2 : 1);
-            return toPacked(number, plan.decimals, destination, plan.bytes, digits);
-        }
-    }
+bool storeBinary(std::string_view text, const FieldPlan& plan, char* destination) {
+    BinaryNumber number(plan.width);
+    return readBinary(text, plan, plan.isFixed, number) && number.store(destination, plan.bytes);
 }
 
 ConvertedField convertFixedNumber(const FieldConversion& conversion, const FieldPlan& plan, std::string_view text,
@@ -103,16 +73,25 @@ ConvertedField convertFixedNumber(const FieldConversion& conversion, const Field
     // The text of a binary number has its point in addition to its width.
     const std::uint32_t point = plan.type == Binary && plan.decimals > 0 ? 1 : 0;
     const std::uint32_t width = fieldTextWidth(conversion, plan, text.empty() ? ' ' : text[0]) + point;
-    DecimalText number;
-    if (!readFixed(plan, text.substr(0, width), width, number) || !store(plan, number, destination)) return {};
+    if (plan.type == Binary) {
+        if (!storeBinary(text.substr(0, width), plan, destination)) return {};
+    } else {
+        WorkingText working;
+        fixedText(text, plan, width, working);
+        if (!store(working, plan, destination)) return {};
+    }
     return {plan.bytes, width};
 }
 
 ConvertedField convertDelimitedNumber(const FileRules& rules, const FieldPlan& plan, std::string_view text,
                                       char* destination) {
-    text = delimitedText(rules, text, true);
-    DecimalText number;
-    if (!number.read(text, grammarOf(plan)) || !store(plan, number, destination)) return {};
+    text = upToDelimiter(rules, text, true);
+    if (plan.type == Binary) {
+        if (!storeBinary(text, plan, destination)) return {};
+    } else {
+        WorkingText working;
+        if (!delimitedText(text, plan, working) || !store(working, plan, destination)) return {};
+    }
     return {plan.bytes, text.size()};
 }
 

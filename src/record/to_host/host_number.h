@@ -3,28 +3,58 @@
 #include <cstdint>
 #include <string_view>
 
-#include "record/to_host/decimal_text.h"
-
-// The host's forms of a number. A number is stored exactly or not at all: each builder is false, with nothing stored,
-// when a digit would be lost.
+// The host's forms of a number, made from text.
 namespace record::to_host {
 
-// Two's complement, most significant byte first; the number is counted in units of its last decimal place. 1 to 8
-// bytes, `count`.
-bool toBinary(const DecimalText& number, std::int32_t decimals, char* destination, std::uint32_t count);
+// The text form of a zoned or packed number, position by position: a sign position when it has one, then digits with
+// the decimal point at its place.
+struct WorkingText {
+    // The widest: 255 packed bytes with sign and point.
+    static constexpr std::uint32_t Capacity = 2 * 255 + 1;
+
+    char characters[Capacity];
+    std::uint32_t length;
+    std::uint32_t decimals;
+    bool hasSign;  // the first character is a sign or nothing, but no digit
+
+    std::uint32_t digitPositions() const { return length - (hasSign ? 1 : 0) - (hasPoint() ? 1 : 0); }
+    bool hasPoint() const { return decimals > 0 && decimals < length; }
+    std::uint32_t pointAt() const { return length - decimals - 1; }
+};
+
+// Both are false, with `destination` partly written, for a character that is no digit, a "-" behind a digit, or more
+// digits than the field has. Blanks and a "-" in the place of a digit are zeros; whatever stands in the place of the
+// point is skipped; the characters behind "9" up to "?" stand for the nibbles above 9.
 
 // A digit per byte: F0 plus the digit, the last D0 plus the digit when negative.
-bool toZoned(const DecimalText& number, std::int32_t decimals, char* destination, std::uint32_t digits);
+bool textToZoned(const WorkingText& text, char* destination, std::uint32_t digits);
+// Nibble by nibble, then the sign nibble, F or D. A text of one digit less than the bytes hold leaves the first nibble
+// 0.
+bool textToPacked(const WorkingText& text, char* destination, std::uint32_t bytes);
 
-// `digits` nibbles before the sign nibble, F or D; nibbles in front of them are 0.
-bool toPacked(const DecimalText& number, std::int32_t decimals, char* destination, std::uint32_t bytes,
-              std::uint32_t digits);
+// A binary number being read, character by character.
+class BinaryNumber {
+public:
+    // At most `width` characters count, those in front of the first digit other than 0 apart from a "-" never.
+    explicit BinaryNumber(std::uint32_t width) : left_(width) {}
+
+    // False for a character that has no place in a number, or a digit too many for any binary field. Decimal points,
+    // thousands separators and blanks are skipped wherever they stand.
+    bool put(char character);
+
+    // The low `bytes` bytes of the value, 1 to 8, high byte first. False when the value needs more than 32 bits, or 64
+    // for a field of more than 4 bytes.
+    bool store(char* destination, std::uint32_t bytes) const;
+
+private:
+    std::uint32_t left_;
+    std::uint64_t magnitude_ = 0;
+    bool negative_ = false;
+    bool digitSeen_ = false;
+};
 
 // Pairs of hexadecimal digits: "40" is a host blank, every other pair the digit of its second character with the zone
-// F. False for a pair that is not hexadecimal or has no decimal digit in the second place.
+// F, whatever its first one is. False for a second character that is no digit.
 bool hexTextToBytes(std::string_view pairs, char* destination);
-
-// For an even index sets byte index / 2 to the value in its high nibble; for an odd one replaces its low nibble.
-void putNibble(char* destination, std::uint8_t value, std::uint32_t index);
 
 }  // namespace record::to_host
