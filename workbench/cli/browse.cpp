@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr std::uint32_t FieldsOfFiles = 2;
-
 std::string_view trimmedEnd(std::string_view text) { return text.substr(0, text.find_last_not_of(" \t\r") + 1); }
 
 // The parts of a name, which for a field is a text of several: name TAB description LF type and length.
@@ -44,7 +42,7 @@ void printEntry(const HostCatalogEntry& entry, const PcText& pcText, bool fields
 Tally browse(const TransferLibrary& library, const CommandLine& line, const PcText& pcText, const TerminalUser& user,
              ZhstSession session) {
     HostCatalogEntry entry{};
-    entry.entryKind = line.fields ? FieldsOfFiles : 0;
+    entry.entryKind = line.fields ? CatalogFieldListing : 0;
     entry.fileCount = line.fileCount;
     std::uint64_t entries = 0;
     std::uint32_t result = library.firstHostFilename(session, pcText.toPc(line.filter).c_str(), &entry);

@@ -8,12 +8,19 @@
 namespace {
 
 namespace setting = zhst::setting;
+namespace value = zhst::value;
 
 using Choices = std::vector<std::pair<std::string, std::int32_t>>;
 
-const Choices fileTypes = {{"text", 0}, {"basic", 1}, {"csv", 2}, {"random", 3}, {"none", 4}, {"tab", 5}, {"dif", 6}};
-const Choices outputs = {{"file", 1}, {"screen", 0}, {"spreadsheet", 3}};
-const Choices createModes = {{"file", 0}, {"member", 1}, {"replace", 2}};
+const Choices fileTypes = {
+#define PC_FILE_TYPE(number, name, shortName, command) {shortName, number},
+    ZHST_PC_FILE_TYPES(PC_FILE_TYPE)
+#undef PC_FILE_TYPE
+};
+const Choices outputs = {
+    {"file", value::ToPcFile}, {"screen", value::ToDisplay}, {"spreadsheet", value::ToSpreadsheet}};
+const Choices createModes = {
+    {"file", value::CreateFile}, {"member", value::CreateMember}, {"replace", value::ReplaceMember}};
 const Choices authorities = {{"all", 0}, {"none", 1}, {"read", 2}, {"readwrite", 3}};
 
 // Options that stand for a setting: what is given on the command line, and only that, becomes an assignment.
@@ -153,8 +160,8 @@ void Parser::addDemo() {
     CLI::App* app = command("demo", Command::Demo, "Show the demonstration table, without a host");
     app->parse_complete_callback([this] {
         line_.command = Command::Demo;
-        line_.options.push_back({setting::ConnectionType, 3});
-        line_.options.push_back({setting::ReceiveOutput, 0});
+        line_.options.push_back({setting::ConnectionType, value::DemonstrationConnection});
+        line_.options.push_back({setting::ReceiveOutput, value::ToDisplay});
     });
     addCommon(app);
 }

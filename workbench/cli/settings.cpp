@@ -12,6 +12,7 @@
 namespace {
 
 namespace setting = zhst::setting;
+namespace value = zhst::value;
 
 std::string_view trimmed(std::string_view text) {
     constexpr std::string_view blanks = " \t\r";
@@ -95,15 +96,15 @@ std::vector<Assignment> defaultSettings() {
         {setting::ConnectionParam250, "sample"},
         {setting::ConnectionParam512, "sample"},
         {setting::TransportType, 9},
-        {setting::RouterKind, 1},
+        {setting::RouterKind, value::RouterIbm},
         {setting::HostCodePage, 37},
         {setting::PcFileName, "-"},
-        {setting::SendFileType, 2},
-        {setting::ReceiveFileType, 2},
-        {setting::ReceiveOutput, 1},
-        {setting::ExistingFileAction, 1},
+        {setting::SendFileType, ZhstCommaSeparated},
+        {setting::ReceiveFileType, ZhstCommaSeparated},
+        {setting::ReceiveOutput, value::ToPcFile},
+        {setting::ExistingFileAction, value::Replace},
         // A file that is there is only replaced after a question; the other modes go on without one.
-        {setting::CreateMode, 2},
+        {setting::CreateMode, value::ReplaceMember},
         {setting::RecordLength, 92},  // a source line of 80 characters with its sequence number and date
         {setting::StartRecord, 1},
         {setting::IgnoreDecimalErrors, 0},   // a damaged number is told, not replaced

@@ -7,12 +7,7 @@
 namespace {
 
 namespace setting = zhst::setting;
-
-constexpr std::int32_t ToScreen = 0;
-constexpr std::int32_t ToFile = 1;
-constexpr std::int32_t ToSpreadsheet = 3;
-constexpr std::int32_t Dif = 6;
-constexpr std::int32_t Demonstration = 3;
+namespace value = zhst::value;
 
 // The amounts of one transfer.
 class Amounts {
@@ -43,7 +38,7 @@ public:
     std::string target() const {
         const std::string file = text(setting::PcFileName);
         if (sending_) return file + " to " + text(setting::HostFileName);
-        if (!toFile()) return number(setting::ReceiveOutput) == ToScreen ? "the screen" : "no output";
+        if (!toFile()) return number(setting::ReceiveOutput) == value::ToDisplay ? "the screen" : "no output";
         return file == "-" ? "standard output" : file;
     }
 
@@ -52,7 +47,7 @@ private:
     std::string text(std::uint32_t id) const { return pcText_.toTerminal(emulator::text(session_, id)); }
     bool toFile() const {
         const std::int32_t output = number(setting::ReceiveOutput);
-        return output == ToFile || output == ToSpreadsheet;
+        return output == value::ToPcFile || output == value::ToSpreadsheet;
     }
 
     std::optional<std::uint64_t> bytes() const {
@@ -74,7 +69,8 @@ private:
 
     // The heading of a DIF file passes unseen.
     std::optional<std::uint64_t> streamedBytes() const {
-        const bool dif = number(setting::ReceiveFileType) == Dif || number(setting::ReceiveOutput) == ToSpreadsheet;
+        const bool dif =
+            number(setting::ReceiveFileType) == ZhstDif || number(setting::ReceiveOutput) == value::ToSpreadsheet;
         return dif ? std::nullopt : std::optional(user_.watch().bytesWritten());
     }
 
@@ -105,7 +101,7 @@ Tally transferTally(const TerminalUser& user, const PcText& pcText, ZhstSession 
     const Amounts amounts(user, pcText, session, sending);
     switch (user.watch().ending()) {
         case Ending::Complete:
-            if (emulator::number(session, setting::ConnectionType) == Demonstration) {
+            if (emulator::number(session, setting::ConnectionType) == value::DemonstrationConnection) {
                 return {"complete: " + amounts.records() + " of the demonstration, the screen", ExitComplete};
             }
             return {"complete: " + amounts.all(), ExitComplete};

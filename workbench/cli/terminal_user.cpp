@@ -18,7 +18,6 @@ using console::Stream;
 
 constexpr std::int32_t Confirmed = 10;
 constexpr std::int32_t Declined = 2;
-constexpr std::int32_t AppendToFile = 2;
 
 const char* phaseWords(ZhstProgressCommand command) {
     switch (command) {
@@ -184,7 +183,7 @@ void TerminalUser::progressCreated(std::uint32_t direction, std::uint32_t) {
     sending_ = direction == ZhstToHost;
     bar_ = ProgressBar(barWanted());
     bar_.begin();
-    if (!sending_ && emulator::number(session_, setting::ExistingFileAction) == AppendToFile) {
+    if (!sending_ && emulator::number(session_, setting::ExistingFileAction) == zhst::value::Append) {
         std::error_code none;
         const auto size =
             std::filesystem::file_size(emulator::nativePath(emulator::text(session_, setting::PcFileName)), none);

@@ -3,17 +3,13 @@
 #include <algorithm>
 
 #include "Z7XFRPCS/dialogs.h"
+#include "Z7XFRPCS/provider.h"
+#include "emulator/catalogue.h"
 
 namespace {
 
 // The result record of the monitor store: the function asked for, then the return code, lowest byte first.
 constexpr std::size_t ResultHeader = 13;
-constexpr std::uint8_t GetData = 3;
-constexpr std::uint8_t EndRequest = 4;
-constexpr std::uint8_t PutData = 6;
-constexpr std::uint32_t Success = 0;
-constexpr std::uint32_t Completed = 0x5057;
-constexpr std::uint32_t NoMoreData = 0x1FFF;
 
 std::uint32_t returnCode(std::string_view result) {
     std::uint32_t code = 0;
@@ -21,10 +17,9 @@ std::uint32_t returnCode(std::string_view result) {
     return code;
 }
 
-// The icon of a message box, and the message that a count has found no records.
+// The icon of a message box.
 constexpr std::uint32_t IconMask = 0xF0;
 constexpr std::uint32_t QuestionIcon = 0x20;
-constexpr std::uint32_t NoRecordsMessage = 70416;
 
 }  // namespace
 
@@ -41,12 +36,12 @@ void TransferWatch::storeWritten(std::string_view code, std::string_view value) 
         providerAsked_ = true;
         const auto function = static_cast<std::uint8_t>(value[0]);
         const std::uint32_t result = returnCode(value);
-        const bool accepted = result == Success || result == Completed;
-        if (function == PutData && accepted) ++recordsSent_;
+        const bool accepted = result == TF_SUCCESS || result == TF_COMPLETED;
+        if (function == TF_PUT_DATA && accepted) ++recordsSent_;
         // The library does not judge the end of a request; a host that rolls a send back says so here.
-        if (function == EndRequest && recordsSent_ > 0) endRefused_ = !accepted && result != NoMoreData;
+        if (function == TF_END_REQUEST && recordsSent_ > 0) endRefused_ = !accepted && result != TF_NO_MORE_DATA;
         // Before the data phase the end of data is that of the record count or of the field list.
-        if (function == GetData && result == NoMoreData && dataBegun_) dataEnded_ = true;
+        if (function == TF_GET_DATA && result == TF_NO_MORE_DATA && dataBegun_) dataEnded_ = true;
     }
 }
 
@@ -74,7 +69,7 @@ void TransferWatch::message(const emulator::MessageBox& box) {
         asked_ = true;
         return;
     }
-    if (box.id == NoRecordsMessage) noRecords_ = true;
+    if (box.id == emulator::catalogue::messageId(zhst::text::NoRecords)) noRecords_ = true;
     ++errors_;
 }
 

@@ -26,33 +26,13 @@ void appendNamed(std::string& line, std::uint32_t number, std::string_view name)
 }
 
 void appendByte(std::string& line, unsigned char byte) {
-    static constexpr char Digits[] = "0123456789ABCDEF";
-    switch (byte) {
-        case '\r':
-            line += "\\r";
-            return;
-        case '\n':
-            line += "\\n";
-            return;
-        case '\t':
-            line += "\\t";
-            return;
-        case '\\':
-            line += "\\\\";
-            return;
-        case '"':
-            line += "\\\"";
-            return;
-        default:
-            break;
-    }
-    if (byte >= 0x20 && byte < 0x7F) {
+    static constexpr std::string_view Escaped = "\r\n\t\\\"", Letters = "rnt\\\"", Digits = "0123456789ABCDEF";
+    if (const std::size_t at = Escaped.find(static_cast<char>(byte)); at != std::string_view::npos)
+        line.append("\\").append(1, Letters[at]);
+    else if (byte >= 0x20 && byte < 0x7F)
         line += static_cast<char>(byte);
-        return;
-    }
-    line += "\\x";
-    line += Digits[byte >> 4];
-    line += Digits[byte & 0x0F];
+    else
+        line.append("\\x").append(1, Digits[byte >> 4]).append(1, Digits[byte & 0x0F]);
 }
 
 }  // namespace

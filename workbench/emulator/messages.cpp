@@ -53,28 +53,22 @@ std::string withoutTrailingBlanks(std::string text) {
 }
 
 // What all message boxes are given in front of their inserts.
-struct BoxHead {
-    ZhstWindow owner;
-    std::uint32_t id, flags, helpId;
-};
-
-std::int32_t show(const BoxHead& head, std::span<const Insert> inserts) {
+MessageBox headOf(ZhstWindow owner, std::uint32_t id, std::uint32_t flags, std::uint32_t helpId) {
     MessageBox box;
-    box.id = head.id;
-    box.owner = head.owner;
-    box.flags = head.flags;
-    box.helpId = head.helpId;
+    box.id = id;
+    box.owner = owner;
+    box.flags = flags;
+    box.helpId = helpId;
+    return box;
+}
+
+std::int32_t show(MessageBox box, std::span<const Insert> inserts) {
     for (const Insert& insert : inserts) box.inserts.push_back(insert.shown());
-    box.text = withoutTrailingBlanks(fillInserts(catalogue::findMessage(head.id).text, box.inserts));
+    box.text = withoutTrailingBlanks(fillInserts(catalogue::findMessage(box.id).text, box.inserts));
     return userInterface().showMessage(box);
 }
 
-std::int32_t showReady(const BoxHead& head, bool scrolling, const char* text) {
-    MessageBox box;
-    box.id = head.id;
-    box.owner = head.owner;
-    box.flags = head.flags;
-    box.helpId = head.helpId;
+std::int32_t showReady(MessageBox box, bool scrolling, const char* text) {
     box.scrolling = scrolling;
     box.text = text ? text : "";
     return userInterface().showMessage(box);
@@ -121,14 +115,14 @@ std::uint32_t ZHST_CALL zhstMessageId(std::uint32_t table, std::uint32_t index) 
 std::int32_t ZHST_CALL zhstShowMessage(ZhstSession session, ZhstWindow owner, std::uint32_t id, std::uint32_t flags,
                                        std::uint32_t one, std::uint32_t helpId) {
     const Call call("ShowMessage", session, owner, journalled::Message{id}, flags, one, helpId);
-    return call.result(show({owner, id, flags, helpId}, {}));
+    return call.result(show(headOf(owner, id, flags, helpId), {}));
 }
 
 std::int32_t ZHST_CALL zhstShowMessage1(ZhstSession session, ZhstWindow owner, std::uint32_t id, std::uint32_t flags,
                                         std::uint32_t one, std::uint32_t helpId, const char* insert1) {
     const Insert inserts[] = {textInsert(insert1)};
     const Call call("ShowMessage1", session, owner, journalled::Message{id}, flags, one, helpId, inserts[0]);
-    return call.result(show({owner, id, flags, helpId}, inserts));
+    return call.result(show(headOf(owner, id, flags, helpId), inserts));
 }
 
 std::int32_t ZHST_CALL zhstShowMessage2(ZhstSession session, ZhstWindow owner, std::uint32_t id, std::uint32_t flags,
@@ -138,7 +132,7 @@ std::int32_t ZHST_CALL zhstShowMessage2(ZhstSession session, ZhstWindow owner, s
     const Insert inserts[] = {insertAt(message, 0, insert1), insertAt(message, 1, insert2)};
     const Call call("ShowMessage2", session, owner, journalled::Message{id}, flags, one, helpId, inserts[0],
                     inserts[1]);
-    return call.result(show({owner, id, flags, helpId}, inserts));
+    return call.result(show(headOf(owner, id, flags, helpId), inserts));
 }
 
 std::int32_t ZHST_CALL zhstShowMessage3(ZhstSession session, ZhstWindow owner, std::uint32_t id, std::uint32_t flags,
@@ -149,7 +143,7 @@ std::int32_t ZHST_CALL zhstShowMessage3(ZhstSession session, ZhstWindow owner, s
                               insertAt(message, 2, insert3)};
     const Call call("ShowMessage3", session, owner, journalled::Message{id}, flags, one, helpId, inserts[0], inserts[1],
                     inserts[2]);
-    return call.result(show({owner, id, flags, helpId}, inserts));
+    return call.result(show(headOf(owner, id, flags, helpId), inserts));
 }
 
 std::int32_t ZHST_CALL zhstShowMessageCode(ZhstSession session, ZhstWindow owner, std::uint32_t id, std::uint32_t flags,
@@ -158,20 +152,20 @@ std::int32_t ZHST_CALL zhstShowMessageCode(ZhstSession session, ZhstWindow owner
     const Insert inserts[] = {numberInsert(insert1), textInsert(insert2), textInsert(insert3)};
     const Call call("ShowMessageCode", session, owner, journalled::Message{id}, flags, one, helpId, inserts[0],
                     inserts[1], inserts[2]);
-    return call.result(show({owner, id, flags, helpId}, inserts));
+    return call.result(show(headOf(owner, id, flags, helpId), inserts));
 }
 
 std::int32_t ZHST_CALL zhstShowMessageText(ZhstSession session, ZhstWindow owner, std::uint32_t flags,
                                            std::uint32_t one, std::uint32_t helpId, const char* text) {
     const Call call("ShowMessageText", session, owner, flags, one, helpId, text);
-    return call.result(showReady({owner, 0, flags, helpId}, false, text));
+    return call.result(showReady(headOf(owner, 0, flags, helpId), false, text));
 }
 
 std::int32_t ZHST_CALL zhstMessageBox_scroll(ZhstSession session, ZhstWindow owner, std::uint32_t id,
                                              std::uint32_t flags, std::uint32_t one, std::uint32_t helpId,
                                              const char* text) {
     const Call call("zhstMessageBox_scroll", session, owner, journalled::Message{id}, flags, one, helpId, text);
-    return call.result(showReady({owner, id, flags, helpId}, true, text));
+    return call.result(showReady(headOf(owner, id, flags, helpId), true, text));
 }
 
 void ZHST_CALL zhstFormatStringSet(ZhstTextRecord* text, const ZhstTextRecord* const* inserts, std::uint32_t count) {
