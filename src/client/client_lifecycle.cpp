@@ -5,7 +5,7 @@
 namespace client {
 namespace {
 
-constexpr std::uint32_t CleanupSlot = 104;
+constexpr std::uint32_t CleanupSlot = 104;  // the emulator's for file transfer
 constexpr std::uint32_t RequestCapacity = 4096;
 
 ZXFRPCSCLIENT* currentClient = nullptr;
@@ -18,6 +18,7 @@ void registerClient(ZXFRPCSCLIENT* client) {
     currentSession = client->session;
 }
 
+// A text without its block would take no statement and say nothing; where there is no text, its users report that.
 services::Owned<text::TextBuffer> makeRequestText() {
     auto text = services::Owned<text::TextBuffer>::make(RequestCapacity);
     if (text && !text->hasBlock()) text.reset();
@@ -26,6 +27,7 @@ services::Owned<text::TextBuffer> makeRequestText() {
 
 }  // namespace
 
+// Registered before it is complete: the watches that its session sets up may call back at once.
 ZXFRPCSCLIENT* createClient(services::SessionHandle session) {
     auto owned = services::Owned<ZXFRPCSCLIENT>::make(session);
     if (!owned) return nullptr;
@@ -43,6 +45,7 @@ ZXFRPCSCLIENT* createClient(services::SessionHandle session) {
     return client;
 }
 
+// Registered until its session has stopped: what the provider lets in meanwhile finds the client.
 void destroyClient(ZXFRPCSCLIENT* client) {
     if (!client) return;
     client->tfSession.reset();

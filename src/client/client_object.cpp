@@ -24,6 +24,7 @@ bool ZXFRPCSCLIENT::isDemonstration() const {
     return services::GetSetting(settings, zhst::setting::ConnectionType) == zhst::value::DemonstrationConnection;
 }
 
+// A client whose session found no memory when it was made tries again with each transfer and listing.
 bool ZXFRPCSCLIENT::tfStart() {
     if (!tfSession) tfSession = client::makeTransferFunctionSession(session);
     if (tfSession) return tfSession->tfStart();

@@ -35,6 +35,7 @@ struct ConnectionSettings {
           messagesEnabled(services::IsMessageEnabled(settings, 0) != 0),
           transportType(services::GetSetting(settings, id::TransportType)) {}
 
+    // A system name that begins with a period needs no parameter 250; no more of the name is looked at.
     bool isIncomplete() const {
         return system.isEmpty() || (param250.isEmpty() && system.text[0] != '.') || param248.isEmpty() ||
                (param512.isEmpty() && transportType == NamedSystemTransport);

@@ -62,6 +62,7 @@ void addRow(const ZXFRPCSCLIENT& client, std::uint32_t resource) {
     }
 }
 
+// The table takes the place of the progress dialog. Whether the display begins is not asked, unlike in a transfer.
 void showTable(ZXFRPCSCLIENT& client, std::int32_t rowsPerPage) {
     DisplayPages pages(client, rowsPerPage, DisplayPages::Texts::LoadedAnew);
     pages.begin();
@@ -75,6 +76,7 @@ void showTable(ZXFRPCSCLIENT& client, std::int32_t rowsPerPage) {
     pages.end();
 }
 
+// The tick count wraps around; a difference of two does not.
 void wait(std::uint32_t milliseconds) {
     const std::uint32_t start = platform::GetTickCount();
     while (platform::GetTickCount() - start < milliseconds) platform::Sleep(NapMilliseconds);
@@ -85,6 +87,7 @@ std::uint32_t totalOf(const ZXFRPCSCLIENT& client, Direction direction) {
     return direction == Direction::FromHost ? SimulatedRecords : client.fileObject->size();
 }
 
+// The steps are seen because each takes half a second; a cancel is seen at the end of the one in which it comes.
 void simulateProgress(const ZXFRPCSCLIENT& client, Direction direction) {
     const settings::TransferSettings& settings = *client.transferSettings;
     progress::showFileType(client, direction == Direction::FromHost ? settings.receiveFileType : settings.sendFileType);
@@ -93,6 +96,7 @@ void simulateProgress(const ZXFRPCSCLIENT& client, Direction direction) {
     progress::command(client, ProgressCommand::DataBegins);
     for (std::uint32_t step = 1; step <= SimulatedSteps; ++step) {
         wait(StepMilliseconds);
+        // Divided first, so that 1001 bytes end at 1000.
         services::SetSetting(client.settings, id::ProgressCount,
                              static_cast<std::int32_t>(total / SimulatedSteps * step));
         // The application's pump even while the dialog is on display, unlike pumpMessages.

@@ -24,20 +24,20 @@ void ZHST_CALL pcsTransferFile(ZXFRPCSCLIENT* client, const char* settingsFile, 
 
 std::uint32_t ZHST_CALL pcsGetFirstHostFilename(std::uint32_t session, const char* pattern, HostCatalogEntry* entry) {
     ZXFRPCSCLIENT* client = client::findClient(session);
-    return client && entry ? request::getFirstHostFilename(*client, pattern ? pattern : "", entry)
-                           : std::uint32_t{CatalogFailure};
+    return client ? request::getFirstHostFilename(*client, pattern, entry) : std::uint32_t{CatalogFailure};
 }
 
 std::uint32_t ZHST_CALL pcsGetNextHostFilename(std::uint32_t session, HostCatalogEntry* entry) {
     ZXFRPCSCLIENT* client = client::findClient(session);
-    return client && entry ? request::getNextHostFilename(*client, entry) : std::uint32_t{CatalogFailure};
+    return client ? request::getNextHostFilename(*client, entry) : std::uint32_t{CatalogFailure};
 }
 
+// What these states are is the emulator's affair; the client has no part in the answer.
 std::uint32_t ZHST_CALL pcsAreXferCmdsEnabled(ZXFRPCSCLIENT*, std::uint32_t stateCode) {
     return stateCode == 74 || stateCode == 75 || stateCode == 168;
 }
 
-// Of the context no more is asked than its first two words, which is what the display knows of a client.
+// The two notifications touch nothing of a client but the first word and the second.
 std::uint32_t ZHST_CALL TextDisplayMoreNotification(void* context) {
     if (context) static_cast<std::uint32_t*>(context)[0] = 1;
     return 1;

@@ -23,7 +23,7 @@ constexpr std::uint32_t SettingsFileMode = 3;
 constexpr std::uint32_t TextArgument = 32;
 constexpr std::uint32_t WorkingDirectorySize = 261;
 
-constexpr std::uint32_t PcFileOpenFlags = 11;
+constexpr std::uint32_t PcFileOpenFlags = 11;  // of the emulator's file object, for a file that is transferred
 constexpr char TraceFileName[] = "XFERLOG.TXT";
 
 bool runSettingsFile(const ZXFRPCSCLIENT& client, const char* settingsFile) {
@@ -40,6 +40,7 @@ bool runSettingsFile(const ZXFRPCSCLIENT& client, const char* settingsFile) {
     return true;
 }
 
+// A box that belongs to anything but the popup on top would open behind it.
 services::WindowHandle chooseOwner(const ZXFRPCSCLIENT& client, services::WindowHandle wanted) {
     if (platform::IsWindow(wanted)) return wanted;
     const auto fallback =
@@ -149,6 +150,7 @@ void runActiveTransfer(ZXFRPCSCLIENT& client, Direction direction, services::Win
     client.ownerWindow = chooseOwner(client, ownerWindow);
     readFileNames(client);
     if (asksForTrace(client.pcFileName)) client.tfSession->tfTraceOn(TraceFileName);
+    // Forgets a cancel that came in while the connection dialog was up or the provider was bound.
     client.cancelRequested = 0;
     if (makeSnapshotAndContext(client)) runDriver(client, direction);
     client.transferSettings.reset();

@@ -33,6 +33,7 @@ std::string_view takeLine(std::string_view& text) {
     return line;
 }
 
+// A code is any number as people write one: 1, 01 and 0x1 are the same.
 std::int32_t valueOfCode(FdfCodeTable table, std::string_view code) {
     const auto number = text::parseUnsigned(code, LargestCode);
     return number ? fdfCodeToValue(table, *number) : NoCode;
@@ -115,6 +116,7 @@ bool Reader::readFileType(std::string_view line) {
     const std::string_view code = line.substr(blank + 1);
     const std::int32_t value = valueOfCode(FdfFileTypes, code.substr(0, code.find(' ')));
     if (value == NoCode) return fail(message::DescriptionFileType);
+    // At once, as everything here: what the lines in front of a failure say stays.
     context_.transferSettings->sendFileType = value;
     fileTypeSeen_ = true;
     return true;

@@ -46,6 +46,7 @@ void formatLength(const record::HostField& field, bool isText, services::Setting
         std::snprintf(text, sizeof(text), "%d", static_cast<int>(field.length()));
         return;
     }
+    // Read live, and for every number: the snapshot does not have it.
     const int extra = services::GetSetting(settings, id::FdfNumericLengthMode) == 0 ? 1 : 0;
     const int digits = static_cast<int>(field.precision()) + extra;
     if (field.decimals() > 0)

@@ -180,7 +180,7 @@ bool ReceiveRun::sendOptions() {
     command(ProgressCommand::OptionsRequest);
     std::string_view options;
     if (!request::composeOptionsClause(client_, options) ||
-        !request::exchangeStatement(client_, options, request::Direction::Receive))
+        !request::exchangeStatement(client_, options, services::Direction::FromHost))
         return false;
     command(ProgressCommand::ProcessMessages);
     return goesOn();
@@ -192,7 +192,7 @@ bool ReceiveRun::sendQuery() {
     command(ProgressCommand::TransferRequest);
     std::string_view statement;
     return request::composeSelectStatement(client_, statement) &&
-           request::exchangeStatement(client_, statement, request::Direction::Receive) && goesOn();
+           request::exchangeStatement(client_, statement, services::Direction::FromHost) && goesOn();
 }
 
 bool ReceiveRun::readFields() {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
-#include "Z7XFRPCS/settings.h"
 #include "client/connection_check.h"
+#include "messages/own_sentences.h"
 #include "request/catalog_entry.h"
 #include "request/demo_catalog.h"
 #include "request/statement_exchange.h"
@@ -14,15 +14,15 @@
 namespace request {
 namespace {
 
-constexpr char NotConverted[] = "An entry of the host's list cannot be converted to the code page of the PC.";
-
 void endRequest(ZXFRPCSCLIENT& client) { client.tfSession->tfEndRequest(); }
 
-// The entry of an answer that is no record; the request ends with it.
+// The entry of an answer that is no record; the request ends with it. At the end of the data the provider has ended it
+// already.
 std::uint32_t finishListing(ZXFRPCSCLIENT& client, HostCatalogEntry& entry) {
     const std::uint16_t code = client.lastResult.returnCode;
     if (code != TF_NO_MORE_DATA && code != TF_COMPLETED) checkLastResult(client, ListingCatalog);
     entry.status = code;
+    // A first call that finds nothing shows what was looked for.
     if (client.browseFilter) {
         text::copyCut(client.browseFilter, entry.name, sizeof(entry.name));
         entry.description[0] = '\0';
@@ -34,21 +34,23 @@ std::uint32_t finishListing(ZXFRPCSCLIENT& client, HostCatalogEntry& entry) {
     return code == TF_COMPLETED ? CatalogCompleted : CatalogFailure;
 }
 
+// The record's length is the provider's word; no more is taken than the buffer holds.
 std::uint32_t fillHostCatalogEntry(ZXFRPCSCLIENT& client, HostCatalogEntry& entry) {
     if (client.lastResult.returnCode != TF_SUCCESS) return finishListing(client, entry);
     const char* buffer = client.tfSession->dataBuffer();
     if (!buffer) return CatalogFailure;
     const std::string_view record(buffer, std::min(client.lastResult.dataLength, provider::BufferSize));
-    const bool formatted = entry.entryKind == FieldListing ? formatColumnEntry(client, record, entry)
-                                                           : formatFileEntry(client, record, entry);
+    const bool formatted = entry.entryKind == CatalogFieldListing ? formatColumnEntry(client, record, entry)
+                                                                  : formatFileEntry(client, record, entry);
     entry.status = TF_SUCCESS;
     if (formatted) return CatalogEntryDelivered;
-    messages::showOwnText(client.messageOwner(), NotConverted);
+    messages::showOwnText(client.messageOwner(), messages::sentence::EntryNotConverted);
     entry.name[0] = '\0';
     endRequest(client);
     return CatalogFailure;
 }
 
+// The buffer is cleared first: a record shorter than its layout has zeros where it ends.
 bool fetchRecord(ZXFRPCSCLIENT& client) {
     char* buffer = requestBuffer(client);
     if (!buffer) return false;
@@ -58,18 +60,16 @@ bool fetchRecord(ZXFRPCSCLIENT& client) {
     return true;
 }
 
-// Sends the request of a listing; false after a failure, which has been reported.
+// Sends the request of a listing; false after a failure, which has been reported. The user waits in the emulator's own
+// list: no progress dialog is kept alive.
 bool sendExtract(ZXFRPCSCLIENT& client, std::string_view filter, std::uint32_t entryKind) {
     char* buffer = requestBuffer(client);
     if (!buffer) return false;
     StatementWriter statement(buffer);
-    statement.append(entryKind == FieldListing ? "EXTRACT COLUMNS" : "EXTRACT TABLES");
-    if (!filter.empty()) {
-        statement.append(" ");
-        statement.append(filter);
-    }
+    statement.append(entryKind == CatalogFieldListing ? "EXTRACT COLUMNS" : "EXTRACT TABLES");
+    if (!filter.empty()) statement.append({" ", filter});
     if (!statement.fits()) return refuseLongStatement(client);
-    sendStatement(client, statement.text(), Direction::Receive, 0);
+    sendStatement(client, statement.text(), services::Direction::FromHost, 0);
     return true;
 }
 
@@ -77,6 +77,7 @@ std::uint32_t listFirst(ZXFRPCSCLIENT& client, HostCatalogEntry& entry, const ch
     if (!client::checkConnection(client) || !client.tfStart() || !sendExtract(client, filter, entry.entryKind))
         return CatalogFailure;
     client.browseFilter = *filter ? filter : nullptr;
+    // This provider says with the request that there is nothing to list.
     if (client.tfSession->tfIsAs400Mode() && client.lastResult.returnCode == TF_NO_MORE_DATA)
         return fillHostCatalogEntry(client, entry);
     const std::uint16_t answer = client.lastResult.returnCode;
@@ -90,6 +91,8 @@ std::uint32_t listFirst(ZXFRPCSCLIENT& client, HostCatalogEntry& entry, const ch
 
 }  // namespace
 
+// Turned away while a transfer runs or the provider works on a call: a listing would write over what stands in the
+// shared buffer.
 std::uint32_t getFirstHostFilename(ZXFRPCSCLIENT& client, const char* filter, HostCatalogEntry* entry) {
     if (!entry || client.isBusy()) return CatalogFailure;
     if (!filter) filter = "";

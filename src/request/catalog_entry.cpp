@@ -3,20 +3,18 @@
 #include <algorithm>
 #include <charconv>
 
+#include "bytes/byte_order.h"
 #include "text/double_byte.h"
 
 namespace request {
 namespace {
 
-constexpr std::uint32_t TextTable = 7;
-constexpr std::uint32_t LengthLabelText = 443;
-constexpr std::uint32_t TypeLabelText = 444;
 constexpr std::uint32_t LabelSize = 40;
 constexpr std::uint32_t TypeBytes = 5;
 constexpr std::uint32_t ColumnDescription = 50;
 constexpr std::uint32_t LongestColumnRecord = 75;
 
-// Bytes of the name in a record of a library, file or member.
+// Bytes of the name in a record of a library, file or member: its length is all that tells the lists apart.
 std::size_t nameBytes(std::size_t recordLength) {
     switch (recordLength) {
         case 60:
@@ -68,9 +66,9 @@ public:
         if (text.converts()) append(text.view());
         return text.converts();
     }
-    void appendLabel(const ZXFRPCSCLIENT& client, std::uint32_t index) {
+    void appendLabel(const ZXFRPCSCLIENT& client, zhst::CatalogueText text) {
         char label[LabelSize] = {};
-        services::LoadMessageText(client.session, TextTable, index, label, LabelSize);
+        messages::loadText(client.session, text, label);
         append({label, LabelSize});
     }
     void trimEnd() {
@@ -85,16 +83,15 @@ private:
 
 // A field's record, with zeros for what it is short of.
 struct ColumnRecord {
+    // The names of a list over several files are longer by their qualifier, "t1."; the length stands one byte further
+    // from the type than it does behind a plain name.
     ColumnRecord(std::string_view record, std::int32_t fileCount)
         : nameWidth(fileCount <= 1 ? 10 : 13), lengthAt(fileCount <= 1 ? 15 : 19) {
         std::copy_n(record.data(), std::min<std::size_t>(record.size(), LongestColumnRecord), bytes);
     }
     std::string_view name() const { return {bytes, nameWidth}; }
     std::string_view type() const { return {bytes + nameWidth, TypeBytes}; }
-    std::uint32_t length() const {
-        return static_cast<std::uint32_t>(static_cast<std::uint8_t>(bytes[lengthAt]) << 8 |
-                                          static_cast<std::uint8_t>(bytes[lengthAt + 1]));
-    }
+    std::uint32_t length() const { return bytes::highFirst16(bytes + lengthAt); }
     std::string_view description() const { return {bytes + lengthAt + 6, ColumnDescription}; }
 
     std::uint32_t nameWidth;
@@ -125,13 +122,14 @@ bool formatColumnEntry(const ZXFRPCSCLIENT& client, std::string_view record, Hos
     if (!name.appendHostText(client, column.description())) return false;
     name.trimEnd();
     name.append("\n");
-    name.appendLabel(client, TypeLabelText);
+    name.appendLabel(client, zhst::text::TypeLabel);
+    // The AS/400 client hands the type over in the PC's characters.
     if (client.tfSession->tfIsAs400Mode())
         name.append(column.type());
     else if (!name.appendHostText(client, column.type()))
         return false;
     name.append("   ");
-    name.appendLabel(client, LengthLabelText);
+    name.appendLabel(client, zhst::text::LengthLabel);
     char digits[8];
     const auto end = std::to_chars(digits, digits + sizeof(digits), column.length()).ptr;
     name.append({digits, static_cast<std::size_t>(end - digits)});

@@ -7,9 +7,6 @@
 
 namespace request {
 
-// Kind of a listing, set by the caller in the entry.
-inline constexpr std::uint32_t FieldListing = 2;
-
 // Both take a catalogue record of any length. False when its text cannot be converted from the host's code page; the
 // entry then has what was converted before.
 

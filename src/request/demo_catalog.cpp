@@ -8,30 +8,33 @@
 namespace request {
 namespace {
 
-constexpr std::uint32_t TextTable = 7;
+namespace sample = zhst::text;
+
 constexpr std::uint32_t DemonstrationFlag = 1;
 constexpr std::size_t LibraryName = 10;
 constexpr std::uint32_t ListLength = 3;
 constexpr std::uint32_t FieldsPerFile = 6;
 
 // Sample texts of the three entries of a list, and of the six fields of a file.
-using SampleTexts = std::uint32_t[ListLength];
-constexpr SampleTexts LibraryTexts = {446, 454, 455};
-constexpr SampleTexts FileTexts = {447, 456, 457};
-constexpr SampleTexts MemberTexts = {448, 458, 459};
-constexpr std::uint32_t FieldTexts[FieldsPerFile] = {445, 449, 450, 451, 452, 453};
+constexpr zhst::CatalogueText LibraryTexts[ListLength] = {sample::DemoLibrary1, sample::DemoLibrary2,
+                                                          sample::DemoLibrary3};
+constexpr zhst::CatalogueText FileTexts[ListLength] = {sample::DemoFile1, sample::DemoFile2, sample::DemoFile3};
+constexpr zhst::CatalogueText MemberTexts[ListLength] = {sample::DemoMember1, sample::DemoMember2, sample::DemoMember3};
+constexpr zhst::CatalogueText FieldTexts[FieldsPerFile] = {sample::DemoField1, sample::DemoField2, sample::DemoField3,
+                                                           sample::DemoField4, sample::DemoField5, sample::DemoField6};
 
-bool isFieldList(const HostCatalogEntry& entry) { return entry.entryKind == FieldListing; }
+bool isFieldList(const HostCatalogEntry& entry) { return entry.entryKind == CatalogFieldListing; }
 
 std::uint32_t entriesOf(const HostCatalogEntry& entry) {
     if (!isFieldList(entry)) return ListLength;
     return entry.fileCount >= 2 ? 2 * FieldsPerFile : FieldsPerFile;
 }
 
-void setName(const ZXFRPCSCLIENT& client, HostCatalogEntry& entry, std::string_view start, std::uint32_t text) {
+// The sample text is loaded into the room that `start` leaves.
+void setName(const ZXFRPCSCLIENT& client, HostCatalogEntry& entry, std::string_view start, zhst::CatalogueText place) {
     text::copyCut(start, entry.name, sizeof(entry.name));
     const auto length = static_cast<std::uint32_t>(std::strlen(entry.name));
-    services::LoadMessageText(client.session, TextTable, text, entry.name + length,
+    services::LoadMessageText(client.session, place.table, place.index, entry.name + length,
                               static_cast<std::uint32_t>(sizeof(entry.name)) - length);
 }
 
@@ -53,6 +56,7 @@ std::uint32_t nameFile(const ZXFRPCSCLIENT& client, std::string_view filter, Hos
         text::copyCut("/", library + std::strlen(library), 2);
         setName(client, entry, library, FileTexts[client.demoIndex]);
     } else if (client.demoIndex == 0 && text::findCharacter(filter, '(') != std::string_view::npos) {
+        // A member has nothing below it. Only the first call says so.
         text::copyCut(filter, entry.name, sizeof(entry.name));
         return CatalogEnd;
     } else {

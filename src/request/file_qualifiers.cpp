@@ -9,9 +9,10 @@
 namespace request {
 namespace {
 
-constexpr std::size_t MaximumName = 1024;
+constexpr std::size_t MaximumName = 1024;  // the longest host file list has no more
 
-// Takes the next element off the list; its file, or an empty text at the end of the list.
+// Takes the next element off the list; its file, or an empty text at the end of the list. People put a blank behind
+// their commas: any run of the two separates, also at the start of the list, so that the N-th file keeps its number.
 std::string_view takeElement(std::string_view& rest) {
     while (!rest.empty()) {
         rest.remove_prefix(std::min(rest.find_first_not_of(" ,"), rest.size()));
@@ -42,6 +43,7 @@ std::uint32_t qualifierNumber(std::string_view text, std::size_t& length) {
     return number;
 }
 
+// In capital letters, as the host has its names, whatever the user typed.
 bool appendUpper(text::TextBuffer& text, std::string_view name) {
     char upper[MaximumName + 1];
     text::copyCut(name, upper, sizeof(upper));
@@ -60,7 +62,8 @@ std::string_view fileOfElement(std::string_view hostFiles, std::uint32_t number)
     return element;
 }
 
-// One pass over the old text does for every number and both cases of the letter: no two qualifiers can overlap.
+// One pass over the old text does for every number and both cases of the letter: no two qualifiers can overlap, and a
+// name that went in ("PART2.") is not taken for one. A number beyond the list stays as it is.
 Replacement replaceQualifiers(text::TextBuffer& text, std::uint32_t start, std::string_view hostFiles) {
     const std::string_view old = text.view().substr(std::min(start, text.length()));
     text::TextBuffer replaced;
@@ -78,6 +81,7 @@ Replacement replaceQualifiers(text::TextBuffer& text, std::uint32_t start, std::
     }
     if (copied == 0) return Replacement::Replaced;
     if (!replaced.append(old.substr(copied))) return Replacement::NoMemory;
+    // Asked before the text is touched: one that has lost its qualifiers' part must not be sent.
     const std::uint32_t capacity = text.record()->capacity;
     if (capacity != 0 && start + replaced.length() >= capacity) return Replacement::DoesNotFit;
     text.keepFirst(start);

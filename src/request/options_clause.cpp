@@ -12,7 +12,8 @@ namespace {
 constexpr std::string_view Prefix = "OPTIONS ";
 constexpr std::string_view Default = "DFT";
 
-// Keywords by setting value; every value beyond a table's end is the default.
+// Keywords by setting value. Every value beyond a table's end is the default, and so are those within that have no
+// keyword of their own.
 constexpr std::string_view timeFormats[] = {"DDS", Default, "EUR", "HMS", "ISO", "JIS", "USA"};
 constexpr std::string_view timeSeparators[] = {"' '", "':'", "','", Default, Default, "NUL", "'.'"};
 constexpr std::string_view dateFormats[] = {"DDS", Default, "DMY", "EUR", "ISO", "JIS", "JUL", "MDY", "USA", "YMD"};
@@ -24,20 +25,13 @@ std::string_view keyword(const std::string_view (&table)[Size], std::int32_t val
 }
 
 void appendOption(StatementWriter& writer, std::string_view name, std::string_view value) {
-    writer.append(name);
-    writer.append("(");
-    writer.append(value);
-    writer.append(") ");
+    writer.append({name, "(", value, ") "});
 }
 
 void appendSortSequence(StatementWriter& writer, std::string_view sequence) {
     if (sequence.empty() || sequence == "*JOB") return;
     const std::string_view quote = sequence[0] == '*' ? "" : "'";
-    writer.append("SRTSEQ(");
-    writer.append(quote);
-    writer.append(sequence);
-    writer.append(quote);
-    writer.append(") ");
+    writer.append({"SRTSEQ(", quote, sequence, quote, ") "});
 }
 
 std::string_view composeText(char* buffer, const settings::TransferSettings& options) {
@@ -52,6 +46,7 @@ std::string_view composeText(char* buffer, const settings::TransferSettings& opt
     return writer.text();
 }
 
+// *HEX is none here, although the text form names it: to compare bytes takes no sequence.
 enum SortSequenceKind : char { None = 0, SharedWeights = 1, UniqueWeights = 2, Other = 3 };
 
 SortSequenceKind sortSequenceKind(std::string_view sequence) {
@@ -61,6 +56,7 @@ SortSequenceKind sortSequenceKind(std::string_view sequence) {
     return Other;
 }
 
+// In the order of the text form, which is not that of the settings' numbers; each value as it is, cut to a byte.
 std::string_view composeBlock(char* buffer, const settings::TransferSettings& options) {
     const std::string_view sequence = options.sortSequence;
     const SortSequenceKind kind = sortSequenceKind(sequence);
@@ -79,6 +75,8 @@ std::string_view composeBlock(char* buffer, const settings::TransferSettings& op
 
 }  // namespace
 
+// The block stands whole in the buffer, but the length that goes with it ends at its first zero, as for a text. It
+// never reaches beyond the block: the bytes of an older request stand there.
 bool composeOptionsClause(ZXFRPCSCLIENT& client, std::string_view& request) {
     char* buffer = requestBuffer(client);
     if (!buffer) return false;

@@ -1,5 +1,6 @@
 #include "request/query_clauses.h"
 
+#include "messages/own_sentences.h"
 #include "request/file_qualifiers.h"
 #include "request/statement_exchange.h"
 #include "text/double_byte.h"
@@ -7,12 +8,11 @@
 namespace request {
 namespace {
 
-constexpr char NoClauseSource[] = "This session offers no clauses for a transfer from the host.";
-
 // The user's clauses, trimmed where the request wants them so.
 struct Clauses {
     text::TextBuffer selection, join, groupBy, having, orderBy;
 
+    // All but the select list, which the snapshot has.
     void fetch(const ZXFRPCSCLIENT& client, ZhstGetTransferClauses entry) {
         entry(client.session, nullptr, selection.record(), orderBy.record(), groupBy.record(), having.record(),
               join.record());
@@ -23,8 +23,9 @@ struct Clauses {
     }
 };
 
-// The join condition goes as it is; of blanks only it counts as none. Each append carries keyword and text together, so
-// that what does not fit leaves nothing behind.
+// The join condition goes as it is, its blanks at the end too; of blanks only it counts as none. In front of a join the
+// blank of the file list goes, so that only a selection alone has two in front of its "where". Each append carries
+// keyword and text together, so that what does not fit leaves nothing behind.
 void appendWhere(text::TextBuffer& request, const Clauses& clauses) {
     const std::string_view selection = clauses.selection.view();
     const std::string_view join = clauses.join.view();
@@ -48,7 +49,7 @@ void appendGrouping(text::TextBuffer& request, const Clauses& clauses) {
 }  // namespace
 
 bool applyFileQualifiers(ZXFRPCSCLIENT& client, text::TextBuffer& text, std::uint32_t start) {
-    if (!client.tfSession || !client.tfSession->tfIsAs400Mode()) return true;
+    if (!client.tfSession->tfIsAs400Mode()) return true;
     switch (replaceQualifiers(text, start, client.hostFileName)) {
         case Replacement::Replaced:
             return true;
@@ -60,14 +61,16 @@ bool applyFileQualifiers(ZXFRPCSCLIENT& client, text::TextBuffer& text, std::uin
     }
 }
 
+// Only what this call appends is searched for qualifiers: a name that an earlier call put in may look like one.
 bool composeQueryClauses(ZXFRPCSCLIENT& client, bool stopAfterWhere, bool groupingOnly) {
     if (!client.requestText) {
         messages::show(client.dialogOwner(), zhst::message::OutOfMemory);
         return false;
     }
     const auto entry = client.sessionServices ? client.sessionServices->getTransferClauses() : nullptr;
+    // Without the user's conditions the transfer would take every record.
     if (!entry) {
-        messages::showOwnText(client.dialogOwner(), NoClauseSource, client.progressDialog);
+        messages::showOwnText(client.dialogOwner(), messages::sentence::NoClauseSource, client.progressDialog);
         return false;
     }
     text::TextBuffer& request = *client.requestText;

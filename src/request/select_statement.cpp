@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "Z7XFRPCS/settings.h"
+#include "bytes/byte_order.h"
+#include "messages/own_sentences.h"
 #include "provider/transports.h"
 #include "request/query_clauses.h"
 #include "request/statement_exchange.h"
@@ -13,14 +15,9 @@ namespace request {
 namespace {
 
 constexpr std::int32_t QueryFailed = -1;
-constexpr char BadRecordCount[] = "The host answered the question for the number of records with a negative number.";
+constexpr std::uint32_t CountBytes = 4;
 
-std::int32_t bigEndian(const char* bytes) {
-    std::uint32_t value = 0;
-    for (int at = 0; at < 4; ++at) value = value << 8 | static_cast<std::uint8_t>(bytes[at]);
-    return static_cast<std::int32_t>(value);
-}
-
+// Of the clauses composed so far, which have no grouping parts yet: it is records that are counted, not groups.
 bool composeCountStatement(ZXFRPCSCLIENT& client, std::string_view& statement) {
     char* buffer = requestBuffer(client);
     if (!buffer) return false;
@@ -28,6 +25,7 @@ bool composeCountStatement(ZXFRPCSCLIENT& client, std::string_view& statement) {
     writer.append("SELECT COUNT(*)");
     writer.append(client.requestText->view());
     writer.shortenTo(static_cast<std::uint32_t>(text::trimmedEnd(writer.text()).size()));
+    // By the router of the settings, not of the provider that is bound.
     if (services::GetSetting(client.settings, zhst::setting::RouterKind) == zhst::value::RouterAs400)
         writer.append(" FOR FETCH ONLY");
     statement = writer.text();
@@ -38,7 +36,7 @@ void fetchCountRecord(ZXFRPCSCLIENT& client) {
     client.tfSession->tfRequest(TF_GET_DATA, 0, 0, client.lastResult, nullptr, client.progressDialog);
 }
 
-// Providers that report the end of the count's single record have to be asked for it.
+// Providers that report the end of the count's single record have to be asked for it; the answer is not judged.
 bool reportsEndOfCount(const provider::TransferFunctionSession& tf) {
     return provider::isOwnProviderTransport(tf.transportType()) || tf.tfIsAs400Mode();
 }
@@ -56,7 +54,7 @@ bool composeSelectStatement(ZXFRPCSCLIENT& client, std::string_view& statement) 
         selectList->trimEnd();
     }
     if (!selectList || selectList->isEmpty()) {
-        writer.append("* ");
+        writer.append("* ");  // with the blank of " FROM" there are two
     } else {
         if (!applyFileQualifiers(client, *selectList, 0)) return false;
         writer.append(selectList->view());
@@ -69,19 +67,19 @@ bool composeSelectStatement(ZXFRPCSCLIENT& client, std::string_view& statement) 
 std::int32_t queryRecordCount(ZXFRPCSCLIENT& client) {
     std::string_view statement;
     if (!composeCountStatement(client, statement)) return QueryFailed;
-    sendStatement(client, statement, Direction::Receive, client.progressDialog);
+    sendStatement(client, statement, services::Direction::FromHost, client.progressDialog);
     if (!checkLastResult(client, CountingRecords)) return QueryFailed;
     // The statement stands where the count will; a provider that answers nothing counted nothing.
     provider::TransferFunctionSession& tf = *client.tfSession;
-    std::fill_n(tf.dataBuffer(), 4, '\0');
+    std::fill_n(tf.dataBuffer(), CountBytes, '\0');
     fetchCountRecord(client);
     if (!checkLastResult(client, CountingRecords)) return QueryFailed;
-    const std::int32_t count = bigEndian(tf.dataBuffer());
+    const auto count = static_cast<std::int32_t>(bytes::highFirstSigned(tf.dataBuffer(), CountBytes));
     if (reportsEndOfCount(tf)) fetchCountRecord(client);
     if (!tf.isStarted()) return QueryFailed;  // stopped during that fetch, and told so
     if (tf.tfIsAs400Mode()) tf.tfEndRequest();
     if (count >= 0) return count;
-    messages::showOwnText(client.dialogOwner(), BadRecordCount, client.progressDialog);
+    messages::showOwnText(client.dialogOwner(), messages::sentence::BadRecordCount, client.progressDialog);
     return QueryFailed;
 }
 

@@ -23,6 +23,7 @@ bool appendFields(ZXFRPCSCLIENT& client, text::TextBuffer& statement) {
     return true;
 }
 
+// An unknown authority is none: no file is opened to everybody by mistake.
 std::string_view authority(std::int32_t publicAuthority) {
     switch (publicAuthority) {
         case 0:
@@ -36,7 +37,8 @@ std::string_view authority(std::int32_t publicAuthority) {
     }
 }
 
-// Keyword and value go together, so that what does not fit leaves nothing behind.
+// Keyword and value go together, so that what does not fit leaves nothing behind. Type 1 alone has a record length; all
+// others, data files or not, may take the layout of a reference file.
 void appendLayout(text::TextBuffer& statement, const settings::TransferSettings& settings) {
     if (settings.hostFileType == zhst::value::SourceFile) {
         char digits[NumberText];
@@ -47,6 +49,7 @@ void appendLayout(text::TextBuffer& statement, const settings::TransferSettings&
     }
 }
 
+// Texts go as they were typed; an apostrophe in one is not doubled.
 void appendMember(text::TextBuffer& statement, const settings::TransferSettings& settings) {
     statement.append("CRTMBR(YES) ");
     if (*settings.memberText) statement.append({"MBRTEXT('", settings.memberText, "') "});
@@ -67,6 +70,7 @@ bool composeSendStatement(ZXFRPCSCLIENT& client) {
     settings::TransferSettings& settings = *client.transferSettings;
     if (!client.requestText || !client.requestText->assign("REPLACE ")) return failWithoutMemory(client);
     text::TextBuffer& statement = *client.requestText;
+    // For the rest of the transfer: the records are those that the description names.
     if (settings.useDescriptionFile) settings.hostFileType = zhst::value::DataFile;
     if (settings.hostFileType != zhst::value::DataFile)
         statement.append("*");

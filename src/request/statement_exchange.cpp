@@ -1,19 +1,17 @@
 #include "request/statement_exchange.h"
 
+#include "messages/own_sentences.h"
+
 namespace request {
-namespace {
 
-constexpr char StatementTooLong[] =
-    "The request for the host does not fit: the file list, the fields and the conditions together may have 4095 "
-    "characters. Shorten them and try again.";
+using services::Direction;
 
-}  // namespace
-
+// Published before it is exchanged: a monitor shows what the host is working on.
 void sendStatement(ZXFRPCSCLIENT& client, std::string_view statement, Direction direction,
                    services::ProgressDialogHandle dialog) {
     provider::TransferFunctionSession& tf = *client.tfSession;
     monitor::MonitorStore* store = tf.monitorStore();
-    const bool receive = direction == Direction::Receive;
+    const bool receive = direction == Direction::FromHost;
     if (store) receive ? store->recordReceiveStatement(statement) : store->recordSendStatement(statement);
     tf.tfRequest(TF_SEND_REQUEST, static_cast<std::uint32_t>(statement.size()), 0, client.lastResult,
                  tf.hostSystemDesignation(), dialog);
@@ -35,10 +33,12 @@ bool sessionStands(ZXFRPCSCLIENT& client) {
     return false;
 }
 
+// The session may have been stopped since the last exchange, and its buffer with it: a new one is asked for each time.
 char* requestBuffer(ZXFRPCSCLIENT& client) { return client.tfStart() ? client.tfSession->dataBuffer() : nullptr; }
 
+// Cut, a statement would ask for something else.
 bool refuseLongStatement(const ZXFRPCSCLIENT& client) {
-    messages::showOwnText(client.dialogOwner(), StatementTooLong, client.progressDialog);
+    messages::showOwnText(client.dialogOwner(), messages::sentence::StatementTooLong, client.progressDialog);
     return false;
 }
 

@@ -4,31 +4,30 @@
 #include <string_view>
 
 #include "client/client_object.h"
+#include "services/direction.h"
 
 namespace request {
 
-// Context texts of tfCheckResult: indexes in message table 7 of what was being done.
+// What was being done, for the message about an exchange that failed: indexes of the texts that say so.
 enum Context : std::uint32_t {
     NoContext = 0,
-    SendingTextRecord = 88,
-    SendingRequest = 400,
-    ListingCatalog = 401,
-    SendingRecord = 404,
-    CountingRecords = 405,
+    SendingTextRecord = zhst::text::SendingTextRecord.index,
+    SendingRequest = zhst::text::SendingRequest.index,
+    ListingCatalog = zhst::text::ListingCatalogue.index,
+    SendingRecord = zhst::text::SendingRecord.index,
+    CountingRecords = zhst::text::CountingRecords.index,
 };
-
-enum class Direction { Receive, Send };
 
 // Sends a statement that stands at the start of the shared buffer: publishes it, exchanges it with the system
 // designation into lastResult, touches the direction's list. The catalogue passes no dialog.
-void sendStatement(ZXFRPCSCLIENT& client, std::string_view statement, Direction direction,
+void sendStatement(ZXFRPCSCLIENT& client, std::string_view statement, services::Direction direction,
                    services::ProgressDialogHandle dialog);
 
 // Judges lastResult.
 bool checkLastResult(ZXFRPCSCLIENT& client, Context context);
 
 // sendStatement with the progress dialog, then checkLastResult for a request.
-bool exchangeStatement(ZXFRPCSCLIENT& client, std::string_view statement, Direction direction);
+bool exchangeStatement(ZXFRPCSCLIENT& client, std::string_view statement, services::Direction direction);
 
 // Whether the session still has the request that was opened: a stop that comes in through a message pump takes it away,
 // and what is sent then would go to a new session without it. False after the user has been told.

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <initializer_list>
 #include <string_view>
 
-#include "Z7XFRPCS/provider.h"
 #include "provider/tf_result.h"
 
 namespace request {
@@ -21,6 +21,9 @@ public:
         std::copy(piece.begin(), piece.end(), buffer_ + length_);
         length_ += static_cast<std::uint32_t>(piece.size());
         buffer_[length_] = '\0';
+    }
+    void append(std::initializer_list<std::string_view> pieces) {
+        for (const std::string_view piece : pieces) append(piece);
     }
     void shortenTo(std::uint32_t length) {
         length_ = length;

@@ -93,7 +93,7 @@ void SendRun::run() {
     }
     std::string_view options;
     if (!openPcFile() || !composeRequests(options) || !allocateReadBuffer()) return;
-    if (request::exchangeStatement(client_, options, request::Direction::Send) && sendRequest() && readLayout() &&
+    if (request::exchangeStatement(client_, options, services::Direction::ToHost) && sendRequest() && readLayout() &&
         prepareData() && sendRecords()) {
         showPosition();
         command(ProgressCommand::AllDataTransferred);
@@ -132,7 +132,7 @@ bool SendRun::sendRequest() {
     request::StatementWriter statement(client_.tfSession->dataBuffer());
     statement.append(client_.requestText->view());
     if (!statement.fits()) return request::refuseLongStatement(client_);
-    request::sendStatement(client_, statement.text(), request::Direction::Send, client_.progressDialog);
+    request::sendStatement(client_, statement.text(), services::Direction::ToHost, client_.progressDialog);
     return isAccepted() && goesOn();
 }
 
