@@ -78,6 +78,12 @@ TEST_F(CodePage, TextServicesOfPage43) {
                        umlaut + "\"\r\n1,0\r\n\"" + umlaut + "\"\r\n"),
               std::string::npos)
         << dif;
+    // A session without the entries leaves texts as they are.
+    emulator::Clauses absent;
+    absent.absent = true;
+    emulator::setClauses(session, absent);
+    deleteClient();
+    EXPECT_EQ(received(AsciiText, fields, {bytesOf("61 62 63 64 65 66")}), "abcdef\r\n");
     EXPECT_TRUE(user.messages.empty());
 }
 

@@ -229,6 +229,8 @@ TEST_F(Requests, ClauseWithoutRoomLeavesNoKeyword) {
     EXPECT_EQ(query(), "SELECT *  FROM QGPL/CUST  order by NAME");
     emulator::setClauses(session, clauses("", "A = 1", "NAME", std::string(5000, 'g').c_str()));
     EXPECT_EQ(query(), "SELECT *  FROM QGPL/CUST  where A = 1 order by NAME");
+    emulator::setClauses(session, clauses("", std::string(4070, 'w').c_str(), "", "", "", "T1.A = T2.A"));
+    EXPECT_EQ(query(), "SELECT *  FROM QGPL/CUST where T1.A = T2.A");
 }
 
 TEST_F(Requests, StatementWithoutRoomIsRefusedWithAMessage) {
@@ -253,12 +255,13 @@ TEST_F(Requests, StatementWithoutRoomIsRefusedWithAMessage) {
     EXPECT_EQ(query(), "SELECT *  FROM QGPL/CUST ");
 }
 
-TEST_F(Requests, HostWithoutClausesCannotReceiveAndSaysSo) {
+// An absent entry is skipped, and nothing composed.
+TEST_F(Requests, SessionWithoutClausesComposesNone) {
     emulator::Clauses none;
     none.absent = true;
     emulator::setClauses(session, none);
-    EXPECT_TRUE(sent().empty());
-    EXPECT_EQ(user.messages.size(), 1u);
+    EXPECT_EQ(query(), "SELECT * ");
+    EXPECT_TRUE(user.messages.empty());
 }
 
 }  // namespace

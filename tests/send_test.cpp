@@ -390,7 +390,10 @@ TEST_F(Send, DoubleByteFieldsEndOutsideDoubleByteText) {
                 {AsciiText, true, "82A041", "0E 44 81 0F C1 40 40 40 40 40 40 40"},
                 {AsciiText, false, "82A041", "0E 44 81 0F C1 40 40 40 40 40 40 40"},
                 {AsciiText, false, "82A082A082A082A082A082A0", "0E 44 81 44 81 44 81 44 81 44 81 0F"},
-                {CommaSeparated, false, "2282A082A082A082A082A082A022", "0E 44 81 44 81 44 81 44 81 44 81 0F"}};
+                {CommaSeparated, false, "2282A082A082A082A082A082A022", "0E 44 81 44 81 44 81 44 81 44 81 0F"},
+                // The pairs of the prefill stay behind an even number of bytes only.
+                {CommaSeparated, false, "82A04141", "0E 44 81 0F C1 C1 0E 40 40 40 40 40"},
+                {CommaSeparated, false, "82A041", "0E 44 81 0F C1 40 40 40 40 40 40 40"}};
     for (const std::uint8_t type : {7, 8}) {
         hostFile.fields = {hf::typed(type, "G", 12)};
         for (const auto& row : rows) {

@@ -12,13 +12,14 @@ namespace id = zhst::setting;
 
 constexpr std::int32_t NamedSystemTransport = 9;
 
-// Two characters are enough: whether the text is empty, and what it begins with.
+// What a text setting begins with, and whether it is empty, which is the emulator's to say: a setting may count as
+// filled without a text.
 struct SettingStart {
-    SettingStart(services::SettingsHandle settings, std::uint32_t setting) {
-        services::GetStringSetting(settings, setting, text, sizeof(text));
-    }
-    bool isEmpty() const { return text[0] == '\0'; }
+    SettingStart(services::SettingsHandle settings, std::uint32_t setting)
+        : isFilled(services::GetStringSetting(settings, setting, text, sizeof(text)) != 0) {}
+    bool isEmpty() const { return !isFilled; }
     char text[2] = {};
+    bool isFilled;
 };
 
 bool isServedByDialog(std::int32_t transportType) {

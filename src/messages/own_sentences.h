@@ -15,7 +15,6 @@ inline constexpr char NotCompleted[] =
 inline constexpr char StatementTooLong[] =
     "The request for the host does not fit: the file list, the fields and the conditions together may have 4095 "
     "characters. Shorten them and try again.";
-inline constexpr char NoClauseSource[] = "This session offers no clauses for a transfer from the host.";
 inline constexpr char BadRecordCount[] =
     "The host answered the question for the number of records with a negative number.";
 inline constexpr char EntryNotConverted[] =

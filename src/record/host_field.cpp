@@ -1,7 +1,7 @@
 #include "record/host_field.h"
 
 #include <algorithm>
-#include <cstring>
+#include <string_view>
 
 #include "bytes/byte_order.h"
 #include "text/double_byte.h"
@@ -21,6 +21,12 @@ HostField::HostField(std::string_view bytes)
     std::copy(name.begin(), name.end(), name_);
 }
 
-std::uint32_t HostField::nameLength() const { return static_cast<std::uint32_t>(std::strcspn(name(), " ")); }
+std::uint32_t HostField::nameLength() const {
+    const std::string_view name = name_;
+    std::size_t at = 0;
+    while (at < name.size() && text::blankBytes(name.substr(at), text::userBlankPair()) == 0)
+        at += text::characterBytes(name.substr(at));
+    return static_cast<std::uint32_t>(at);
+}
 
 }  // namespace record

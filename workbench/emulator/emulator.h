@@ -113,7 +113,7 @@ void set(ZhstSession session, std::uint32_t id, const std::string& value);
 std::int32_t number(ZhstSession session, std::uint32_t id);
 std::string text(ZhstSession session, std::uint32_t id);
 
-// What entry 91 of the session services table answers. Absent: the entry is null.
+// What entry 91 of the session services table answers. Absent: all entries of the table are null.
 struct Clauses {
     std::string select, where, orderBy, groupBy, having, join;
     bool absent = false;

@@ -81,24 +81,19 @@ std::uint32_t ZHST_CALL pcTextToHost(ZhstTextServices services, const void* sour
     return call.result(toHost(findSession(services, SessionPart::TextServices), source, length, destination, capacity));
 }
 
-// The layout of ZhstSessionServices, which gives no way to fill one.
-struct ServicesTable {
-    void* entries[92] = {};
-
-    explicit ServicesTable(bool clauses) {
-        entries[35] = reinterpret_cast<void*>(&hostTextToPc);
-        entries[36] = reinterpret_cast<void*>(&pcTextToHost);
-        if (clauses) entries[91] = reinterpret_cast<void*>(&getTransferClauses);
-    }
-};
-static_assert(sizeof(ServicesTable) == sizeof(ZhstSessionServices));
+ZhstSessionServices completeTable() {
+    ZhstSessionServices table = {};
+    table.entries[ZhstHostTextToPcEntry] = reinterpret_cast<void*>(&hostTextToPc);
+    table.entries[ZhstPcTextToHostEntry] = reinterpret_cast<void*>(&pcTextToHost);
+    table.entries[ZhstGetTransferClausesEntry] = reinterpret_cast<void*>(&getTransferClauses);
+    return table;
+}
 
 const ZhstSessionServices* servicesOf(const Session* session) {
-    static const ServicesTable complete(true);
-    static const ServicesTable withoutClauses(false);
+    static const ZhstSessionServices complete = completeTable();
+    static const ZhstSessionServices absent = {};
     if (!session) return nullptr;
-    const ServicesTable& table = session->clauses.absent ? withoutClauses : complete;
-    return reinterpret_cast<const ZhstSessionServices*>(&table);
+    return session->clauses.absent ? &absent : &complete;
 }
 
 void* objectOf(Session* session, std::uint32_t kind) {

@@ -89,7 +89,7 @@ private:
     bool pairFirst(std::string_view rest) const;
     std::uint32_t shiftBytes(std::string_view rest) const;
     void prefill(bool doubleByte);
-    void padMixedText(std::uint32_t stored);
+    void padOddText(std::uint32_t stored);
     bool collect(std::string_view& rest, CollectedText& collected);
     bool takeDifText(std::string_view& rest, CollectedText& collected) const;
     void takeDelimited(std::string_view& rest, CollectedText& collected) const;
@@ -118,7 +118,7 @@ Outcome CharacterField::extract(std::string_view& rest, char* destination) {
         prefill(doubleByte);
         CollectedText collected(buffer_, limit(rest));
         if (!collect(rest, collected)) return Outcome::BadDifValue;
-        if (doubleByte) padMixedText(static_cast<std::uint32_t>(collected.stored()));
+        if (doubleByte) padOddText(static_cast<std::uint32_t>(collected.stored()));
         sourceLength = std::max(sourceLength, collected.stored());
     }
     const std::uint32_t failure =
@@ -148,12 +148,10 @@ void CharacterField::prefill(bool doubleByte) {
     for (std::uint32_t at = 0; at + 4 <= plan_.bytes; at += 2) std::copy_n(PairBlank, 2, buffer_ + at);
 }
 
-// Behind a text with single-byte characters the pairs of the prefill would stand crooked, and open a second run of
-// double-byte text that the field may have no room to close: such a text is padded with single-byte blanks.
-void CharacterField::padMixedText(std::uint32_t stored) {
-    std::uint32_t at = 0;
-    while (at < stored && text::isLeadByte(buffer_[at])) at += 2;
-    if (at < stored && stored < plan_.bytes) std::fill(buffer_ + stored, buffer_ + plan_.bytes, ' ');
+// Behind an odd number of bytes the first pair of the prefill is overwritten by half, and what is left of it would
+// stand crooked: such a text is padded with single-byte blanks.
+void CharacterField::padOddText(std::uint32_t stored) {
+    if (stored % 2 != 0 && stored < plan_.bytes) std::fill(buffer_ + stored, buffer_ + plan_.bytes, ' ');
 }
 
 // False for a DIF text that is not written as one.

@@ -83,12 +83,14 @@ Outcome DelimitedRecord::convertCharacterField(const PlannedField& each, const c
     const FieldPlan& plan = each.plan;
     out_.append(plan.difHead);
     if (plan.isQuoted) out_.append('"');
-    // The conversion may need all the room its bytes give it, behind the head, and a zero byte.
-    if (!out_.ensure(bytes * FieldBytesPerHostByte + 1)) return Outcome::NoMemory;
+    // The conversion may need all the room its bytes give it, behind the head too.
+    if (!out_.ensure(bytes * FieldBytesPerHostByte)) return Outcome::NoMemory;
     std::uint32_t converted = 0;
-    if (writer_.codePage.hostToPcText(source, out_.end(), bytes, out_.room() - 1, &converted) != 0)
+    if (writer_.codePage.hostToPcText(source, out_.end(), bytes, out_.room(), &converted) != 0)
         return Outcome::TextNotConverted;
+    // It was offered all the room there is, so the zero byte behind it may need more.
     const std::uint32_t length = std::max(bytes, converted);
+    if (!out_.ensure(length + 1)) return Outcome::NoMemory;
     out_.end()[length] = '\0';
     if (row_) {
         row_.setCell(index_, out_.end());
