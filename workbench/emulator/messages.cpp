@@ -93,8 +93,8 @@ void resetMessages() { disabled.clear(); }
 
 using namespace emulator;
 
-std::uint32_t ZHST_CALL zhstIsMessageEnabled(ZhstSettings settings, std::uint32_t id) {
-    return Call("IsMessageEnabled", settings, journalled::Message{id}).result(messageEnabled(id) ? 1u : 0u);
+std::uint32_t ZHST_CALL zhstIsMessageEnabled(ZhstSettings settings, std::uint32_t message) {
+    return Call("IsMessageEnabled", settings, journalled::Message{message}).result(messageEnabled(message) ? 1u : 0u);
 }
 
 void ZHST_CALL zhstLoadMessageText(ZhstSession session, std::uint32_t table, std::uint32_t index, char* buffer,
@@ -112,60 +112,60 @@ std::uint32_t ZHST_CALL zhstMessageId(std::uint32_t table, std::uint32_t index) 
     return Call("MessageId", journalled::Text{table, index}).result(catalogue::messageId(table, index));
 }
 
-std::int32_t ZHST_CALL zhstShowMessage(ZhstSession session, ZhstWindow owner, std::uint32_t id, std::uint32_t flags,
-                                       std::uint32_t one, std::uint32_t helpId) {
-    const Call call("ShowMessage", session, owner, journalled::Message{id}, flags, one, helpId);
-    return call.result(show(headOf(owner, id, flags, helpId), {}));
+std::int32_t ZHST_CALL zhstShowMessage(ZhstSession session, ZhstWindow owner, std::uint32_t message,
+                                       std::uint32_t flags, std::uint32_t one, std::uint32_t help) {
+    const Call call("ShowMessage", session, owner, journalled::Message{message}, flags, one, help);
+    return call.result(show(headOf(owner, message, flags, help), {}));
 }
 
-std::int32_t ZHST_CALL zhstShowMessage1(ZhstSession session, ZhstWindow owner, std::uint32_t id, std::uint32_t flags,
-                                        std::uint32_t one, std::uint32_t helpId, const char* insert1) {
+std::int32_t ZHST_CALL zhstShowMessage1(ZhstSession session, ZhstWindow owner, std::uint32_t message,
+                                        std::uint32_t flags, std::uint32_t one, std::uint32_t help,
+                                        const char* insert1) {
     const Insert inserts[] = {textInsert(insert1)};
-    const Call call("ShowMessage1", session, owner, journalled::Message{id}, flags, one, helpId, inserts[0]);
-    return call.result(show(headOf(owner, id, flags, helpId), inserts));
+    const Call call("ShowMessage1", session, owner, journalled::Message{message}, flags, one, help, inserts[0]);
+    return call.result(show(headOf(owner, message, flags, help), inserts));
 }
 
-std::int32_t ZHST_CALL zhstShowMessage2(ZhstSession session, ZhstWindow owner, std::uint32_t id, std::uint32_t flags,
-                                        std::uint32_t one, std::uint32_t helpId, ZhstInsert insert1,
+std::int32_t ZHST_CALL zhstShowMessage2(ZhstSession session, ZhstWindow owner, std::uint32_t message,
+                                        std::uint32_t flags, std::uint32_t one, std::uint32_t help, ZhstInsert insert1,
                                         ZhstInsert insert2) {
-    const catalogue::Message message = catalogue::findMessage(id);
-    const Insert inserts[] = {insertAt(message, 0, insert1), insertAt(message, 1, insert2)};
-    const Call call("ShowMessage2", session, owner, journalled::Message{id}, flags, one, helpId, inserts[0],
+    const catalogue::Message row = catalogue::findMessage(message);
+    const Insert inserts[] = {insertAt(row, 0, insert1), insertAt(row, 1, insert2)};
+    const Call call("ShowMessage2", session, owner, journalled::Message{message}, flags, one, help, inserts[0],
                     inserts[1]);
-    return call.result(show(headOf(owner, id, flags, helpId), inserts));
+    return call.result(show(headOf(owner, message, flags, help), inserts));
 }
 
-std::int32_t ZHST_CALL zhstShowMessage3(ZhstSession session, ZhstWindow owner, std::uint32_t id, std::uint32_t flags,
-                                        std::uint32_t one, std::uint32_t helpId, ZhstInsert insert1, ZhstInsert insert2,
-                                        ZhstInsert insert3) {
-    const catalogue::Message message = catalogue::findMessage(id);
-    const Insert inserts[] = {insertAt(message, 0, insert1), insertAt(message, 1, insert2),
-                              insertAt(message, 2, insert3)};
-    const Call call("ShowMessage3", session, owner, journalled::Message{id}, flags, one, helpId, inserts[0], inserts[1],
-                    inserts[2]);
-    return call.result(show(headOf(owner, id, flags, helpId), inserts));
-}
-
-std::int32_t ZHST_CALL zhstShowMessageCode(ZhstSession session, ZhstWindow owner, std::uint32_t id, std::uint32_t flags,
-                                           std::uint32_t one, std::uint32_t helpId, std::uint32_t insert1,
-                                           const char* insert2, const char* insert3) {
-    const Insert inserts[] = {numberInsert(insert1), textInsert(insert2), textInsert(insert3)};
-    const Call call("ShowMessageCode", session, owner, journalled::Message{id}, flags, one, helpId, inserts[0],
+std::int32_t ZHST_CALL zhstShowMessage3(ZhstSession session, ZhstWindow owner, std::uint32_t message,
+                                        std::uint32_t flags, std::uint32_t one, std::uint32_t help, ZhstInsert insert1,
+                                        ZhstInsert insert2, ZhstInsert insert3) {
+    const catalogue::Message row = catalogue::findMessage(message);
+    const Insert inserts[] = {insertAt(row, 0, insert1), insertAt(row, 1, insert2), insertAt(row, 2, insert3)};
+    const Call call("ShowMessage3", session, owner, journalled::Message{message}, flags, one, help, inserts[0],
                     inserts[1], inserts[2]);
-    return call.result(show(headOf(owner, id, flags, helpId), inserts));
+    return call.result(show(headOf(owner, message, flags, help), inserts));
+}
+
+std::int32_t ZHST_CALL zhstShowMessageCode(ZhstSession session, ZhstWindow owner, std::uint32_t message,
+                                           std::uint32_t flags, std::uint32_t one, std::uint32_t help,
+                                           std::uint32_t insert1, const char* insert2, const char* insert3) {
+    const Insert inserts[] = {numberInsert(insert1), textInsert(insert2), textInsert(insert3)};
+    const Call call("ShowMessageCode", session, owner, journalled::Message{message}, flags, one, help, inserts[0],
+                    inserts[1], inserts[2]);
+    return call.result(show(headOf(owner, message, flags, help), inserts));
 }
 
 std::int32_t ZHST_CALL zhstShowMessageText(ZhstSession session, ZhstWindow owner, std::uint32_t flags,
-                                           std::uint32_t one, std::uint32_t helpId, const char* text) {
-    const Call call("ShowMessageText", session, owner, flags, one, helpId, text);
-    return call.result(showReady(headOf(owner, 0, flags, helpId), false, text));
+                                           std::uint32_t one, std::uint32_t help, const char* text) {
+    const Call call("ShowMessageText", session, owner, flags, one, help, text);
+    return call.result(showReady(headOf(owner, 0, flags, help), false, text));
 }
 
-std::int32_t ZHST_CALL zhstMessageBox_scroll(ZhstSession session, ZhstWindow owner, std::uint32_t id,
-                                             std::uint32_t flags, std::uint32_t one, std::uint32_t helpId,
+std::int32_t ZHST_CALL zhstMessageBox_scroll(ZhstSession session, ZhstWindow owner, std::uint32_t message,
+                                             std::uint32_t flags, std::uint32_t one, std::uint32_t help,
                                              const char* text) {
-    const Call call("zhstMessageBox_scroll", session, owner, journalled::Message{id}, flags, one, helpId, text);
-    return call.result(showReady(headOf(owner, id, flags, helpId), true, text));
+    const Call call("zhstMessageBox_scroll", session, owner, journalled::Message{message}, flags, one, help, text);
+    return call.result(showReady(headOf(owner, message, flags, help), true, text));
 }
 
 void ZHST_CALL zhstFormatStringSet(ZhstTextRecord* text, const ZhstTextRecord* const* inserts, std::uint32_t count) {
