@@ -33,7 +33,7 @@ install_packages() {
 
 APT_OPTIONS=()
 BUILD_PACKAGES=(g++ cmake ninja-build libcli11-dev libsqlite3-dev libicu-dev tzdata)
-TEST_PACKAGES=(libgtest-dev libbenchmark-dev)
+TEST_PACKAGES=(libgtest-dev libbenchmark-dev python3)
 WINDOWS_PACKAGES=(g++-mingw-w64-i686 googletest wine wine32:i386 locales)
 
 # The Windows tool chain, and Wine for 32-bit programs. Fails, having said why, on a machine that has no way to get them.
