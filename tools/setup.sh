@@ -34,6 +34,8 @@ install_packages() {
 APT_OPTIONS=()
 BUILD_PACKAGES=(g++ cmake ninja-build libcli11-dev libsqlite3-dev libicu-dev tzdata)
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev python3)
+# Of one version: another formats and judges otherwise.
+LINT_PACKAGES=(clang-format-14 clang-tidy-14)
 WINDOWS_PACKAGES=(g++-mingw-w64-i686 googletest wine wine32:i386 locales)
 
 # The Windows tool chain, and Wine for 32-bit programs. Fails, having said why, on a machine that has no way to get them.

@@ -43,7 +43,7 @@ Insert numberInsert(std::uint32_t number) { return {true, number, nullptr}; }
 // The catalogue says what the place holds; a place it does not know is a number.
 Insert insertAt(const catalogue::Message& message, std::size_t place, ZhstInsert value) {
     if (place < message.inserts.size() && message.inserts[place] == 't')
-        return textInsert(reinterpret_cast<const char*>(value));  // NOLINT(performance-no-int-to-ptr): as it travels
+        return textInsert(reinterpret_cast<const char*>(value));  // as it travels
     return numberInsert(static_cast<std::uint32_t>(value));
 }
 
