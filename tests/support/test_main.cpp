@@ -10,5 +10,7 @@ int main(int argumentCount, char** arguments) {
     setDefaultEnvironment("Z7X_SCRIPT", Z7X_DEFAULT_SCRIPT);
     testing::InitGoogleTest(&argumentCount, arguments);
     startFrameworkThread();
-    return RUN_ALL_TESTS();
+    const int result = RUN_ALL_TESTS();
+    // A filter that selects nothing has tested nothing.
+    return testing::UnitTest::GetInstance()->test_to_run_count() > 0 ? result : 1;
 }
