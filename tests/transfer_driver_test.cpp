@@ -107,8 +107,8 @@ TEST_F(TransferDriver, TransferIsActiveOnlyWhileItRunsHoweverItEnds) {
     const auto refuse = [](bool emulator::Faults::*fault) { return [fault] { setFault(fault, true); }; };
     const std::vector<Ending> endings = {
         {"complete", [] {}, {}},
-        {"request refused", [this] { scripted::answerNext(TF_SEND_REQUEST, scripted::Answer::code(0x2001)); }, {4406}},
-        {"silent failure", [this] { scripted::answerNext(TF_SEND_REQUEST, scripted::Answer::code(0x7101)); }, {}},
+        {"request refused", [] { scripted::answerNext(TF_SEND_REQUEST, scripted::Answer::code(0x2001)); }, {4406}},
+        {"silent failure", [] { scripted::answerNext(TF_SEND_REQUEST, scripted::Answer::code(0x7101)); }, {}},
         {"no file object", refuse(&emulator::Faults::refuseFileObject), {4001}},
         {"no progress dialog", refuse(&emulator::Faults::refuseProgressDialog), {4001}},
         {"cancelled",
