@@ -509,6 +509,7 @@ TEST_F(Send, CancelAndStopAtEveryPlace) {
             user.onProgressCommand = [&](std::uint32_t) { act(); };
             sendFile(lines);
             expectIdle();
+            EXPECT_TRUE(user.messages.empty());
             if (!stop && place < 5) {
                 EXPECT_EQ(hostFile.received.size(), 0u);
             }

@@ -74,11 +74,12 @@ TEST_F(Session, StopWithoutAConversationIsSilent) {
 TEST_F(Session, StopDuringAProviderCallWaitsForItsEnd) {
     const struct {
         const char* name;
+        std::size_t told;
         std::function<void()> stop;
-    } stops[] = {{"clean-up", [this] { library.xferCleanup(session); }},
-                 {"transport", [this] { set(setting::TransportType, 9); }},
-                 {"router", [this] { set(setting::RouterKind, 2); }},
-                 {"connection", [this] {
+    } stops[] = {{"clean-up", 0, [this] { library.xferCleanup(session); }},
+                 {"transport", 1, [this] { set(setting::TransportType, 9); }},
+                 {"router", 1, [this] { set(setting::RouterKind, 2); }},
+                 {"connection", 1, [this] {
                       set(setting::ConnectionChanging, 1);
                       set(setting::TransportType, 9);
                       set(setting::ConnectionChanging, 0);
@@ -88,6 +89,7 @@ TEST_F(Session, StopDuringAProviderCallWaitsForItsEnd) {
             SCOPED_TRACE(std::string(stop.name) + " during " + scripted::functionName(function));
             library.xferCleanup(session);
             useTransport(2);
+            user.messages.clear();
             std::size_t behind = 0;
             hostFile.during(function, [&] {
                 stop.stop();
@@ -97,7 +99,11 @@ TEST_F(Session, StopDuringAProviderCallWaitsForItsEnd) {
             receive();
             ASSERT_GT(behind, 0u);
             // The conversation, when there is one, is ended at once.
-            if (function != TF_RESET) {
+            if (function == TF_RESET) {
+                EXPECT_TRUE(user.messages.empty()) << "no transfer runs yet";
+            } else {
+                EXPECT_EQ(user.messages.size(), stop.told);
+                EXPECT_EQ(number(setting::LastReturnCode), 0x9999);
                 const auto& entries = scripted::entries();
                 ASSERT_GE(entries.size(), behind + 2);
                 EXPECT_EQ(entries[behind], "TF_END_DATA");
@@ -114,13 +120,51 @@ TEST_F(Session, StopDuringAProviderCallWaitsForItsEnd) {
 
 // The fetch that only ends the record count is one of the transfer's steps, too.
 TEST_F(Session, StopBehindTheCountEndsTheTransfer) {
-    useTransport(9);
     set(setting::RecordProgress, 1);
-    hostFile.during(TF_GET_DATA, [this] { hostFile.during(TF_GET_DATA, [this] { library.xferCleanup(session); }); });
-    receive(1);
-    EXPECT_EQ(user.messages.size(), 1u);
-    EXPECT_FALSE(bound());
-    EXPECT_FALSE(pcFileExists());
+    for (const bool ended : {true, false}) {
+        useTransport(9);
+        user.messages.clear();
+        hostFile.during(TF_GET_DATA, [&] {
+            hostFile.during(TF_GET_DATA,
+                            [&] { ended ? library.xferCleanup(session) : set(setting::TransportType, 2); });
+        });
+        receive(1);
+        EXPECT_EQ(user.messages.size(), ended ? 0u : 1u);
+        EXPECT_FALSE(bound());
+        EXPECT_FALSE(pcFileExists());
+    }
+}
+
+// With the request open nothing is sent to the session that would start in the place of the stopped one.
+TEST_F(Session, StopInThePumpIsToldOnceByTheDriver) {
+    for (const bool ended : {true, false}) {
+        for (const std::uint32_t command : {16u, 27u, 25u, 28u, 0u}) {
+            SCOPED_TRACE(std::to_string(command) + (ended ? ", the session's end" : ", another connection"));
+            useTransport(2);
+            user.messages.clear();
+            user.onProgressCommand = [&](std::uint32_t shown) {
+                if (shown != command || !bound()) return;
+                ended ? library.xferCleanup(session) : set(setting::TransportType, 9);
+            };
+            receive();
+            EXPECT_FALSE(bound());
+            EXPECT_EQ(user.messages.size(), ended ? 0u : 1u);
+            EXPECT_EQ(number(setting::LastReturnCode), 0x9999);
+            expectIdle();
+        }
+    }
+}
+
+TEST_F(Session, StopUnderAListingIsItsFailure) {
+    HostCatalogEntry entry = {};
+    for (const std::uint32_t function : {TF_SEND_REQUEST, TF_GET_DATA}) {
+        useTransport(2);
+        client();
+        hostFile.during(function, [this] { set(setting::TransportType, 9); });
+        EXPECT_EQ(library.pcsGetFirstHostFilename(session, "", &entry), 3u);
+        EXPECT_EQ(number(setting::LastReturnCode), 0x9999);
+        EXPECT_TRUE(user.messages.empty());
+    }
 }
 
 TEST_F(Session, TransferInAListingIsTurnedAway) {

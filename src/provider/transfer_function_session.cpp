@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "Z7XFRPCS/settings.h"
-#include "messages/own_sentences.h"
 #include "platform/platform.h"
 #include "provider/result_judge.h"
 
@@ -25,10 +24,6 @@ struct YieldTarget {
     std::uint32_t process = 0;
 };
 YieldTarget yieldTarget;
-
-bool isControl(std::uint32_t function) {
-    return function == TF_END_REQUEST || function == TF_RESET || function == TF_END_DATA;
-}
 
 }  // namespace
 
@@ -63,6 +58,7 @@ bool TransferFunctionSession::tfStart() {
     if (isStarted() || isDemonstration()) return true;
     // Binding shows messages and calls the provider, so exports may come in and find the session half started.
     if (isWaiting()) return false;
+    interruption_ = Interruption::None;
     connection_.settle(owner_.settings);
     phase_.beginBinding();
     const bool bound = allocateBuffer() && binding_.bind(owner_.session, connection_);
@@ -74,8 +70,6 @@ bool TransferFunctionSession::tfStart() {
     } else {
         releaseProvider();
     }
-    // Stopped while it was being bound or reset, which nobody else would tell.
-    if (!isStarted()) messages::showOwnText(owner_, messages::sentence::ConnectionStopped);
     return isStarted();
 }
 
@@ -86,8 +80,11 @@ bool TransferFunctionSession::allocateBuffer() {
 }
 
 // A connection that has become the demonstration is left without a farewell; what is bound goes with the session.
-void TransferFunctionSession::tfStop() {
-    if (phase_.deferStop() || !phase_.isReady() || isDemonstration()) return;
+void TransferFunctionSession::stop(Interruption reason) {
+    const bool waits = phase_.deferStop();
+    if (!waits && (!phase_.isReady() || isDemonstration())) return;
+    interruption_ = std::max(interruption_, reason);
+    if (waits) return;
     phase_.beginStop();
     endConversation();
     releaseProvider();
@@ -138,22 +135,14 @@ void TransferFunctionSession::tfRequest(std::uint32_t function, std::uint32_t le
     activeDialog_ = 0;
     if (function == TF_END_DATA) conversation_ = 0;
     if (monitorStore_) monitorStore_->recordResult(function, result.returnCode, result.detailCode, returned(result));
-    if (phase_.takePendingStop()) carryOutPendingStop(function, result, dialog);
+    if (phase_.takePendingStop()) carryOutPendingStop(result);
 }
 
-// What the provider returned goes with the provider. The session's own exchanges are not missed by anybody.
-void TransferFunctionSession::carryOutPendingStop(std::uint32_t function, TfResult& result,
-                                                  services::ProgressDialogHandle dialog) {
-    tfStop();
+// What the provider returned goes with the provider.
+void TransferFunctionSession::carryOutPendingStop(TfResult& result) {
+    stop(interruption_);
     connection_.read(owner_.settings);
     result = {TF_NOT_STARTED};
-    if (!isControl(function)) tellInterruption(dialog);
-}
-
-// The code of the exchange before would stand in the settings and read as success.
-void TransferFunctionSession::tellInterruption(services::ProgressDialogHandle dialog) const {
-    services::SetSetting(owner_.settings, id::LastReturnCode, TF_NOT_STARTED);
-    messages::showOwnText(owner_, messages::sentence::ConnectionStopped, dialog);
 }
 
 void TransferFunctionSession::sendControl(TfFunction function) {
@@ -214,7 +203,7 @@ void TransferFunctionSession::changeConnection(std::int32_t Connection::*setting
         return;
     }
     if (!isStarted() && !phase_.isBinding()) return;
-    tfStop();
+    stop(Interruption::ConnectionChange);
     if (!phase_.isStopPending()) connection_.*setting = value;
 }
 
@@ -222,7 +211,7 @@ void TransferFunctionSession::onConnectionChanging(bool changing) {
     if (changing) {
         change_.begin();
     } else if (change_.end(connection_)) {
-        tfStop();
+        stop(Interruption::ConnectionChange);
         if (!phase_.isStopPending()) connection_.read(owner_.settings);
     }
 }

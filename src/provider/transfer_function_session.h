@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <utility>
 
 #include "messages/box.h"
 #include "monitor/monitor_store.h"
@@ -22,7 +23,7 @@ namespace provider {
 //
 // A stop (by the session's end or a change of the connection settings) that arrives while a provider call is on the
 // stack is carried out when that call has returned, before anything else is sent; the exchange it interrupted then ends
-// as NotStarted.
+// as NotStarted. Nothing of that is shown here: whoever has a request with the provider asks for interruption().
 class TransferFunctionSession {
 public:
     // `watch` is registered for the settings of the connection and the code page; it is to call onSettingChanged.
@@ -35,7 +36,8 @@ public:
     // True when exchanges may be made: the provider is bound, or the connection is the demonstration. Failures have
     // been reported.
     bool tfStart();
-    void tfStop();
+    // The stop of the session's end.
+    void tfStop() { stop(Interruption::SessionEnd); }
     bool isStarted() const { return phase_.isStarted(); }
     // A provider call is on the stack, or the provider is being bound.
     bool isWaiting() const { return phase_.isWaiting(); }
@@ -64,8 +66,11 @@ public:
     const char* hostSystemDesignation();
 
     void onSettingChanged(std::uint32_t setting, std::int32_t newValue, std::int32_t oldValue);
-    // Tells that the session was stopped under a request, which a session that is not started would not report.
-    void tellInterruption(services::ProgressDialogHandle dialog) const;
+
+    // What has taken the provider since the last start. Each stop is given once.
+    enum class Interruption { None, ConnectionChange, SessionEnd };
+    Interruption takeInterruption() { return std::exchange(interruption_, Interruption::None); }
+
     // Kept for the emulator, which hands it over; nothing depends on it.
     void setRuntimeSetting(std::uint32_t value) { runtimeSetting_ = value; }
 
@@ -87,11 +92,12 @@ public:
 
 private:
     bool isDemonstration() const;
+    void stop(Interruption reason);
     bool allocateBuffer();
     void endConversation();
     void releaseProvider();
     void sendControl(TfFunction function);
-    void carryOutPendingStop(std::uint32_t function, TfResult& result, services::ProgressDialogHandle dialog);
+    void carryOutPendingStop(TfResult& result);
     void changeConnection(std::int32_t Connection::*setting, std::int32_t value);
     void onConnectionChanging(bool changing);
 
@@ -103,6 +109,7 @@ private:
     TfYield yield_;
 
     SessionPhase phase_;
+    Interruption interruption_ = Interruption::None;
     Connection connection_;
     ConnectionChange change_;
     ProviderBinding binding_;

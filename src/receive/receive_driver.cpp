@@ -187,11 +187,10 @@ bool ReceiveRun::sendOptions() {
 }
 
 bool ReceiveRun::sendQuery() {
-    if (!request::sessionStands(client_) || !request::composeQueryClauses(client_, false, true) || !goesOn())
-        return false;
+    if (!request::composeQueryClauses(client_, false, true) || !goesOn()) return false;
     command(ProgressCommand::TransferRequest);
     std::string_view statement;
-    return request::composeSelectStatement(client_, statement) &&
+    return request::sessionStands(client_) && request::composeSelectStatement(client_, statement) &&
            request::exchangeStatement(client_, statement, services::Direction::FromHost) && goesOn();
 }
 
@@ -203,7 +202,7 @@ bool ReceiveRun::readFields() {
     // Without descriptions the record loop goes on: there the provider says what became of the request.
     provider::TfResult last;
     request::readHostFields(client_, conversion_->layout, services::Direction::FromHost, last);
-    if (!client_.tfSession->isStarted() || !goesOn()) return false;
+    if (!request::sessionStands(client_) || !goesOn()) return false;
     client::progress::showFileType(client_, settings_.receiveFileType);
     command(ProgressCommand::DataBegins);
     return true;

@@ -1,6 +1,7 @@
 #include "request/field_descriptions.h"
 
 #include "messages/own_sentences.h"
+#include "request/statement_exchange.h"
 
 namespace request {
 namespace {
@@ -42,11 +43,13 @@ bool readHostFields(ZXFRPCSCLIENT& client, record::HostLayout& layout, services:
             messages::showOwnText(client.messageOwner(), messages::sentence::TooManyDescriptions, dialog);
             break;
         }
+        // The dialog, or a box, may have let a stop in.
+        if (!sessionStands(client)) break;
         tf.tfRequest(TF_GET_FIELD, 0, 0, last, tf.hostSystemDesignation(), dialog);
         if (last.returnCode == TF_NO_MORE_DATA) break;
         if (last.returnCode == TF_SUCCESS) {
             if (!addField(client, layout, direction, tf.returned(last))) break;
-        } else if (!tf.tfCheckResult(0, last, dialog)) {
+        } else if (!checkResult(client, NoContext, last)) {
             break;
         }
     }

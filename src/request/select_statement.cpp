@@ -76,7 +76,7 @@ std::int32_t queryRecordCount(ZXFRPCSCLIENT& client) {
     if (!checkLastResult(client, CountingRecords)) return QueryFailed;
     const auto count = static_cast<std::int32_t>(bytes::highFirstSigned(tf.dataBuffer(), CountBytes));
     if (reportsEndOfCount(tf)) fetchCountRecord(client);
-    if (!tf.isStarted()) return QueryFailed;  // stopped during that fetch, and told so
+    if (!sessionStands(client)) return QueryFailed;
     if (tf.tfIsAs400Mode()) tf.tfEndRequest();
     if (count >= 0) return count;
     messages::showOwnText(client.dialogOwner(), messages::sentence::BadRecordCount, client.progressDialog);

@@ -1,5 +1,6 @@
 #include "request/statement_exchange.h"
 
+#include "Z7XFRPCS/settings.h"
 #include "messages/own_sentences.h"
 
 namespace request {
@@ -18,9 +19,11 @@ void sendStatement(ZXFRPCSCLIENT& client, std::string_view statement, Direction 
     if (store) receive ? store->touchReceiveList() : store->touchSendList();
 }
 
-bool checkLastResult(ZXFRPCSCLIENT& client, Context context) {
-    return client.tfSession->tfCheckResult(context, client.lastResult, client.progressDialog);
+bool checkResult(ZXFRPCSCLIENT& client, Context context, const provider::TfResult& result) {
+    return sessionStands(client) && client.tfSession->tfCheckResult(context, result, client.progressDialog);
 }
+
+bool checkLastResult(ZXFRPCSCLIENT& client, Context context) { return checkResult(client, context, client.lastResult); }
 
 bool exchangeStatement(ZXFRPCSCLIENT& client, std::string_view statement, Direction direction) {
     sendStatement(client, statement, direction, client.progressDialog);
@@ -28,13 +31,25 @@ bool exchangeStatement(ZXFRPCSCLIENT& client, std::string_view statement, Direct
 }
 
 bool sessionStands(ZXFRPCSCLIENT& client) {
+    using Interruption = provider::TransferFunctionSession::Interruption;
     if (client.tfSession->isStarted()) return true;
-    client.tfSession->tellInterruption(client.progressDialog);
+    const Interruption interruption = client.tfSession->takeInterruption();
+    if (interruption == Interruption::None) return false;
+    // The code of the exchange before would stand in the settings and read as success.
+    services::SetSetting(client.settings, zhst::setting::LastReturnCode, TF_NOT_STARTED);
+    // Who ends the session, or asks for a list, knows from the result.
+    if (interruption == Interruption::ConnectionChange && client.transferRunning)
+        messages::showOwnText(client.dialogOwner(), messages::sentence::ConnectionStopped, client.progressDialog);
     return false;
 }
 
 // The session may have been stopped since the last exchange, and its buffer with it: a new one is asked for each time.
-char* requestBuffer(ZXFRPCSCLIENT& client) { return client.tfStart() ? client.tfSession->dataBuffer() : nullptr; }
+char* requestBuffer(ZXFRPCSCLIENT& client) {
+    if (client.tfStart()) return client.tfSession->dataBuffer();
+    // A stop may have come in while the provider was being bound.
+    if (client.tfSession) sessionStands(client);
+    return nullptr;
+}
 
 // Cut, a statement would ask for something else.
 bool refuseLongStatement(const ZXFRPCSCLIENT& client) {

@@ -23,14 +23,16 @@ enum Context : std::uint32_t {
 void sendStatement(ZXFRPCSCLIENT& client, std::string_view statement, services::Direction direction,
                    services::ProgressDialogHandle dialog);
 
-// Judges lastResult.
+// Judge a result, and lastResult. False too when the session was stopped under the exchange, as sessionStands tells it.
+bool checkResult(ZXFRPCSCLIENT& client, Context context, const provider::TfResult& result);
 bool checkLastResult(ZXFRPCSCLIENT& client, Context context);
 
 // sendStatement with the progress dialog, then checkLastResult for a request.
 bool exchangeStatement(ZXFRPCSCLIENT& client, std::string_view statement, services::Direction direction);
 
 // Whether the session still has the request that was opened: a stop that comes in through a message pump takes it away,
-// and what is sent then would go to a new session without it. False after the user has been told.
+// and what is sent then would go to a new session without it. False otherwise; LastReturnCode then says so, and the
+// user of a transfer has been told, once, unless it was the session's end that stopped it.
 bool sessionStands(ZXFRPCSCLIENT& client);
 
 // The shared buffer for composing; null after the failure has been reported.
