@@ -165,6 +165,19 @@ TEST_F(ReceiveDriver, EmptyFileIsToldOnlyWhenItWasCounted) {
     EXPECT_FALSE(pcFileExists());
 }
 
+TEST_F(ReceiveDriver, CountAndRecordsMayStandInTheProvidersMemory) {
+    give(0);
+    set(setting::RecordProgress, 1);
+    for (const std::string& bytes : {HostRecord().binary(3, 4).str(), hostText("AB"), hostText("AB"), hostText("AB")}) {
+        Answer answer = Answer::data(bytes);
+        answer.place = scripted::Place::OwnMemory;
+        scripted::answerNext(TF_GET_DATA, answer);
+    }
+    receive(1);
+    EXPECT_EQ(number(setting::JobRecordsTotal), 3);
+    EXPECT_EQ(pcFileBytes(), lines(3));
+}
+
 // The user cancels in the Nth call of a function; the records of before stay.
 TEST_F(ReceiveDriver, CancelAtEachCheck) {
     receive();

@@ -1,6 +1,7 @@
 #include "provider/shared_buffer.h"
 
 #include <algorithm>
+#include <cstring>
 #include <utility>
 
 #include "platform/platform.h"
@@ -32,9 +33,14 @@ std::string_view SharedBuffer::returned(const TfResult& result) const {
     if (!result.data) return {};
     const auto* data = static_cast<const char*>(result.data);
     std::uint32_t room = BufferSize;
-    if (data_ && data >= data_ && data < data_ + BufferSize)
-        room = static_cast<std::uint32_t>(data_ + BufferSize - data);
+    if (holds(data)) room = static_cast<std::uint32_t>(data_ + BufferSize - data);
     return {data, std::min(result.dataLength, room)};
+}
+
+// What begins in front of this buffer may reach into it.
+void SharedBuffer::take(const TfResult& result) {
+    const std::string_view bytes = returned(result);
+    if (data_ && !bytes.empty() && !holds(bytes.data())) std::memmove(data_, bytes.data(), bytes.size());
 }
 
 }  // namespace provider

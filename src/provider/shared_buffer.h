@@ -26,7 +26,13 @@ public:
     // this buffer, never more than BufferSize.
     std::string_view returned(const TfResult& result) const;
 
+    // Puts what a result returned in memory of the provider's own where records are looked for: at the start of this
+    // buffer, at most all of it.
+    void take(const TfResult& result);
+
 private:
+    bool holds(const char* data) const { return data_ && data >= data_ && data < data_ + BufferSize; }
+
     void* handle_ = nullptr;
     char* data_ = nullptr;
 };

@@ -25,6 +25,9 @@ struct YieldTarget {
 };
 YieldTarget yieldTarget;
 
+// Behind any other code the data are a message of the host.
+bool isRecord(const TfResult& result) { return result.returnCode == TF_SUCCESS || result.returnCode == TF_COMPLETED; }
+
 }  // namespace
 
 TransferFunctionSession::TransferFunctionSession(services::SessionHandle session, services::SettingWatch watch,
@@ -135,6 +138,7 @@ void TransferFunctionSession::tfRequest(std::uint32_t function, std::uint32_t le
     activeDialog_ = 0;
     if (function == TF_END_DATA) conversation_ = 0;
     if (monitorStore_) monitorStore_->recordResult(function, result.returnCode, result.detailCode, returned(result));
+    if (function == TF_GET_DATA && isRecord(result)) buffer_.take(result);
     if (phase_.takePendingStop()) carryOutPendingStop(result);
 }
 
