@@ -55,6 +55,38 @@ TEST_F(Session, ChangesOfAConnectionCountAtItsEnd) {
     }
 }
 
+// Meanwhile nothing is exchanged, so the provider of before is only noticed when the connection is a real one again.
+TEST_F(Session, ChangeInADemonstrationCountsAtTheNextRealStart) {
+    const struct {
+        const char* what;
+        scripted::Family family;
+        std::function<void()> change;
+    } rows[] = {
+        {"transport", scripted::Family::Requestor, [this] { set(setting::TransportType, 9); }},
+        {"a router that the transport does not take", scripted::Family::Stf, [this] { set(setting::RouterKind, 2); }},
+        {"connection", scripted::Family::Requestor, [this] {
+             set(setting::ConnectionChanging, 1);
+             set(setting::TransportType, 9);
+             set(setting::ConnectionChanging, 0);
+         }}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        useTransport(4);
+        receive();
+        set(setting::ConnectionType, 3);
+        row.change();
+        library.xferCleanup(session);
+        EXPECT_TRUE(bound());
+        set(setting::ConnectionType, 1);
+        const std::vector<std::string> entries = entriesOf([this] { expectReceived(); });
+        ASSERT_GE(entries.size(), 3u);
+        EXPECT_EQ(entries[0], "TF_END_DATA");
+        EXPECT_EQ(entries[1], "E32TF_Cleanup");
+        EXPECT_EQ(scripted::calls().back().family, row.family);
+        EXPECT_TRUE(user.messages.empty());
+    }
+}
+
 // After a failed write the conversation is over, and so a stop has nothing to tell the provider.
 TEST_F(Session, StopWithoutAConversationIsSilent) {
     setFault(&emulator::Faults::failWriteAfterBytes, 3);

@@ -58,6 +58,7 @@ bool TransferFunctionSession::isDemonstration() const {
 }
 
 bool TransferFunctionSession::tfStart() {
+    if (stopIsOwed_ && phase_.isReady()) stop(Interruption::ConnectionChange);
     if (isStarted() || isDemonstration()) return true;
     // Binding shows messages and calls the provider, so exports may come in and find the session half started.
     if (isWaiting()) return false;
@@ -82,12 +83,17 @@ bool TransferFunctionSession::allocateBuffer() {
     return false;
 }
 
-// A connection that has become the demonstration is left without a farewell; what is bound goes with the session.
+// A connection that has become the demonstration keeps its provider, and so keeps in mind that another one is wanted.
 void TransferFunctionSession::stop(Interruption reason) {
     const bool waits = phase_.deferStop();
-    if (!waits && (!phase_.isReady() || isDemonstration())) return;
+    if (!waits && !phase_.isReady()) return;
+    if (!waits && isDemonstration()) {
+        stopIsOwed_ = stopIsOwed_ || reason == Interruption::ConnectionChange;
+        return;
+    }
     interruption_ = std::max(interruption_, reason);
     if (waits) return;
+    stopIsOwed_ = false;
     phase_.beginStop();
     endConversation();
     releaseProvider();
@@ -124,7 +130,7 @@ void TransferFunctionSession::tfRequest(std::uint32_t function, std::uint32_t le
     result = {};
     // The provider serves one call at a time; one that comes in through its yield call-back is turned away. In a
     // demonstration the session starts without a provider.
-    if (phase_.isCalling() || !tfStart() || !binding_.isBound()) {
+    if (phase_.isCalling() || (!isStarted() && !tfStart()) || !binding_.isBound()) {
         result.returnCode = TF_NOT_STARTED;
         return;
     }
@@ -145,6 +151,7 @@ void TransferFunctionSession::tfRequest(std::uint32_t function, std::uint32_t le
 // What the provider returned goes with the provider.
 void TransferFunctionSession::carryOutPendingStop(TfResult& result) {
     stop(interruption_);
+    if (isStarted()) return;
     connection_.read(owner_.settings);
     result = {TF_NOT_STARTED};
 }
@@ -208,7 +215,7 @@ void TransferFunctionSession::changeConnection(std::int32_t Connection::*setting
     }
     if (!isStarted() && !phase_.isBinding()) return;
     stop(Interruption::ConnectionChange);
-    if (!phase_.isStopPending()) connection_.*setting = value;
+    if (!isStarted() && !phase_.isStopPending()) connection_.*setting = value;
 }
 
 void TransferFunctionSession::onConnectionChanging(bool changing) {
@@ -216,7 +223,7 @@ void TransferFunctionSession::onConnectionChanging(bool changing) {
         change_.begin();
     } else if (change_.end(connection_)) {
         stop(Interruption::ConnectionChange);
-        if (!phase_.isStopPending()) connection_.read(owner_.settings);
+        if (!isStarted() && !phase_.isStopPending()) connection_.read(owner_.settings);
     }
 }
 

@@ -111,6 +111,7 @@ private:
 
     SessionPhase phase_;
     Interruption interruption_ = Interruption::None;
+    bool stopIsOwed_ = false;  // by a change of the connection that came in while it was the demonstration
     Connection connection_;
     ConnectionChange change_;
     ProviderBinding binding_;
