@@ -165,6 +165,31 @@ TEST_F(ReceiveDriver, EmptyFileIsToldOnlyWhenItWasCounted) {
     EXPECT_FALSE(pcFileExists());
 }
 
+// A length of 0 says nothing; any other is taken at its word.
+TEST_F(ReceiveDriver, DescriptionsWithoutALengthAreWhole) {
+    const struct {
+        std::uint32_t length;
+        scripted::Place place;
+        bool isField;
+    } rows[] = {{0, scripted::Place::OwnMemory, true},
+                {0, scripted::Place::SharedBuffer, true},
+                {0, scripted::Place::Null, false},
+                {39, scripted::Place::OwnMemory, false},
+                {41, scripted::Place::OwnMemory, true}};
+    hostFile.fields.clear();
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.length);
+        Answer answer = Answer::data(character("NAME", 2) + "behind");
+        answer.dataLength = row.length;
+        answer.place = row.place;
+        scripted::answerNext(TF_GET_FIELD, answer);
+        user.messages.clear();
+        receive();
+        EXPECT_EQ(user.messages.empty(), row.isField);
+        EXPECT_EQ(pcFileBytes().substr(0, 4), row.isField ? "AB\r\n" : "\r\n\r\n");
+    }
+}
+
 TEST_F(ReceiveDriver, CountAndRecordsMayStandInTheProvidersMemory) {
     give(0);
     set(setting::RecordProgress, 1);

@@ -18,6 +18,12 @@ void publish(ZXFRPCSCLIENT& client, services::Direction direction, std::string_v
         store->recordReceiveField(description);
 }
 
+// A provider that gives no length gives a description all the same; of any other length at least that much is wanted.
+std::string_view descriptionOf(const provider::TransferFunctionSession& tf, provider::TfResult answer) {
+    if (answer.dataLength == 0) answer.dataLength = record::description::Size;
+    return tf.returned(answer);
+}
+
 bool addField(ZXFRPCSCLIENT& client, record::HostLayout& layout, services::Direction direction,
               std::string_view answer) {
     if (answer.size() < record::description::Size) {
@@ -48,7 +54,7 @@ bool readHostFields(ZXFRPCSCLIENT& client, record::HostLayout& layout, services:
         tf.tfRequest(TF_GET_FIELD, 0, 0, last, tf.hostSystemDesignation(), dialog);
         if (last.returnCode == TF_NO_MORE_DATA) break;
         if (last.returnCode == TF_SUCCESS) {
-            if (!addField(client, layout, direction, tf.returned(last))) break;
+            if (!addField(client, layout, direction, descriptionOf(tf, last))) break;
         } else if (!checkResult(client, NoContext, last)) {
             break;
         }
