@@ -160,9 +160,45 @@ TEST_F(ReceiveDriver, EmptyFileIsToldOnlyWhenItWasCounted) {
         expectInOrder({"ProgressDialogHide(", "ShowMessage(", "ProgressDialogShow(", "command 1"});
         EXPECT_FALSE(pcFileExists());
     }
-    hostFile.count = 0xFFFFFFFF;  // less than nothing
+    hostFile.count = 0xFFFFFFFF;  // what stands for a failure
+    user.messages.clear();
     receive();
     EXPECT_FALSE(pcFileExists());
+    EXPECT_TRUE(user.messages.empty());
+}
+
+// The records come all the same; the dialog counts them without an end.
+TEST_F(ReceiveDriver, CountThatIsNoTotalLetsTheTransferGoOn) {
+    const Answer nothing = Answer::code(0), completed = Answer::code(0x5057);
+    Answer shortOne = Answer::data(bytesOf("00000005"));
+    shortOne.dataLength = 3;
+    const std::pair<const char*, Answer> rows[] = {{"negative", Answer::data(bytesOf("FFFFFFFE"))},
+                                                   {"far below", Answer::data(bytesOf("80000000"))},
+                                                   {"three bytes", shortOne},
+                                                   {"nothing", nothing},
+                                                   {"completed", completed}};
+    set(setting::RecordProgress, 1);
+    for (const auto& [what, answer] : rows) {
+        SCOPED_TRACE(what);
+        for (const FileType type : {CommaSeparated, Dif}) {
+            set(setting::ReceiveFileType, type);
+            set(setting::TransferDirection, 0);
+            emulator::clearJournal();
+            std::filesystem::remove(pcFile());
+            scripted::answerNext(TF_GET_DATA, answer);
+            receive(1);
+            if (type == CommaSeparated) {
+                EXPECT_EQ(pcFileBytes(), lines(3));
+            } else {
+                EXPECT_NE(pcFileBytes().find("TUPLES\r\n0,1\r\n"), std::string::npos);
+            }
+            EXPECT_EQ(number(setting::JobRecordsTotal), 0);
+            EXPECT_EQ(number(setting::TransferDirection), 1);
+            EXPECT_EQ(journalCount("ProgressDialogSetTotal("), 0u);
+            EXPECT_EQ(journalCount("SetSetting(*, 448 "), 4u);
+        }
+    }
+    EXPECT_TRUE(user.messages.empty());
 }
 
 // A length of 0 says nothing; any other is taken at its word.

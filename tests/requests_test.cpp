@@ -255,6 +255,19 @@ TEST_F(Requests, StatementWithoutRoomIsRefusedWithAMessage) {
     EXPECT_EQ(query(), "SELECT *  FROM QGPL/CUST ");
 }
 
+// Blanks at the end of a join go on to the host, but not with the count.
+TEST_F(Requests, CountIsJudgedWithoutTheBlanksAtItsEnd) {
+    set(setting::RecordProgress, 1);
+    set(setting::HostFileName, "A B");
+    std::string join = "t1.K = t2.K";
+    join.resize(4067, ' ');
+    emulator::setClauses(session, clauses("", "", "", "", "", join.c_str()));
+    const Strings& statements = sent();
+    ASSERT_EQ(statements.size(), 3u);
+    EXPECT_EQ(statements[0], "SELECT COUNT(*) FROM A B where t1.K = t2.K");
+    EXPECT_EQ(statements[2].size(), 4092u);
+}
+
 // An absent entry is skipped, and nothing composed.
 TEST_F(Requests, SessionWithoutClausesComposesNone) {
     emulator::Clauses none;

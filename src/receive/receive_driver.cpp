@@ -102,7 +102,7 @@ private:
     ZXFRPCSCLIENT& client_;
     settings::TransferSettings& settings_;
     client::DisplayPages pages_;
-    std::int32_t expectedCount_ = 0;  // 0 without a count query: every record is a progress step
+    std::int32_t expectedCount_ = 0;  // 0 when it is not known: every record is a progress step
     std::int32_t recordNumber_ = 1;
     services::Owned<Conversion> conversion_;
 };
@@ -157,8 +157,14 @@ bool ReceiveRun::countRecords() {
     if (settings_.recordProgress != 1 && !isDif()) return true;
     command(ProgressCommand::CountingRecords);
     const std::int32_t count = request::queryRecordCount(client_);
-    if (count < 0) return false;
+    if (count == request::CountFailed) return false;
     if (count == 0) return tellNoRecords();
+    if (count == request::CountUnknown) {
+        // Without a total the dialog only counts, but it is to know what.
+        services::SetSetting(client_.settings, id::TransferDirection,
+                             static_cast<std::int32_t>(services::Direction::FromHost));
+        return true;
+    }
     expectedCount_ = count;
     services::SetSetting(client_.settings, id::JobRecordsTotal, count);
     client::progress::setTotal(client_, services::Direction::FromHost, static_cast<std::uint32_t>(count));

@@ -1,7 +1,5 @@
 #include "request/select_statement.h"
 
-#include <algorithm>
-
 #include "Z7XFRPCS/settings.h"
 #include "bytes/byte_order.h"
 #include "messages/own_sentences.h"
@@ -14,7 +12,6 @@
 namespace request {
 namespace {
 
-constexpr std::int32_t QueryFailed = -1;
 constexpr std::uint32_t CountBytes = 4;
 
 // Of the clauses composed so far, which have no grouping parts yet: it is records that are counted, not groups.
@@ -23,8 +20,8 @@ bool composeCountStatement(ZXFRPCSCLIENT& client, std::string_view& statement) {
     if (!buffer) return false;
     StatementWriter writer(buffer);
     writer.append("SELECT COUNT(*)");
-    writer.append(client.requestText->view());
-    writer.shortenTo(static_cast<std::uint32_t>(text::trimmedEnd(writer.text()).size()));
+    // Only what is sent has to fit.
+    writer.append(text::trimmedEnd(client.requestText->view()));
     // By the router of the settings, not of the provider that is bound.
     if (services::GetSetting(client.settings, zhst::setting::RouterKind) == zhst::value::RouterAs400)
         writer.append(" FOR FETCH ONLY");
@@ -34,6 +31,12 @@ bool composeCountStatement(ZXFRPCSCLIENT& client, std::string_view& statement) {
 
 void fetchCountRecord(ZXFRPCSCLIENT& client) {
     client.tfSession->tfRequest(TF_GET_DATA, 0, 0, client.lastResult, nullptr, client.progressDialog);
+}
+
+std::int32_t countIn(const ZXFRPCSCLIENT& client) {
+    if (client.lastResult.dataLength < CountBytes) return CountUnknown;
+    const std::int32_t count = static_cast<std::int32_t>(bytes::highFirstSigned(client.tfSession->dataBuffer(), CountBytes));
+    return count < CountFailed ? CountUnknown : count;
 }
 
 // Providers that report the end of the count's single record have to be asked for it; the answer is not judged.
@@ -66,21 +69,17 @@ bool composeSelectStatement(ZXFRPCSCLIENT& client, std::string_view& statement) 
 
 std::int32_t queryRecordCount(ZXFRPCSCLIENT& client) {
     std::string_view statement;
-    if (!composeCountStatement(client, statement)) return QueryFailed;
-    sendStatement(client, statement, services::Direction::FromHost, client.progressDialog);
-    if (!checkLastResult(client, CountingRecords)) return QueryFailed;
-    // The statement stands where the count will; a provider that answers nothing counted nothing.
-    provider::TransferFunctionSession& tf = *client.tfSession;
-    std::fill_n(tf.dataBuffer(), CountBytes, '\0');
+    if (!composeCountStatement(client, statement)) return CountFailed;
+    sendStatement(client, statement, Direction::FromHost, client.progressDialog);
+    if (!checkLastResult(client, CountingRecords)) return CountFailed;
     fetchCountRecord(client);
-    if (!checkLastResult(client, CountingRecords)) return QueryFailed;
-    const auto count = static_cast<std::int32_t>(bytes::highFirstSigned(tf.dataBuffer(), CountBytes));
+    if (!checkLastResult(client, CountingRecords)) return CountFailed;
+    provider::TransferFunctionSession& tf = *client.tfSession;
+    const std::int32_t count = countIn(client);
     if (reportsEndOfCount(tf)) fetchCountRecord(client);
-    if (!sessionStands(client)) return QueryFailed;
+    if (!sessionStands(client)) return CountFailed;
     if (tf.tfIsAs400Mode()) tf.tfEndRequest();
-    if (count >= 0) return count;
-    messages::showOwnText(client.dialogOwner(), messages::sentence::BadRecordCount, client.progressDialog);
-    return QueryFailed;
+    return count;
 }
 
 }  // namespace request
