@@ -324,6 +324,15 @@ TEST_F(ReceiveDriver, RefusedWindowsAndFiles) {
     EXPECT_EQ(scripted::entries().back(), "TF_END_REQUEST");
 }
 
+TEST_F(ReceiveDriver, FieldWithoutATextFormIsNamedWithTheProgressHidden) {
+    hostFile.fields = {hostfields::raw(1, 9, 0, "LONGNUMBER", 20)};
+    hostFile.records = {std::string(9, '\0')};
+    receive(1);
+    ASSERT_EQ(user.messages.size(), 1u);
+    EXPECT_NE(user.messages[0].text.find("LONGNUMBER"), std::string::npos);
+    expectInOrder({"ProgressDialogHide(", "ShowMessageText(", "ProgressDialogShow(", "provider TF_END_REQUEST"});
+}
+
 // --- The display ------------------------------------------------------------------------------------------------
 
 TEST_F(ReceiveDriver, ColumnsAreAsWideAsTextOrName) {

@@ -463,8 +463,10 @@ TEST_F(Send, ExistingTargetIsReplacedWhenConfirmed) {
 TEST_F(Send, LayoutsThatCannotBeSent) {
     for (const auto& fields : {std::vector<std::string>{}, {hf::character("A", 4096), hf::character("B", 1)}}) {
         hostFile.fields = fields;
+        emulator::clearJournal();
         EXPECT_EQ(sendFile("AAA\r\n"), NothingSent);
         EXPECT_EQ(user.messages.size(), 1u);
+        expectInOrder({"ProgressDialogHide(", "ShowMessageText(", "ProgressDialogShow("});
     }
     hostFile.fields = {hf::character("A", 4096)};
     EXPECT_EQ(sendFile("AAA\r\n").at(0).size(), 4096u);

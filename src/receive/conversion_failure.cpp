@@ -13,7 +13,7 @@ void tellNoTextForm(const ZXFRPCSCLIENT& client, const record::HostField& field)
     char text[160];
     std::snprintf(text, sizeof(text), messages::sentence::NoTextForm, field.name(),
                   static_cast<unsigned>(field.length()));
-    messages::showOwnText(client.messageOwner(), text);
+    messages::showOwnText(client.messageOwner(), text, client.progressDialog);
 }
 
 }  // namespace

@@ -19,12 +19,12 @@ bool RecordSender::prepare() {
     for (const record::PlannedField& each : layout_) {
         hostLength_ += each.plan.bytes;
         if (hostLength_ > provider::BufferSize) {
-            messages::showOwnText(owner, messages::sentence::SentRecordTooLong);
+            messages::showOwnText(owner, messages::sentence::SentRecordTooLong, client_.progressDialog);
             return false;
         }
     }
     if (layout_.isEmpty()) {
-        messages::showOwnText(owner, messages::sentence::NoFields);
+        messages::showOwnText(owner, messages::sentence::NoFields, client_.progressDialog);
         return false;
     }
     // A field without a length is refused under its name, with the first record.

@@ -182,7 +182,7 @@ bool SendRun::prepareData() {
 
 bool SendRun::showFileType() {
     if (client::progress::showFileType(client_, settings_.sendFileType)) return true;
-    messages::showOwnText(owner(), messages::sentence::UnknownFileType);
+    messages::showOwnText(owner(), messages::sentence::UnknownFileType, client_.progressDialog);
     return false;
 }
 
