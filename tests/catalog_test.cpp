@@ -158,12 +158,42 @@ TEST_F(Catalog, AnswersThatAreNoRecords) {
     EXPECT_EQ(library.pcsGetFirstHostFilename(session + 1000, "", &guarded.entry), 3u);
 }
 
-TEST_F(Catalog, TextThatCannotBeConvertedIsAFailure) {
-    hostFile.catalogue = {padded("QGPL", 60)};
-    setFault(&emulator::Faults::failConversion, true);
-    EXPECT_EQ(first(""), 3u);
-    EXPECT_EQ(user.messages.size(), 1u);
-    EXPECT_EQ(journalCount("provider TF_END_REQUEST"), 1u);
+// The list goes on, and nothing of the entry before shows in its place.
+TEST_F(Catalog, TextThatCannotBeConvertedEndsItsEntryAlone) {
+    for (const std::uint32_t kind : {0u, 2u}) {
+        clear();
+        guarded.entry.entryKind = kind;
+        hostFile.catalogue.assign(3, padded("QGPL", 10) + padded("Library", 61));
+        if (kind == 0) hostFile.catalogue.assign(3, padded("QGPL", 10) + padded("Library", 50));
+        EXPECT_EQ(first(""), 0u);
+        const std::string before = name();
+        setFault(&emulator::Faults::failConversion, true);
+        EXPECT_EQ(next(), 0u);
+        EXPECT_EQ(name(), "");
+        EXPECT_EQ(+guarded.entry.status, 0u);
+        if (kind == 0) {
+            EXPECT_EQ(description(), "");
+        }
+        emulator::setFaults({});
+        EXPECT_EQ(next(), 0u);
+        EXPECT_EQ(name(), before);
+    }
+    EXPECT_EQ(journalCount("provider TF_END_REQUEST"), 0u);
+}
+
+// Its length says nothing about a field's record: what stands in the buffer counts.
+TEST_F(Catalog, FieldIsReadWholeWhateverItsLength) {
+    const std::string column = padded("CUSTNO", 10) + hostText("CHAR ") + bytesOf("0400") + std::string(4, '\0') +
+                               padded("Customer number", 50);
+    for (const std::uint32_t length : {0u, 12u, 71u, 9999u}) {
+        SCOPED_TRACE(length);
+        guarded.entry.entryKind = 2;
+        Answer answer = Answer::data(column);
+        answer.dataLength = length;
+        scripted::answerNext(TF_GET_DATA, answer);
+        EXPECT_EQ(next(), 0u);
+        EXPECT_EQ(name(), "CUSTNO    \tCustomer number\nType: CHAR    Length: 1024");
+    }
 }
 
 TEST_F(Catalog, ConnectionDialogCanBeCancelled) {
@@ -208,7 +238,12 @@ TEST_F(Catalog, DemonstrationHasItsOwnLists) {
         }
         EXPECT_EQ(names, row.names);
     }
+    // Also while a transfer runs.
     guarded.entry.entryKind = 0;
+    std::uint32_t found = 0;
+    user.onPump = [&] { found += first("") == 0 && next() == 0 && next() == 0 && next() == 2; };
+    receive();
+    EXPECT_GT(found, 0u);
     EXPECT_EQ(first(std::string(300, 'A') + "/"), 0u);
     EXPECT_EQ(first("L/" + std::string(5000, 'A')), 0u);
     EXPECT_EQ(name().size(), 256u);

@@ -15,8 +15,6 @@ inline constexpr char NotCompleted[] =
 inline constexpr char StatementTooLong[] =
     "The request for the host does not fit: the file list, the fields and the conditions together may have 4095 "
     "characters. Shorten them and try again.";
-inline constexpr char EntryNotConverted[] =
-    "An entry of the host's list cannot be converted to the code page of the PC.";
 inline constexpr char DescriptionTooShort[] =
     "The host's description of a field is shorter than 40 bytes. The fields behind it are not read.";
 inline constexpr char TooManyDescriptions[] =

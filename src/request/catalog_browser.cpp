@@ -39,15 +39,12 @@ std::uint32_t fillHostCatalogEntry(ZXFRPCSCLIENT& client, HostCatalogEntry& entr
     if (client.lastResult.returnCode != TF_SUCCESS) return finishListing(client, entry);
     const char* buffer = client.tfSession->dataBuffer();
     if (!buffer) return CatalogFailure;
-    const std::string_view record(buffer, std::min(client.lastResult.dataLength, provider::BufferSize));
-    const bool formatted = entry.entryKind == CatalogFieldListing ? formatColumnEntry(client, record, entry)
-                                                                  : formatFileEntry(client, record, entry);
+    if (entry.entryKind == CatalogFieldListing)
+        formatColumnEntry(client, buffer, entry);
+    else
+        formatFileEntry(client, {buffer, std::min(client.lastResult.dataLength, provider::BufferSize)}, entry);
     entry.status = TF_SUCCESS;
-    if (formatted) return CatalogEntryDelivered;
-    messages::showOwnText(client.messageOwner(), messages::sentence::EntryNotConverted);
-    entry.name[0] = '\0';
-    endRequest(client);
-    return CatalogFailure;
+    return CatalogEntryDelivered;
 }
 
 // The buffer is cleared first: a record shorter than its layout has zeros where it ends.
@@ -94,18 +91,20 @@ std::uint32_t listFirst(ZXFRPCSCLIENT& client, HostCatalogEntry& entry, const ch
 // Turned away while a transfer runs or the provider works on a call: a listing would write over what stands in the
 // shared buffer.
 std::uint32_t getFirstHostFilename(ZXFRPCSCLIENT& client, const char* filter, HostCatalogEntry* entry) {
-    if (!entry || client.isBusy()) return CatalogFailure;
+    if (!entry) return CatalogFailure;
     if (!filter) filter = "";
+    // The lists of the demonstration need nothing that a transfer has in use.
     if (client.isDemonstration()) return firstDemoEntry(client, filter, *entry);
+    if (client.isBusy()) return CatalogFailure;
     const std::uint32_t result = listFirst(client, *entry, filter);
     client.browseFilter = nullptr;
     return result;
 }
 
 std::uint32_t getNextHostFilename(ZXFRPCSCLIENT& client, HostCatalogEntry* entry) {
-    if (!entry || client.isBusy()) return CatalogFailure;
+    if (!entry) return CatalogFailure;
     if (client.isDemonstration()) return nextDemoEntry(client, *entry);
-    if (!client.tfStart() || !fetchRecord(client)) return CatalogFailure;
+    if (client.isBusy() || !client.tfStart() || !fetchRecord(client)) return CatalogFailure;
     return fillHostCatalogEntry(client, *entry);
 }
 

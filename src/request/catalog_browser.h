@@ -14,7 +14,7 @@
 namespace request {
 
 // Both return a CatalogResult. They write into `entry` what its comments say and nothing beyond; 3 without a message of
-// the entry leaves it as it was.
+// the entry leaves it as it was. A listing that a stop of the session ends is 3 too.
 std::uint32_t getFirstHostFilename(ZXFRPCSCLIENT& client, const char* filter, HostCatalogEntry* entry);
 std::uint32_t getNextHostFilename(ZXFRPCSCLIENT& client, HostCatalogEntry* entry);
 

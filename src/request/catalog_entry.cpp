@@ -12,7 +12,6 @@ namespace {
 constexpr std::uint32_t LabelSize = 40;
 constexpr std::uint32_t TypeBytes = 5;
 constexpr std::uint32_t ColumnDescription = 50;
-constexpr std::uint32_t LongestColumnRecord = 75;
 
 // Bytes of the name in a record of a library, file or member: its length is all that tells the lists apart.
 std::size_t nameBytes(std::size_t recordLength) {
@@ -81,14 +80,12 @@ private:
     std::size_t length_ = 0;
 };
 
-// A field's record, with zeros for what it is short of.
+// A field's record.
 struct ColumnRecord {
     // The names of a list over several files are longer by their qualifier, "t1."; the length stands one byte further
     // from the type than it does behind a plain name.
-    ColumnRecord(std::string_view record, std::int32_t fileCount)
-        : nameWidth(fileCount <= 1 ? 10 : 13), lengthAt(fileCount <= 1 ? 15 : 19) {
-        std::copy_n(record.data(), std::min<std::size_t>(record.size(), LongestColumnRecord), bytes);
-    }
+    ColumnRecord(const char* record, std::int32_t fileCount)
+        : nameWidth(fileCount <= 1 ? 10 : 13), lengthAt(fileCount <= 1 ? 15 : 19), bytes(record) {}
     std::string_view name() const { return {bytes, nameWidth}; }
     std::string_view type() const { return {bytes + nameWidth, TypeBytes}; }
     std::uint32_t length() const { return bytes::highFirst16(bytes + lengthAt); }
@@ -96,30 +93,32 @@ struct ColumnRecord {
 
     std::uint32_t nameWidth;
     std::uint32_t lengthAt;
-    char bytes[LongestColumnRecord] = {};
+    const char* bytes;
 };
 
 }  // namespace
 
 // The parts are converted one by one, so that shift bytes of one never move the other.
-bool formatFileEntry(const ZXFRPCSCLIENT& client, std::string_view record, HostCatalogEntry& entry) {
+void formatFileEntry(const ZXFRPCSCLIENT& client, std::string_view record, HostCatalogEntry& entry) {
     const std::size_t nameEnd = nameBytes(record.size());
+    const bool isDescribed = record.size() > nameEnd;
+    // What is not reached is not the text of the entry before.
+    entry.name[0] = '\0';
+    if (isDescribed) entry.description[0] = '\0';
     const PcText name(client, record.substr(0, nameEnd));
-    if (!name.converts()) return false;
+    if (!name.converts()) return;
     text::copyCut(name.view(), entry.name, sizeof(entry.name));
-    if (record.size() == nameEnd) return true;
+    if (!isDescribed) return;
     const PcText description(client, record.substr(nameEnd));
-    if (!description.converts()) return false;
-    text::copyCut(description.view(), entry.description, sizeof(entry.description));
-    return true;
+    if (description.converts()) text::copyCut(description.view(), entry.description, sizeof(entry.description));
 }
 
-bool formatColumnEntry(const ZXFRPCSCLIENT& client, std::string_view record, HostCatalogEntry& entry) {
+void formatColumnEntry(const ZXFRPCSCLIENT& client, const char* record, HostCatalogEntry& entry) {
     const ColumnRecord column(record, entry.fileCount);
     EntryName name(entry);
-    if (!name.appendHostText(client, column.name())) return false;
+    if (!name.appendHostText(client, column.name())) return;
     name.append("\t");
-    if (!name.appendHostText(client, column.description())) return false;
+    if (!name.appendHostText(client, column.description())) return;
     name.trimEnd();
     name.append("\n");
     name.appendLabel(client, zhst::text::TypeLabel);
@@ -127,13 +126,12 @@ bool formatColumnEntry(const ZXFRPCSCLIENT& client, std::string_view record, Hos
     if (client.tfSession->tfIsAs400Mode())
         name.append(column.type());
     else if (!name.appendHostText(client, column.type()))
-        return false;
+        return;
     name.append("   ");
     name.appendLabel(client, zhst::text::LengthLabel);
     char digits[8];
     const auto end = std::to_chars(digits, digits + sizeof(digits), column.length()).ptr;
     name.append({digits, static_cast<std::size_t>(end - digits)});
-    return true;
 }
 
 }  // namespace request

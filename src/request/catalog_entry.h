@@ -7,13 +7,17 @@
 
 namespace request {
 
-// Both take a catalogue record of any length. False when its text cannot be converted from the host's code page; the
-// entry then has what was converted before.
+// Kind of a listing, set by the caller in the entry.
+inline constexpr std::uint32_t FieldListing = 2;
 
-// Name and description, with the blanks that pad them. A record without a description leaves the entry's as it was.
-bool formatFileEntry(const ZXFRPCSCLIENT& client, std::string_view record, HostCatalogEntry& entry);
+// A text that cannot be converted from the host's code page ends the entry, which then has what was converted before.
 
-// "NAME <tab> description <line feed> type label, type, length label, length" as the entry's name.
-bool formatColumnEntry(const ZXFRPCSCLIENT& client, std::string_view record, HostCatalogEntry& entry);
+// Name and description of a record of any length, with the blanks that pad them. A record without a description leaves
+// the entry's as it was.
+void formatFileEntry(const ZXFRPCSCLIENT& client, std::string_view record, HostCatalogEntry& entry);
+
+// "NAME <tab> description <line feed> type label, type, length label, length" as the entry's name. The record stands at
+// the start of a buffer that had zeros before it, and is read as long as its layout is.
+void formatColumnEntry(const ZXFRPCSCLIENT& client, const char* record, HostCatalogEntry& entry);
 
 }  // namespace request
