@@ -20,9 +20,6 @@ inline constexpr char DescriptionTooShort[] =
 inline constexpr char TooManyDescriptions[] =
     "The host does not stop describing fields. The fields behind the last are not read.";
 
-inline constexpr char TextNotConverted[] =
-    "A text of the file cannot be converted between the code pages of the host and the PC.";
-inline constexpr char NoTextServices[] = "This session cannot convert the text of host code page 43.";
 // Field name, bytes.
 inline constexpr char NoTextForm[] = "Field %s is a binary number of %u bytes, which has no text form.";
 inline constexpr char HostRecordTooLong[] =

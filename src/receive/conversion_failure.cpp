@@ -2,7 +2,6 @@
 
 #include <cstdio>
 
-#include "client/text_failure.h"
 #include "messages/own_sentences.h"
 #include "record/field_plan.h"
 
@@ -26,10 +25,7 @@ void tellConversionFailure(const ZXFRPCSCLIENT& client, const record::Conversion
         case record::Outcome::NoTextForm:
             tellNoTextForm(client, result.field->field);
             break;
-        case record::Outcome::TextNotConverted:
-            client::tellTextNotConverted(client);
-            break;
-        default:
+        default:  // a text that was not converted has been reported by the emulator's converter
             break;
     }
 }

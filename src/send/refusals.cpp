@@ -1,6 +1,5 @@
 #include "send/refusals.h"
 
-#include "client/text_failure.h"
 #include "record/field_plan.h"
 #include "text/double_byte.h"
 
@@ -35,9 +34,7 @@ void refuseRecord(const ZXFRPCSCLIENT& client, const record::ConversionResult& r
             break;
         case record::Outcome::FieldWithoutLength:
             return tellFieldWithoutLength(client, result.field->field);
-        case record::Outcome::TextNotConverted:
-            return client::tellTextNotConverted(client);
-        default:
+        default:  // a text that was not converted has been reported by the emulator's converter
             return;
     }
     client.tfSession->tfEndData();

@@ -27,13 +27,6 @@ public:
     void setConvertToOem(std::int32_t convertToOem) { convertToOem_ = convertToOem; }
 
     bool isCodePage43() const { return isCodePage43_; }
-    // Page 43 in a session without the text services' entries: its conversions fail.
-    bool lacksTextServices() const {
-        return !dbcsTablesLoaded_ && isCodePage43_ &&
-               (!sessionServices_ || !sessionServices_->hostTextToPc() || !sessionServices_->pcTextToHost());
-    }
-    // A double-byte page some of whose tables found no memory: conversions that need them fail.
-    bool lacksTables() const { return dbcsTablesLoaded_ && (!dbcsToPcTable_ || !dbcsToHostTable_); }
 
     // Both return 0 for success, otherwise the failure value of the way taken. Source and destination do not overlap.
     // hostToPcText: the destination has `capacity` bytes, and `convertedLength` (may be null) is set to 0 except by the

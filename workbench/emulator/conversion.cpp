@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include <map>
+#include <string>
 #include <tuple>
 
 #include "Z7XFRPCS/conversion.h"
@@ -10,6 +11,8 @@
 #include "emulator/code_pages.h"
 #include "emulator/faults.h"
 #include "emulator/journal.h"
+#include "emulator/messages.h"
+#include "emulator/user_interface.h"
 
 namespace emulator {
 namespace {
@@ -33,6 +36,16 @@ std::uint32_t convert(Session* session, std::uint32_t direction, std::uint32_t l
     auto* bytes = static_cast<std::uint8_t*>(buffer);
     for (std::uint32_t i = 0; i < length; ++i) bytes[i] = table[bytes[i]];
     return 0;
+}
+
+void tellRefusal(const Session& session) {
+    if (!messageEnabled(0)) return;
+    constexpr std::uint32_t Exclamation = 0x30;
+    MessageBox box = readyTextBox(session.handle(SessionPart::Session));
+    box.flags = Exclamation;
+    box.text = "A text cannot be converted between host code page " +
+               std::to_string(session.numbers[zhst::setting::HostCodePage]) + " and the code page of the PC.";
+    userInterface().showMessage(box);
 }
 
 // Made once per pair of pages: a table of pairs takes a walk over a whole page.
@@ -74,7 +87,10 @@ using journalled::Call;
 std::uint32_t ZHST_CALL zhstConvertHostText(ZhstConverter converter, std::uint32_t direction, std::uint32_t length,
                                             void* buffer) {
     const Call call("ConvertHostText", converter, direction, length, journalled::Bytes{buffer, length});
-    return call.result(convert(findSession(converter, SessionPart::Converter), direction, length, buffer));
+    Session* session = findSession(converter, SessionPart::Converter);
+    const std::uint32_t failure = convert(session, direction, length, buffer);
+    if (failure != 0 && session) tellRefusal(*session);
+    return call.result(failure);
 }
 
 void ZHST_CALL zhstLoadCodeTable(ZhstSession session, void* table, std::uint32_t kind, std::int32_t hostCodePage,
