@@ -7,9 +7,6 @@
 
 namespace request {
 
-// Kind of a listing, set by the caller in the entry.
-inline constexpr std::uint32_t FieldListing = 2;
-
 // A text that cannot be converted from the host's code page ends the entry, which then has what was converted before.
 
 // Name and description of a record of any length, with the blanks that pad them. A record without a description leaves

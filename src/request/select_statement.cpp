@@ -70,7 +70,7 @@ bool composeSelectStatement(ZXFRPCSCLIENT& client, std::string_view& statement) 
 std::int32_t queryRecordCount(ZXFRPCSCLIENT& client) {
     std::string_view statement;
     if (!composeCountStatement(client, statement)) return CountFailed;
-    sendStatement(client, statement, Direction::FromHost, client.progressDialog);
+    sendStatement(client, statement, services::Direction::FromHost, client.progressDialog);
     if (!checkLastResult(client, CountingRecords)) return CountFailed;
     fetchCountRecord(client);
     if (!checkLastResult(client, CountingRecords)) return CountFailed;
