@@ -15,8 +15,13 @@ void look(void* module, const char* name, Function*& function) {
     std::exit(2);
 }
 
+std::string libraryPath() {
+    const char* const named = std::getenv("Z7X_LIBRARY");
+    return named && *named ? named : binFolder() + "/" + libraryFileName();
+}
+
 Library load() {
-    void* const module = openLibrary((binFolder() + "/" + libraryFileName()).c_str());
+    void* const module = openLibrary(libraryPath().c_str());
     if (!module) std::exit(2);
     Library library;
     look(module, "newZXFRPCSCLIENT", library.newZXFRPCSCLIENT);

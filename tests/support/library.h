@@ -21,8 +21,8 @@ struct Library {
     decltype(&::runtimeSettingNotification) runtimeSettingNotification;
     decltype(&::xferCleanup) xferCleanup;
 
-    // Loaded on first use, once per process, from binFolder(). A library that does not load, or lacks an export, ends
-    // the process: no test could say anything then.
+    // Loaded on first use, once per process: the one that $Z7X_LIBRARY names, or that of binFolder(). A library that
+    // does not load, or lacks an export, ends the process: no test could say anything then.
     static const Library& get();
 };
 

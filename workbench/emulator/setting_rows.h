@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "Z7XFRPCS/settings.h"
 
 // The settings as rows, for whoever goes through them all.

@@ -1,0 +1,62 @@
+#include "compare/pc_files.h"
+
+#include <algorithm>
+
+namespace compare {
+namespace {
+
+const std::string Marks = ",.;:-+ ?A\"\xB7";
+const std::string Controls = "\xFF\x0E\x1A\r\n\t\"\x80";
+
+std::string oddNumber(Random& random, std::string number) {
+    const std::size_t at = random.below(number.size());
+    switch (random.below(4)) {
+        case 0:
+            number[at] = random.pick(Marks);
+            return number;
+        case 1:
+            return number.insert(random.below(number.size() + 1), 1, random.pick(Marks));
+        case 2:
+            return number.replace(at, 1, 1, random.pick(std::string("0123456789")));
+        default:
+            return random.pick<std::string>(
+                {"", number + " ", number + "  ", "0" + number, number + "0", number + "9", number + "-", "-" + number,
+                 "-0", " " + number, '"' + number + '"', "2147483648", "-2147483648", "70000", "0x" + number,
+                 number + std::string(80, '0') + "5", std::string(20, '0') + number, "98765432109876543210" + number});
+    }
+}
+
+// One number in so many. A longer one mostly stands in its column all the same, where blanks give way to it.
+std::string respelled(Random& random, const std::string& text, std::uint32_t chances) {
+    static const std::string NumberCharacters = "0123456789.-";
+    std::string made;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::string number = text.substr(at, text.find_first_not_of(NumberCharacters, at) - at);
+        const std::string odd = number.empty() || !random.oneIn(chances) ? number : oddNumber(random, number);
+        for (std::size_t more = number.size(); more < odd.size() && made.ends_with(' ') && !random.oneIn(8); ++more)
+            made.pop_back();
+        made += number.empty() ? std::string(1, text[at]) : odd;
+        at += std::max<std::size_t>(number.size(), 1);
+    }
+    return made;
+}
+
+void damage(Random& random, std::string& text) {
+    const std::size_t at = random.below(text.size() + 1);
+    if (random.oneIn(2)) text.erase(at, random.between(1, 8));
+    if (random.oneIn(2)) text.insert(std::min(at, text.size()), random.pick({1, 1, 1, 2, 5000}), random.pick(Controls));
+}
+
+}  // namespace
+
+std::string altered(Random& random, std::string text) {
+    const bool cr = random.oneIn(12), lf = random.oneIn(12);
+    if (cr || lf) std::erase(text, cr ? '\n' : '\r');
+    if (random.oneIn(12)) text.resize(text.size() - std::min<std::size_t>(text.size(), 2));
+    if (random.oneIn(12)) text += '\x1A';
+    if (!random.oneIn(3)) text = respelled(random, text, random.pick({5u, 15u, 60u}));
+    while (random.odd(5)) damage(random, text);
+    return text;
+}
+
+}  // namespace compare
