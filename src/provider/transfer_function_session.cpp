@@ -150,7 +150,7 @@ void TransferFunctionSession::tfRequest(std::uint32_t function, std::uint32_t le
 
 // What the provider returned goes with the provider.
 void TransferFunctionSession::carryOutPendingStop(TfResult& result) {
-    stop(interruption_);
+    stop(takeInterruption());
     if (isStarted()) return;
     connection_.read(owner_.settings);
     result = {TF_NOT_STARTED};

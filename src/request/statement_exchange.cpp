@@ -44,8 +44,9 @@ bool sessionStands(ZXFRPCSCLIENT& client) {
 }
 
 // The session may have been stopped since the last exchange, and its buffer with it: a new one is asked for each time.
+// One that stands is not asked to start: it may owe a stop, and a request may be open.
 char* requestBuffer(ZXFRPCSCLIENT& client) {
-    if (client.tfStart()) return client.tfSession->dataBuffer();
+    if ((client.tfSession && client.tfSession->isStarted()) || client.tfStart()) return client.tfSession->dataBuffer();
     // A stop may have come in while the provider was being bound.
     if (client.tfSession) sessionStands(client);
     return nullptr;
