@@ -154,8 +154,8 @@ void onStoreWrite(std::function<void(std::string_view code, std::string_view val
 //     LockStoreList(1, X4RP) = 1
 // Texts and bytes stand in double quotes, with \r \n \t \\ \" and \xHH; handles and numbers in decimal; store parts by
 // their code; the number of a setting, a message or a text of the catalogue is followed by its name; addresses that are
-// no texts as "*", null as 0. Bytes beyond 64 are cut, with "..." behind the quote. Calls without a result have no
-// " = ". Allocations are not journalled.
+// no texts as "*", null as 0. Bytes beyond 64 are cut, with "..." behind the quote, unless texts are wanted whole.
+// Calls without a result have no " = ". Allocations are not journalled.
 //
 // Arguments stand in their order, the object of an object operation left out. A buffer or handle that the call fills
 // shows what it was filled with:
@@ -166,12 +166,15 @@ void onStoreWrite(std::function<void(std::string_view code, std::string_view val
 // Converted text shows as it was before; records stand as their fields, so RunAppCommand(2, 67, 24, 3, 32, "A.SET").
 // A line is written when its call begins: what happens inside a call follows it, and its result is added at its end.
 // Operations are FileObject, PathServices, CodePageServices and SessionServices, a period and the name they have in
-// objects.h; the scrolling box is zhstMessageBox_scroll.
-void journalOn(bool on);
+// objects.h; the scrolling box is zhstMessageBox_scroll. What the library asks of the shell stands among them, as
+//     ShellExecuteA("EXCEL.EXE", "C:\\DATA\\CUST.DIF") = 33
+enum class JournalTexts { Cut, Whole };
+void journalOn(bool on, JournalTexts texts = JournalTexts::Cut);
 const std::vector<std::string>& journal();
 void clearJournal();
-// A line of the program's own, in its place among the others.
+// A line of the program's own, in its place among the others, and a text as the lines show it, whole.
 void note(const std::string& line);
+std::string quoted(std::string_view text);
 
 // --- Faults and accounts -----------------------------------------------------------------------------------------
 

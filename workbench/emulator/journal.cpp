@@ -13,6 +13,7 @@ namespace {
 std::vector<std::string> lines;
 // A call that was under way when the journal was cleared must not write its result into a younger line.
 std::uint64_t journalNumber = 0;
+std::size_t longestText = 0;
 
 std::string_view settingName(std::uint32_t id) {
     for (const SettingRow& row : settingRows)
@@ -42,11 +43,8 @@ namespace journalled {
 bool active = false;
 
 void append(std::string& line, std::string_view text) {
-    constexpr std::size_t Longest = 64;
-    line += '"';
-    for (const char byte : text.substr(0, Longest)) appendByte(line, static_cast<unsigned char>(byte));
-    line += '"';
-    if (text.size() > Longest) line += "...";
+    line += quoted(text.substr(0, longestText));
+    if (text.size() > longestText) line += "...";
 }
 
 void append(std::string& line, const char* text) {
@@ -102,7 +100,10 @@ void reset() {
 
 }  // namespace journalled
 
-void journalOn(bool on) { journalled::active = on; }
+void journalOn(bool on, JournalTexts texts) {
+    journalled::active = on;
+    longestText = texts == JournalTexts::Cut ? 64 : std::string_view::npos;
+}
 
 const std::vector<std::string>& journal() { return lines; }
 
@@ -113,6 +114,12 @@ void clearJournal() {
 
 void note(const std::string& line) {
     if (journalled::active) lines.push_back(line);
+}
+
+std::string quoted(std::string_view text) {
+    std::string shown = "\"";
+    for (const char byte : text) appendByte(shown, static_cast<unsigned char>(byte));
+    return shown + '"';
 }
 
 }  // namespace emulator

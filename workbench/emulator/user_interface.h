@@ -2,9 +2,11 @@
 
 #include "emulator/emulator.h"
 
-// The user that is set, never none.
 namespace emulator {
 
+// The user that is set, never none.
 UserInterface& userInterface();
+// The shell, which is played by the user interface; both texts are there.
+std::int32_t askShell(const char* file, const char* parameters);
 
 }  // namespace emulator

@@ -10,9 +10,7 @@
 namespace emulator {
 namespace {
 
-std::int32_t shellExecute(const char* file, const char* parameters) {
-    return userInterface().shellExecute(file, parameters);
-}
+std::int32_t shellExecute(const char* file, const char* parameters) { return askShell(file, parameters); }
 
 bool refuseGlobalAlloc() { return faults().refuseGlobalMemory; }
 

@@ -20,7 +20,7 @@ BOOL WINAPI isWindow(HWND window) { return window != nullptr; }
 HWND WINAPI lastActivePopup(HWND window) { return window; }
 
 HINSTANCE WINAPI shellExecute(HWND, const char*, const char* file, const char* parameters, const char*, INT) {
-    const std::int32_t result = userInterface().shellExecute(file ? file : "", parameters ? parameters : "");
+    const std::int32_t result = askShell(file ? file : "", parameters ? parameters : "");
     return reinterpret_cast<HINSTANCE>(static_cast<std::intptr_t>(result));
 }
 
