@@ -91,27 +91,6 @@ TEST_F(Requests, CountIsAskedForOnlyWhenItIsNeeded) {
     EXPECT_EQ(sent().size(), 2u);
     set(setting::ReceiveFileType, Dif);
     EXPECT_EQ(sent().size(), 3u);
-    // Some providers want the fetch behind the count, and the AS/400 client the end of the request.
-    const struct {
-        std::int32_t transport;
-        std::ptrdiff_t fetches, ends;
-    } rows[] = {{2, 1, 0}, {8, 2, 0}, {5, 2, 0}, {30, 2, 1}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.transport);
-        useTransport(row.transport);
-        const auto before = scripted::calls().size();
-        receive();
-        std::ptrdiff_t fetches = 0, ends = 0;
-        bool counting = false;
-        for (auto i = before; i < scripted::calls().size(); ++i) {
-            const auto& call = scripted::calls()[i];
-            if (call.function == TF_SEND_REQUEST) counting = call.request.rfind("SELECT COUNT", 0) == 0;
-            fetches += counting && call.function == TF_GET_DATA;
-            ends += counting && call.function == TF_END_REQUEST;
-        }
-        EXPECT_EQ(fetches, row.fetches);
-        EXPECT_EQ(ends, row.ends);
-    }
 }
 
 TEST_F(Requests, DesignationOfTheHostSystem) {
@@ -179,9 +158,6 @@ TEST_F(Requests, OptionsAsText) {
         set(setting::SortSequence, row.sequence);
         EXPECT_EQ(sent()[0], std::string("OPTIONS ") + row.text);
     }
-    const std::string longest(300, 'S');
-    set(setting::SortSequence, longest + "CUT");
-    EXPECT_NE(sent()[0].find(" SRTSEQ('" + longest + "') "), std::string::npos);
 }
 
 TEST_F(Requests, OptionsAsABlockEndAtTheFirstZeroByteOrTheirEnd) {
@@ -253,6 +229,30 @@ TEST_F(Requests, StatementWithoutRoomIsRefusedWithAMessage) {
     }
     emulator::setClauses(session, {});
     EXPECT_EQ(query(), "SELECT *  FROM QGPL/CUST ");
+}
+
+TEST_F(Requests, TextsOfSettingsEndAtTheirSize) {
+    const struct {
+        std::uint32_t id;
+        std::size_t size;
+        const char *before, *behind;  // in the statement
+    } rows[] = {{setting::HostFileName, 1024, "REPLACE * into ", " CRTFILE(YES) "},
+                {setting::FileText, 50, " FILETEXT('", "') "},
+                {setting::MemberText, 50, " MBRTEXT('", "') "},
+                {setting::ReferenceFile, 300, " REFFILE(", ") "},
+                {setting::SortSequence, 300, " SRTSEQ('", "') "}};
+    set(setting::HostFileType, 2);
+    set(setting::SendFileType, 0);
+    writePcFile("ALPHA\r\n");
+    for (const auto& row : rows) {
+        const std::string kept = std::string(row.size - 1, 'S') + "T";
+        set(row.id, kept + "CUT");
+        hostFile.statements.clear();
+        send();
+        ASSERT_EQ(hostFile.statements.size(), 2u);
+        const std::string said = hostFile.statements[0] + hostFile.statements[1];
+        EXPECT_NE(said.find(row.before + kept + row.behind), std::string::npos) << row.before << said;
+    }
 }
 
 // Blanks at the end of a join go on to the host, but not with the count.
