@@ -42,49 +42,6 @@ protected:
 
 std::string padded(const std::string& text, std::size_t length) { return HostRecord().text(text, length); }
 
-TEST_F(Catalog, FilesAreListedToTheEnd) {
-    const struct { std::size_t name, description; } rows[] = {{10, 50}, {21, 54}, {33, 50}, {44, 52}, {0, 70}};
-    for (const auto& row : rows)
-        hostFile.catalogue.push_back(padded("QGPL", row.name) + padded("Library", row.description));
-    std::uint32_t result = first("QGPL/");
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        ASSERT_EQ(result, 0u);
-        EXPECT_EQ(name(), (row.name ? "QGPL" : "") + std::string(row.name ? row.name - 4 : 0, ' '));
-        EXPECT_EQ(description(), "Library" + std::string(row.description - 7, ' '));
-        EXPECT_EQ(+guarded.entry.status, 0u);
-        result = next();
-    }
-    EXPECT_EQ(result, 2u);
-    EXPECT_EQ(+guarded.entry.status, 0x1FFFu);
-    EXPECT_EQ(name(), "");
-    EXPECT_EQ(hostFile.statements, std::vector<std::string>{"EXTRACT TABLES QGPL/"});
-    EXPECT_EQ(journalCount("provider TF_END_REQUEST"), 0u);
-}
-
-TEST_F(Catalog, FieldsComeInBothLayouts) {
-    for (const bool as400 : {false, true}) {
-        library.xferCleanup(session);
-        useTransport(as400 ? 30 : 2);
-        for (const int files : {1, 2}) {
-            clear();
-            guarded.entry.entryKind = 2;
-            guarded.entry.fileCount = files;
-            const std::string type = as400 ? std::string("CHAR\0", 5) : hostText("CHAR ");
-            const std::string column = padded(files == 2 ? "t1.CUSTNO" : "CUSTNO", files == 2 ? 13 : 10) + type +
-                                       (files == 2 ? std::string(1, '\0') : "") + bytesOf("0400") +
-                                       std::string(4, '\0') + padded("Customer number", 50);
-            hostFile.catalogue = {column};
-            hostFile.statements.clear();
-            ASSERT_EQ(first(""), 0u);
-            EXPECT_EQ(hostFile.statements, std::vector<std::string>{"EXTRACT COLUMNS"});
-            EXPECT_EQ(name(), std::string(files == 2 ? "t1.CUSTNO    " : "CUSTNO    ") +
-                                  "\tCustomer number\nType: CHAR" + (as400 ? "" : " ") + "   Length: 1024");
-            EXPECT_EQ(next(), 2u);
-        }
-    }
-}
-
 TEST_F(Catalog, RecordsOfEveryLengthStayInTheEntry) {
     const std::string bytes(5000, static_cast<char>(0xC1));
     for (const std::uint32_t kind : {0u, 2u}) {
@@ -213,31 +170,6 @@ TEST_F(Catalog, EachAllocationFails) {
 
 TEST_F(Catalog, DemonstrationHasItsOwnLists) {
     set(setting::ConnectionType, 3);
-    const struct {
-        std::uint32_t kind;
-        std::int32_t files;
-        const char *filter, *names;
-    } rows[] = {{0, 1, "", "DEMO SALES STOCK "},
-                {0, 1, "LONGLIBNAME1", "LONGLIBNAM LONGLIBNAM LONGLIBNAM "},
-                {0, 1, "LONGLIBNAME1/", "LONGLIBNAM/CUSTOMERS LONGLIBNAM/ORDERS LONGLIBNAM/PRICES "},
-                {0, 1, "L/F", "L/F(FIRST) L/F(SECOND) L/F(THIRD) "},
-                {0, 1, "QGPL/CUST(MBR)", ""},
-                {2, 1, "x", "CUSNUM LASTNAME STREET CITY ZIPCODE BALANCE "},
-                {2, 2, "x",
-                 "t1.CUSNUM t1.LASTNAME t1.STREET t1.CITY t1.ZIPCODE t1.BALANCE "
-                 "t2.CUSNUM t2.LASTNAME t2.STREET t2.CITY t2.ZIPCODE t2.BALANCE "}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.filter);
-        guarded.entry.entryKind = row.kind;
-        guarded.entry.fileCount = row.files;
-        std::string names;
-        for (std::uint32_t result = first(row.filter); result == 0; result = next()) {
-            names += name().substr(0, name().find('\t')) + " ";
-            EXPECT_EQ(guarded.entry.flags & 1, 1u);
-            ASSERT_LE(names.size(), 200u);
-        }
-        EXPECT_EQ(names, row.names);
-    }
     // Also while a transfer runs.
     guarded.entry.entryKind = 0;
     std::uint32_t found = 0;

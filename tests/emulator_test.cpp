@@ -179,15 +179,8 @@ TEST_F(Emulator, CatalogueTextsFitTheirReadersAndMakeMessages) {
     ZHST_PROVIDER_CODES(EXPECT_PROVIDER_CODE)
 }
 
-TEST_F(Emulator, InsertsFillTheirPlaces) {
-    const auto insert = [](const char* text) { return reinterpret_cast<ZhstInsert>(text); };
-    zhstShowMessage3(session, 3, 4406, 0x30, 1, 4406, insert("a %2"), 8193, insert(""));
-    zhstShowMessage2(session, 3, zhstMessageId(7, 439), 0x30, 1, 124, 3, 2);
-    zhstShowMessageCode(session, 3, 4408, 0x30, 1, 530, 12288, "refused", "IWS0001");
-    const char* expected[] = {"An error occurred while a %2 (return code 8193).",
-                              "Record 3: the value of field 2 cannot be stored in the host field.",
-                              "The host reported an error (return code 12288). refused Message of the host: IWS0001"};
-    for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(user.messages[i].text, expected[i]);
+// Those of boxes stand in the records of whole transfers.
+TEST_F(Emulator, InsertsAreFilledOnceAndOnlyWhereTheyFit) {
     char bounded[21] = "%1 of %2 %3", one[] = "%2", two[] = "7", tooLong[] = "123456789012345678";
     ZhstTextRecord text{bounded, 20}, first{one, 0}, second{two, 0}, third{tooLong, 0};
     const ZhstTextRecord* inserts[] = {&first, &second, &third};
@@ -197,41 +190,17 @@ TEST_F(Emulator, InsertsFillTheirPlaces) {
     EXPECT_STREQ(bounded, "%2 of 7 %3");
 }
 
-TEST_F(Emulator, JournalLinesHaveTheirShape) {
-    const ZhstSettings settings = zhstGetSessionSettings(session);
-    user.onPump = [settings] { zhstIsMessageEnabled(settings, 4315); };
-    set(40, std::string("AS400"));
-    set(215, 9);
+// Their shape stands in the records of whole transfers.
+TEST_F(Emulator, JournalTextsAreCutUnlessWantedWhole) {
+    const std::string bytes = std::string(63, 'x') + "\x01\"\\\r\n\t\xFF", kept = std::string(63, 'x') + "\\x01";
     emulator::clearJournal();
-    zhstGetSetting(settings, 215);
-    char buffer[4];
-    zhstGetStringSetting(settings, 40, buffer, sizeof buffer);
-    const ZhstStore store = zhstOpenStore("ZHST");
-    ZhstStorePart node = 0, list = 0, item = 0;
-    zhstOpenStoreNode(store, 0, 0x58465234, 0, &node);
-    zhstOpenStoreList(store, node, 0x58345250, 0, &list);
-    zhstOpenStoreItem(store, list, 0x58445449, 0, &item);
-    zhstSetStoreItem(store, item, "lost", 4);  // not locked
-    zhstLockStoreList(store, list);
-    zhstSetStoreItem(store, item, "\x01\"\\\r\n\t\xFF", 7);
-    zhstUnlockStoreList(store, list);
-    zhstPumpMessages(zhstGetSessionApp(session), 1);
-    emulator::note("-- mine");
-    zhstShowMessage(session, 3, zhstMessageId(7, 416), 0x30, 1, 124);
-    zhstLoadMessageText(session, 7, 503, buffer, sizeof buffer);
-    zhstSetStringSetting(settings, 9999, std::string(65, 'x').c_str());
-    EXPECT_EQ(
-        emulator::journal(),
-        (Lines{"GetSetting(7, 215 TransportType) = 9", "GetStringSetting(7, 40 HostSystemName, \"AS4\", 4) = 1",
-               "OpenStore(\"ZHST\") = 1", "OpenStoreNode(1, 0, XFR4, 0, XFR4)", "OpenStoreList(1, XFR4, X4RP, 0, X4RP)",
-               "OpenStoreItem(1, X4RP, XDTI, 0, XDTI)", "SetStoreItem(1, XDTI, \"lost\", 4)",
-               "LockStoreList(1, X4RP) = 1", "SetStoreItem(1, XDTI, \"\\x01\\\"\\\\\\r\\n\\t\\xFF\", 7)",
-               "UnlockStoreList(1, X4RP)", "GetSessionApp(1) = 2", "PumpMessages(2, 1)",
-               "IsMessageEnabled(7, 4315 TransferCancelled) = 1", "-- mine", "MessageId(7, 416 NoRecords) = 70416",
-               "ShowMessage(1, 3, 70416 NoRecords, 48, 1, 124) = 1", "LoadMessageText(1, 7, 503, \"The\", 4)",
-               "SetStringSetting(7, 9999, \"" + std::string(64, 'x') + "\"...)"}));
-    EXPECT_EQ(emulator::storeItem("XDTI").writes, 1u);
-    EXPECT_EQ(emulator::storeItem("XDTI").value, "\x01\"\\\r\n\t\xFF");
+    zhstSetStringSetting(7, 9999, bytes.c_str());
+    zhstSetStoreItem(zhstOpenStore("ZHST"), 0, "lost", 4);  // not locked
+    emulator::journalOn(true, emulator::JournalTexts::Whole);
+    zhstSetStringSetting(7, 9999, bytes.c_str());
+    const std::string line = "SetStringSetting(7, 9999, \"" + kept;
+    EXPECT_EQ(emulator::journal(), (Lines{line + "\"...)", "OpenStore(\"ZHST\") = 1", "SetStoreItem(1, 0, \"lost\", 4)",
+                                          line + "\\\"\\\\\\r\\n\\t\\xFF\")"}));
 }
 
 TEST_F(Emulator, ConversionKnowsPage43AndRefusesUnknownPages) {

@@ -45,30 +45,6 @@ TEST_F(Exports, StrangersAreIgnored) {
     EXPECT_TRUE(user.messages.empty());
 }
 
-TEST_F(Exports, ConstructionAndDestructionKeepTheirOrder) {
-    client();
-    expectInOrder({"GetSessionSettings(", "GetSessionApp(", "GetSessionServices(", "GetSessionWindow(",
-                   "GetSessionObject(*, 2)", "GetSessionSettings(", "OpenStore(", "GetSetting(*, 105 ",
-                   "WatchSetting(*, 215 ", "WatchSetting(*, 503 ", "WatchSetting(*, 324 ", "WatchSetting(*, 197 ",
-                   "WatchSetting(*, 105 ", "AttachSession(", "GetSessionObject(*, 7)", "RegisterCleanup(*, 104"});
-    EXPECT_EQ(emulator::openObjects().watches, 5u);
-    receive();
-    emulator::clearJournal();
-    deleteClient();
-    expectInOrder({"provider TF_END_DATA", "provider E32TF_Cleanup", "FreeModule(", "FreeModule(",
-                   "UnwatchSetting(*, 215 ", "UnwatchSetting(*, 503 ", "UnwatchSetting(*, 324 ",
-                   "UnwatchSetting(*, 197 ", "UnwatchSetting(*, 105 ", "RegisterCleanup(*, 104"});
-}
-
-TEST_F(Exports, CancelNotesItsMessageAndShowsNothing) {
-    client();
-    emulator::clearJournal();
-    library.pcsCancelTransfer(client());
-    EXPECT_EQ(journalCount("IsMessageEnabled("), 1u);
-    EXPECT_EQ(journalCount("IsMessageEnabled(*, 4315 TransferCancelled)"), 1u);
-    EXPECT_TRUE(user.messages.empty());
-}
-
 TEST_F(Exports, CleanUpReleasesTheProviderOfTheCurrentSessionOnly) {
     receive();
     ASSERT_GT(emulator::openObjects().modules, 0u);

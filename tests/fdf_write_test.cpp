@@ -102,26 +102,12 @@ TEST_F(FdfWrite, WhereTheDescriptionGoes) {
     EXPECT_FALSE(find("never.fdf")) << "only the value 1 counts";
 }
 
-TEST_F(FdfWrite, IsPublishedPieceByPiece) {
-    std::vector<std::string> values;
-    emulator::onStoreWrite([&](std::string_view code, std::string_view value) {
-        if (code == "XDDI") values.emplace_back(value);
-    });
-    receive();
-    emulator::onStoreWrite(nullptr);
-    EXPECT_EQ(values, (std::vector<std::string>{"PCFDF\r\nPCFT 1\r\n" + std::string(Zeros), "PCFL NAME 1 20\r\n"}));
-}
-
 TEST_F(FdfWrite, ExistingFileIsReplacedButNeverAddedTo) {
     for (const std::int32_t action : {1, 2}) {
         writeFile(path("pcfile.FDF"), "OLD");
         set(setting::ExistingFileAction, action);
         EXPECT_EQ(written().substr(0, 5), "PCFDF") << action;
     }
-    set(setting::ExistingFileAction, 0);
-    emulator::clearJournal();
-    receive();
-    EXPECT_EQ(journalCount("FileObject.prepareNewFile("), 1u);
 }
 
 // The transfer goes on without its description.

@@ -1,9 +1,7 @@
 #include <algorithm>
 #include <numeric>
-#include <sstream>
 
 #include "Z7XFRPCS/session.h"
-#include "platform/platform.h"
 #include "support/transfer_fixture.h"
 
 namespace {
@@ -13,14 +11,6 @@ using scripted::Answer;
 using Ids = std::vector<std::uint32_t>;
 
 std::uint32_t ticks = 0;
-
-// The parts between the bars.
-std::vector<std::string> steps(const std::string& text) {
-    std::vector<std::string> parts;
-    std::istringstream in(text);
-    for (std::string part; std::getline(in, part, '|');) parts.push_back(part);
-    return parts;
-}
 
 class ReceiveDriver : public TransferFixture {
 protected:
@@ -49,11 +39,6 @@ protected:
         return numbers;
     }
     void give(std::size_t records) { hostFile.records.assign(records, hostText("AB")); }
-    static void expectEnded(const std::vector<std::string>& entries) {
-        ASSERT_GE(entries.size(), 2u);
-        EXPECT_EQ(entries[entries.size() - 2], "TF_END_DATA");
-        EXPECT_EQ(entries.back(), "TF_END_REQUEST");
-    }
     static std::string lines(std::size_t count) {
         std::string text;
         for (std::size_t i = 0; i < count; ++i) text += "AB\r\n";
@@ -61,47 +46,6 @@ protected:
     }
     std::string text(std::uint32_t index) const { return messageText(7, index, 80); }
 };
-
-TEST_F(ReceiveDriver, StepsOfATransferToAFile) {
-    set(setting::RecordProgress, 1);
-    describe();
-    receive(1);
-    expectInOrder(steps(
-        "set 772=0|set 773=0|SetStringSetting(*, 774 *\"*\"|SetStringSetting(*, 775 *\"*\"|SetStringSetting(*, 776 "
-        "*\"*\"|"
-        "ProgressDialogCreate(*, 1, 1, 0)|ProgressDialogSetPcName(|ProgressDialogSetHostName(*, \"QGPL/CUST\"|command "
-        "23|"
-        "command 24|provider TF_SEND_REQUEST|provider TF_GET_DATA|set 773=3|set 449=1|ProgressDialogSetTotal(*, 3, 1)|"
-        "command 26|provider TF_SEND_REQUEST|command 16|command 27|provider TF_SEND_REQUEST|command 25|"
-        "command 28|provider TF_GET_FIELD|provider TF_GET_FIELD|command 32|command 0|FileObject.openForWriting(|"
-        "FileObject.openedName(|CreateFileObject(|FileObject.write(\"PCFDF|set 772=1|"
-        "provider TF_GET_DATA|FileObject.write(\"AB\\r\\n\", 4)|set 448=1|command 16|set 772=2|"
-        "provider TF_GET_DATA|set 772=4|provider TF_GET_DATA|set 448=3|command 4|command 1|"
-        "FileObject.close(|FileObject.destroy(|ProgressDialogDestroy("));
-    EXPECT_EQ(journalCount("provider TF_END"), 0u) << "a request at its end is not ended again";
-    EXPECT_EQ(number(setting::JobRecordsReceived), 4);
-    EXPECT_EQ(number(setting::ProgressCount), 3);
-    EXPECT_EQ(user.progressPcName, pcFile());
-}
-
-TEST_F(ReceiveDriver, TypeAndModeOfTheProgress) {
-    const std::uint32_t commands[] = {29, 34, 32, 30, 31, 33, 35};
-    for (std::int32_t type = AsciiText; type <= Dif; ++type) {
-        SCOPED_TRACE(type);
-        set(setting::ReceiveFileType, type);
-        emulator::clearJournal();
-        receive(1);
-        expectInOrder({"command " + std::to_string(commands[type]), "command 0"});
-    }
-    user.progressModes.clear();
-    set(setting::ReceiveFileType, AsciiText);
-    for (const std::int32_t progress : {0, 1, 2}) {
-        set(setting::RecordProgress, progress);
-        receive(0);
-        receive(1);
-    }
-    EXPECT_EQ(user.progressModes, (Ids{0, 2, 0, 1, 0, 2}));
-}
 
 TEST_F(ReceiveDriver, ProgressGoesInStepsOfTheExpectedCount) {
     const struct {
@@ -141,25 +85,13 @@ TEST_F(ReceiveDriver, CombinationsThatAreRefusedBeforeAnything) {
     EXPECT_EQ(pcFileBytes(), lines(3));
 }
 
-TEST_F(ReceiveDriver, EmptyFileIsToldOnlyWhenItWasCounted) {
+TEST_F(ReceiveDriver, EmptyFileIsThereUnlessItWasCounted) {
     give(0);
     receive();
     EXPECT_TRUE(pcFileExists());
     EXPECT_EQ(pcFileBytes(), "");
     std::filesystem::remove(pcFile());
-    for (const FileType type : {CommaSeparated, Dif}) {
-        SCOPED_TRACE(type);
-        set(setting::RecordProgress, 1);
-        set(setting::ReceiveFileType, type);
-        user.messages.clear();
-        emulator::clearJournal();
-        receive(1);
-        ASSERT_EQ(user.messages.size(), 1u);
-        EXPECT_EQ(user.messages[0].id, zhstMessageId(7, 416));
-        EXPECT_EQ(user.messages[0].helpId, 124u);
-        expectInOrder({"ProgressDialogHide(", "ShowMessage(", "ProgressDialogShow(", "command 1"});
-        EXPECT_FALSE(pcFileExists());
-    }
+    set(setting::RecordProgress, 1);
     hostFile.count = 0xFFFFFFFF;  // what stands for a failure
     user.messages.clear();
     receive();
@@ -273,23 +205,14 @@ TEST_F(ReceiveDriver, CancelAtEachCheck) {
     }
 }
 
-TEST_F(ReceiveDriver, RequestIsEndedWhenItWasLeftOrTheClientWantsIt) {
-    useTransport(30);
-    receive();
-    EXPECT_EQ(scripted::entries().back(), "TF_END_REQUEST");
-    useTransport(2);
-    scripted::answerNext(TF_GET_DATA, Answer::code(0x2001));
-    receive();
-    EXPECT_EQ(scripted::entries().back(), "TF_END_REQUEST");
-}
-
 TEST_F(ReceiveDriver, WriteThatFailsKeepsWhatWasWritten) {
     setFault(&emulator::Faults::failWriteAfterBytes, 9);
     const auto entries = entriesOf([this] { receive(); });
     emulator::setFaults({});
     EXPECT_EQ(pcFileBytes(), lines(2));
     EXPECT_EQ(user.messages.size(), 1u) << "the file object tells it";
-    expectEnded(entries);
+    EXPECT_EQ(entries[entries.size() - 2], "TF_END_DATA");
+    EXPECT_EQ(entries.back(), "TF_END_REQUEST");
     receive();
     EXPECT_EQ(pcFileBytes(), lines(3));
 }
@@ -335,30 +258,6 @@ TEST_F(ReceiveDriver, FieldWithoutATextFormIsNamedWithTheProgressHidden) {
 
 // --- The display ------------------------------------------------------------------------------------------------
 
-TEST_F(ReceiveDriver, ColumnsAreAsWideAsTextOrName) {
-    set(setting::ReceiveOutput, ToScreen);
-    hostFile.fields = {
-        character("ABCDEFGHIJKLMNOPQRST", 3), hostfields::zoned("Z", 5, 2), hostfields::hex("HX", 2),
-        hostfields::packed("P", 5),           hostfields::binary("B", 2),   hostfields::typed(9, "T", 4)};
-    hostFile.records = {HostRecord().text("a", 3).zoned(-125, 5).hex("0AFF").packed(42, 5).binary(7, 2).text("x", 4)};
-    receive();
-    const struct {
-        const char* cell;
-        std::uint32_t width, alignment;
-    } expected[] = {{"a  ", 20, 0},   {"  -1.25", 8, 2}, {"0AFF", 4, 2},
-                    {"    42", 6, 2}, {"     7", 6, 2},  {"x   ", 4, 0}};
-    ASSERT_EQ(user.display.columns.size(), 6u);
-    ASSERT_EQ(user.display.rows.size(), 1u);
-    ASSERT_EQ(user.display.rows[0].size(), 6u);
-    for (std::uint32_t i = 0; i < 6; ++i) {
-        EXPECT_EQ(user.display.columns.at(i).width, expected[i].width) << i;
-        EXPECT_EQ(user.display.columns.at(i).alignment, expected[i].alignment) << i;
-        EXPECT_EQ(user.display.rows[0].at(i), expected[i].cell);
-    }
-    EXPECT_EQ(user.display.columns.at(0).title, "ABCDEFGHIJKLMNOPQRST");
-    EXPECT_EQ(user.display.title, text(418).substr(0, 39));
-}
-
 TEST_F(ReceiveDriver, DisplayStopsBehindEachFullPage) {
     set(setting::ReceiveOutput, ToScreen);
     const std::pair<std::int32_t, std::vector<std::size_t>> rows[] = {{20, {20, 40}}, {1, each(45)}, {0, each(45)},
@@ -377,49 +276,7 @@ TEST_F(ReceiveDriver, DisplayStopsBehindEachFullPage) {
     }
 }
 
-TEST_F(ReceiveDriver, ClosingTheDisplayEndsTheTransfer) {
-    set(setting::ReceiveOutput, ToScreen);
-    set(setting::DisplayRowsPerPage, 2);
-    user.onPump = [] { emulator::closeDisplay(); };
-    const auto entries = entriesOf([this] { receive(); });
-    EXPECT_EQ(user.display.rows.size(), 2u);
-    expectEnded(entries);
-    EXPECT_FALSE(pcFileExists());
-}
-
 // --- The spreadsheet --------------------------------------------------------------------------------------------
-
-TEST_F(ReceiveDriver, SpreadsheetOpensTheClosedFile) {
-    set(setting::ReceiveOutput, ToSpreadsheet);
-    set(setting::PcFileName, path("CUST.DIF"));
-    std::string opened = path("CUST.DIF");
-    platform::CharLowerA(opened.data());
-    using Call = std::pair<std::string, std::string>;
-    receive();
-    EXPECT_EQ(user.shellCalls, std::vector<Call>({{opened, ""}}));
-    set(setting::LaunchByProgramName, 1);
-    receive();
-    EXPECT_EQ(user.shellCalls.back(), Call("EXCEL.EXE", opened));
-    EXPECT_TRUE(user.messages.empty());
-    user.shellResult = 31;
-    receive();
-    ASSERT_EQ(user.messageIds(), Ids{4679});
-    EXPECT_EQ(user.messages[0].inserts, (std::vector<std::string>{opened, "31", " "}));
-    user.shellResult = 32;
-    receive();
-    EXPECT_EQ(user.messages.size(), 1u);
-}
-
-TEST_F(ReceiveDriver, DifAsksAboutAnExistingFileInItsOwnWay) {
-    set(setting::ReceiveFileType, Dif);
-    set(setting::ExistingFileAction, 0);
-    receive();
-    expectInOrder({"FileObject.prepareNewFile(", "FileObject.openForWriting("});
-    emulator::clearJournal();
-    set(setting::ReceiveFileType, CommaSeparated);
-    receive();
-    EXPECT_EQ(journalCount("FileObject.prepareNewFile("), 0u);
-}
 
 // --- The demonstration ------------------------------------------------------------------------------------------
 
@@ -433,54 +290,9 @@ TEST_F(ReceiveDriver, DemonstrationTableStopsBehindEachPage) {
         EXPECT_EQ(stops(rowsPerPage), expected);
         ASSERT_EQ(user.display.rows.size(), 23u);
     }
-    const char* titles[] = {"LAST", "FIRST", "STREET", "CITY", "STATE", "ZIPCODE"};
-    const std::uint32_t widths[] = {12, 15, 22, 21, 6, 7};
-    for (std::uint32_t i = 0; i < 6; ++i) {
-        EXPECT_EQ(user.display.columns.at(i).title, titles[i]);
-        EXPECT_EQ(user.display.columns.at(i).width, widths[i]);
-        for (const auto& row : user.display.rows) EXPECT_EQ(row.at(i).size(), i == 5 ? 5u : widths[i] - 1);
-    }
-    set(setting::DisplayRowsPerPage, 5);
-    user.onPump = [] { emulator::closeDisplay(); };
-    receive();
-    EXPECT_EQ(user.display.rows.size(), 5u);
     library.xferCleanup(session);
     EXPECT_TRUE(scripted::entries().empty());
     EXPECT_EQ(emulator::openObjects().modules, 0u) << "nothing is bound";
-}
-
-TEST_F(ReceiveDriver, DemonstrationSimulatesFiveSteps) {
-    set(setting::ConnectionType, 3);
-    set(setting::ReceiveFileType, Dif);
-    receive(1);
-    EXPECT_EQ(user.progressCommands, (Ids{23, 35, 0, 1, 1}));
-    EXPECT_EQ(user.progressTotalAmount, 2340u);
-    EXPECT_EQ(user.progressUnit, 1u);
-    EXPECT_EQ(number(setting::TransferDirection), 1);
-    expectInOrder({"set 448=468", "PumpMessages(", "set 448=936", "PumpMessages(", "set 448=1404", "set 448=1872",
-                   "set 448=2340"});
-
-    user.onPump = [this] {
-        if (number(setting::ProgressCount) == 1404) library.pcsCancelTransfer(client());
-    };
-    user.progressCommands.clear();
-    ticks = 0xFFFFFF00;  // the clock wraps around on the way
-    receive(1);
-    EXPECT_EQ(user.progressCommands, (Ids{23, 35, 0, 2, 1}));
-    EXPECT_EQ(number(setting::ProgressCount), 1404);
-    EXPECT_FALSE(pcFileExists());
-}
-
-TEST_F(ReceiveDriver, DemonstrationOfASendCountsTheBytesOfTheFile) {
-    set(setting::ConnectionType, 3);
-    set(setting::SendFileType, TabDelimited);
-    writePcFile(std::string(1001, 'x'));
-    send(1);
-    EXPECT_EQ(user.progressTotalAmount, 1001u);
-    EXPECT_EQ(user.progressUnit, 2u);
-    EXPECT_EQ(number(setting::TransferDirection), 0);
-    expectInOrder({"command 33", "set 448=200", "set 448=400", "set 448=600", "set 448=800", "set 448=1000"});
-    EXPECT_TRUE(hostFile.statements.empty());
 }
 
 }  // namespace

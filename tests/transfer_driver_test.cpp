@@ -2,8 +2,6 @@
 
 namespace {
 
-constexpr std::int32_t Untouched = 77;  // no file type: whoever forces one is seen
-
 class TransferDriver : public TwoRecords {
 protected:
     // Reads a setting whenever the provider is called.
@@ -33,69 +31,6 @@ TEST_F(TransferDriver, NameOfTheTraceFileSwitchesTheTraceOn) {
         EXPECT_EQ(journalCount("\"XFERLOG.TXT\"") > 0, row.traced);
         library.xferCleanup(session);
     }
-}
-
-// The type of the PC file is forced for as long as the transfer runs.
-TEST_F(TransferDriver, OutputOfAReceiveForcesTheType) {
-    const struct {
-        std::int32_t output, type, forced;
-        std::size_t files, rows, shells;
-        const char* begin;  // of the PC file
-    } rows[] = {{ToScreen, Dif, AsciiText, 0, 2, 0, ""},
-                {2, Untouched, Untouched, 0, 0, 0, ""},
-                {ToSpreadsheet, TabDelimited, Dif, 1, 0, 1, "TABLE"}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.output);
-        set(setting::ReceiveOutput, row.output);
-        set(setting::ReceiveFileType, row.type);
-        library.xferCleanup(session);
-        emulator::clearJournal();
-        user.display.rows.clear();
-        const auto types = duringTransfer(setting::ReceiveFileType, [this] { receive(1); });
-        // The exchange that starts the provider comes before the type is forced.
-        ASSERT_GT(types.size(), 1u);
-        for (std::size_t i = 1; i < types.size(); ++i) EXPECT_EQ(types[i], row.forced);
-        EXPECT_EQ(number(setting::ReceiveFileType), row.type);
-        EXPECT_EQ(journalCount("CreateFileObject("), row.files);
-        EXPECT_EQ(pcFileExists(), row.files > 0);
-        EXPECT_EQ(pcFileBytes().substr(0, 5), row.begin);
-        EXPECT_EQ(user.display.rows.size(), row.rows);
-        EXPECT_EQ(user.shellCalls.size(), row.shells);
-        EXPECT_EQ(user.progressModes.at(0), 0u) << "the screen's";
-    }
-}
-
-// A send has its file whatever the output of a receive is.
-TEST_F(TransferDriver, FileObjectIsToldNameTypeFlagsAndAction) {
-    for (std::int32_t type = AsciiText; type <= Dif; ++type) {
-        for (const bool sending : {false, true}) {
-            SCOPED_TRACE(std::to_string(type) + (sending ? " sent" : " received"));
-            const std::int32_t receiveType = sending ? Untouched : type;
-            set(setting::SendFileType, type);
-            set(setting::ReceiveFileType, receiveType);
-            set(setting::ReceiveOutput, sending ? type % 4 : ToFile);
-            writePcFile("");
-            emulator::clearJournal();
-            sending ? send() : receive();
-            const bool binary = type == BasicRandom || type == NoConversion;
-            expectInOrder({"CreateFileObject(", "FileObject.setName(",
-                           binary ? "FileObject.setTypeFlag(1" : "FileObject.setTypeFlag(0",
-                           "FileObject.setOpenFlags(11", "FileObject.setExistingFileAction(1", "FileObject.destroy("});
-            EXPECT_EQ(journalCount("CreateFileObject("), 1u);
-            EXPECT_EQ(number(setting::ReceiveFileType), receiveType);
-        }
-    }
-}
-
-TEST_F(TransferDriver, OwnerWindowFallsBackToTheSettingThenToTheMainWindow) {
-    set(setting::ReceiveOutput, ToScreen);
-    set(setting::TransferOwnerWindow, 47114711);
-    receive();
-    EXPECT_EQ(journalCount("TextDisplayCreate(47114711"), 1u);
-    set(setting::TransferOwnerWindow, 0);
-    receive();
-    EXPECT_EQ(journalCount("TextDisplayCreate(47114711"), 1u);
-    EXPECT_EQ(journalCount("TextDisplayCreate(0"), 0u);
 }
 
 TEST_F(TransferDriver, TransferIsActiveOnlyWhileItRunsHoweverItEnds) {
@@ -130,37 +65,65 @@ TEST_F(TransferDriver, TransferIsActiveOnlyWhileItRunsHoweverItEnds) {
     }
 }
 
-TEST_F(TransferDriver, WithoutAFileObjectNoDriverRunsAndTheTypeIsRestored) {
-    set(setting::ReceiveOutput, ToSpreadsheet);
-    setFault(&emulator::Faults::refuseFileObject, true);
-    receive();
-    EXPECT_EQ(scripted::entries(), (std::vector<std::string>{"EHNAPPC_IsRouterLoaded", "TF_RESET"}));
-    EXPECT_EQ(number(setting::ReceiveFileType), CommaSeparated);
-    ASSERT_EQ(user.messageIds(), std::vector<std::uint32_t>{4001});
-    EXPECT_EQ(user.messages[0].helpId, 4001u);
+// Nothing of a transfer depends on the store; its lock is asked for each time.
+TEST_F(TransferDriver, TransferIsTheSameWithoutStoreOrLock) {
+    for (const auto fault : {&emulator::Faults::refuseStore, &emulator::Faults::refuseStoreLock}) {
+        deleteClient();
+        setFault(fault, true);
+        std::filesystem::remove(pcFile());
+        expectReceived();
+        EXPECT_TRUE(user.messages.empty());
+        EXPECT_EQ(emulator::storeItem("XUGI").writes, 0u);
+    }
+    emulator::setFaults({});
+    expectReceived();
+    EXPECT_GT(emulator::storeItem("XUGI").writes, 0u);
 }
 
-TEST_F(TransferDriver, SettingsFileRunsFirstAndMovesToItsFolder) {
-    std::filesystem::create_directory(path("elsewhere"));
-    emulator::setSettingsFileReader([this](ZhstSession of, const std::string& file) {
-        EXPECT_EQ(of, session);
-        EXPECT_EQ(file, "daily.xfr");
-        set(setting::WorkingDirectory, path("elsewhere"));
-        set(setting::PcFileName, "daily.csv");
-        return true;
-    });
-    library.pcsTransferFile(client(), "daily.xfr", 0, 0, 0);
-    EXPECT_EQ(fileBytes(path("elsewhere/daily.csv")), Received);
-    expectInOrder({"RunAppCommand(*, 67, 24, 3, 32, \"daily.xfr\"", "CheckCommandFailed(", "GetStringSetting(*, 218 ",
-                   "PathServices.setCurrentDirectory(", "GetStringSetting(*, 40 ", "LoadModule("});
-}
-
-TEST_F(TransferDriver, FailingSettingsFileEndsBeforeAnythingStarts) {
-    emulator::setSettingsFileReader([](ZhstSession, const std::string&) { return false; });
-    library.pcsTransferFile(client(), "daily.xfr", 0, 0, 0);
-    EXPECT_TRUE(scripted::entries().empty());
-    EXPECT_EQ(emulator::openObjects().modules, 0u);
-    EXPECT_TRUE(user.messages.empty());
+// They are read once; the change comes while the first request of all is under way.
+TEST_F(TransferDriver, SettingsThatChangeUnderATransferDoNotChangeIt) {
+    const struct {
+        std::uint32_t id;
+        std::int32_t before, after;
+    } numbers[] = {{setting::UseDescriptionFile, 0, 1},   {setting::WriteDescriptionFile, 1, 0},
+                   {setting::SendFileType, AsciiText, 2}, {setting::ReceiveFileType, CommaSeparated, 1},
+                   {setting::HostFileType, 2, 0},         {setting::PublicAuthority, 2, 0},
+                   {setting::RecordLength, 92, 50},       {setting::TimeFormat, 4, 1},
+                   {setting::DateFormat, 8, 1},           {setting::TimeSeparator, 1, 2},
+                   {setting::DateSeparator, 7, 1},        {setting::IgnoreDecimalErrors, 1, 0},
+                   {setting::DecimalSeparatorMode, 6, 2}, {setting::ReceiveOutput, ToFile, 2},
+                   {setting::CreateMode, 0, 2},           {setting::StartRecord, 2, 1},
+                   {setting::RecordProgress, 1, 0}};
+    const std::pair<std::uint32_t, std::string> texts[] = {{setting::FileText, "File"},
+                                                           {setting::MemberText, "Member"},
+                                                           {setting::SortSequence, "*HEX"},
+                                                           {setting::ReferenceFile, "QGPL/REF"},
+                                                           {setting::HostFileName, "QGPL/CUST"},
+                                                           {setting::PcFileName, pcFile()},
+                                                           {setting::ReceiveDescriptionFile, path("kept.fdf")}};
+    for (const bool sending : {false, true}) {
+        std::vector<std::string> outcomes[2];
+        for (const bool changing : {false, true}) {
+            for (const auto& row : numbers) set(row.id, row.before);
+            for (const auto& [id, text] : texts) set(id, text);
+            hostFile.statements.clear();
+            hostFile.received.clear();
+            writePcFile("ALPHA\r\nGAMMA\r\n");
+            writeFile(path("kept.fdf"), "");
+            if (changing) {
+                hostFile.during(TF_SEND_REQUEST, [&] {
+                    for (const auto& row : numbers) set(row.id, row.after);
+                    for (const auto& [id, text] : texts) set(id, path("changed"));
+                });
+            }
+            sending ? send() : receive();
+            auto& outcome = outcomes[changing] = hostFile.statements;
+            outcome.insert(outcome.end(), hostFile.received.begin(), hostFile.received.end());
+            outcome.insert(outcome.end(), {pcFileBytes(), fileBytes(path("kept.fdf"))});
+        }
+        EXPECT_EQ(outcomes[0], outcomes[1]);
+        EXPECT_EQ(outcomes[0].size(), 5u);
+    }
 }
 
 struct Connection {

@@ -41,7 +41,6 @@ const Row Rows[] = {
     {"code in no table", 2, Ask, 8198, 0, "", 4406, 4406, 0, 0, "CNE"},
     {"code in no table, no context", 2, Fetch, 8198, 0, "", 4416, 4416, 0, 0, "-"},
     {"record refused", 2, Fetch, 0x2001, 0, "", 4416, 4416, 7, 506, "-"},
-    {"first of part B", 2, Ask, 0x0103, 0, "", 4406, 4406, 7, 500, "CNE"},
     {"last of part B but the special one", 2, Ask, 0x5400, 0, "", 4406, 4406, 7, 547, "CNE"},
     {"5042", 2, Ask, 0x5042, 0, "", 4406, 4406, 7, 532, "CNE"},
     {"part A has no texts here", 2, Ask, 0x0005, 0, "", 4406, 4406, 0, 0, "CNE"},
@@ -52,7 +51,6 @@ const Row Rows[] = {
     {"host text alone", 2, Ask, 0x3000, 0, "NO", 4416, 4416, 7, 530, "H"},
     {"host text instead", 2, Fetch, 0x3100, 0, "NO", 4416, 4416, 7, 531, "H"},
     {"3000 without a text", 2, Ask, 0x3000, 0, "", 4406, 4406, 7, 530, "CNE"},
-    {"own provider, 9", 9, Fetch, 0x0005, 0, "", 4416, 4416, 22, 5, "-"},
     {"own provider, 8", 8, Fetch, 0x0005, 0, "", 4416, 1200, 22, 5, "E"},
     {"own provider, 13, code unknown", 13, Fetch, 0x0009, 0, "", 4416, 4254, 22, 9, "E"},
     {"own provider, 5, context", 5, Ask, 0x0102, 0, "", 4406, 4406, 22, 0x102, "CNE"},
@@ -153,42 +151,10 @@ TEST_F(TransferErrors, TheGateIsOneMessageWhateverIsShown) {
     }
 }
 
-TEST_F(TransferErrors, ProgressDialogIsHiddenWhileTheBoxIsUp) {
-    bool hiddenThen = false;
-    user.onMessage = [&](const emulator::MessageBox&) {
-        hiddenThen = user.progressIsHidden;
-        return 1;
-    };
-    for (const std::uint32_t code : {0x2001u, 0x9999u}) {
-        hiddenThen = false;
-        told(Answer::code(code), 1);
-        EXPECT_TRUE(hiddenThen) << code;
-        EXPECT_FALSE(user.progressIsHidden) << code;
-    }
-}
-
 TEST_F(TransferErrors, HostTextIsExactlyAsLongAsItsLength) {
     Answer answer = Answer::code(0x3000, "NO SUCH FILE AND MORE");
     answer.dataLength = 12;
     EXPECT_EQ(told(answer).at(0).inserts, std::vector<std::string>{"NO SUCH FILE"});
-}
-
-TEST_F(TransferErrors, CountAndJobAreThoseOfTheFailingTransfer) {
-    set(setting::RecordProgress, 1);
-    hostFile.count = 17;
-    int fetches = 0;  // of the count and two records
-    hostFile.intercept = [&](const scripted::Call& call) -> std::optional<Answer> {
-        if (call.function != TF_GET_DATA || ++fetches != 3) return std::nullopt;
-        set(setting::JobName, "QZDASOINIT");
-        set(setting::JobUser, "QUSER");
-        set(setting::JobNumber, "123456");
-        return Answer::code(8198);
-    };
-    receive();
-    ASSERT_EQ(user.messages.size(), 1u);
-    const std::string job = "Job name QZDASOINIT, user profile QUSER, job number 123456";
-    EXPECT_EQ(user.messages[0].inserts, std::vector<std::string>{notCompleted("2 records of 17", job)});
-    EXPECT_EQ(pcFileBytes(), "ALPHA\r\n");
 }
 
 }  // namespace

@@ -7,12 +7,6 @@
 
 namespace {
 
-std::string joined(const std::vector<std::string>& lines) {
-    std::string text;
-    for (const auto& line : lines) text += "  " + line + "\n";
-    return text;
-}
-
 // Whether the pieces of `pattern` between its asterisks follow one another in the line.
 bool matches(const std::string& line, const std::string& pattern) {
     std::size_t at = 0;
@@ -25,14 +19,6 @@ bool matches(const std::string& line, const std::string& pattern) {
         begin = end + 1;
     }
     return true;
-}
-
-// What the journal says for "command 16" and "set 448=1".
-std::string journalText(const std::string& text) {
-    if (text.rfind("command ", 0) == 0) return "ProgressDialogCommand(*, " + text.substr(8) + ")";
-    if (text.rfind("set ", 0) != 0) return text;
-    const std::size_t equals = text.find('=');
-    return "SetSetting(*, " + text.substr(4, equals - 4) + " *, " + text.substr(equals + 1) + ")";
 }
 
 }  // namespace
@@ -138,19 +124,6 @@ void TransferFixture::failEachAllocation(const std::function<void()>& transfer, 
         if (HasFailure() || emulator::allocations().calls - before < failing) return;
     }
     ADD_FAILURE() << "after " << Limit << " allocations the transfer still had more";
-}
-
-void TransferFixture::expectInOrder(const std::vector<std::string>& texts) const {
-    auto line = emulator::journal().begin();
-    const auto end = emulator::journal().end();
-    for (const auto& text : texts) {
-        while (line != end && !matches(*line, journalText(text))) ++line;
-        if (line == end) {
-            ADD_FAILURE() << "not in the journal, or too early: " << text << "\n" << joined(emulator::journal());
-            return;
-        }
-        ++line;
-    }
 }
 
 std::size_t TransferFixture::journalCount(const std::string& text) const {

@@ -92,10 +92,7 @@ protected:
     void writePcFile(const std::string& bytes) const { writeFile(pcFile(), bytes); }
 
     // --- The journal
-    // Lines that contain these texts follow one another, with any others between. In both, a "*" in a text stands for
-    // anything: "WatchSetting(*, 215". In the first, "command 16" is one of the progress dialog, and "set 448=1" a
-    // whole number that a setting gets.
-    void expectInOrder(const std::vector<std::string>& texts) const;
+    // How many lines contain this; a "*" in it stands for anything: "WatchSetting(*, 215".
     std::size_t journalCount(const std::string& text) const;
 
     // --- The end
