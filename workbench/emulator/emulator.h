@@ -167,7 +167,7 @@ void onStoreWrite(std::function<void(std::string_view code, std::string_view val
 // A line is written when its call begins: what happens inside a call follows it, and its result is added at its end.
 // Operations are FileObject, PathServices, CodePageServices and SessionServices, a period and the name they have in
 // objects.h; the scrolling box is zhstMessageBox_scroll. What the library asks of the shell stands among them, as
-//     ShellExecuteA("EXCEL.EXE", "C:\\DATA\\CUST.DIF") = 33
+//     ShellExecuteA(3, "open", "EXCEL.EXE", "C:\\DATA\\CUST.DIF", "", 1) = 33
 enum class JournalTexts { Cut, Whole };
 void journalOn(bool on, JournalTexts texts = JournalTexts::Cut);
 const std::vector<std::string>& journal();

@@ -16,8 +16,9 @@ UserInterface& userInterface() {
     return current ? *current : agreeable;
 }
 
-std::int32_t askShell(const char* file, const char* parameters) {
-    const journalled::Call call("ShellExecuteA", file, parameters);
+std::int32_t askShell(std::uint32_t owner, const char* verb, const char* file, const char* parameters,
+                      const char* directory, std::int32_t showState) {
+    const journalled::Call call("ShellExecuteA", owner, verb, file, parameters, directory, showState);
     return call.result(userInterface().shellExecute(file, parameters));
 }
 

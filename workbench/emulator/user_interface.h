@@ -6,7 +6,8 @@ namespace emulator {
 
 // The user that is set, never none.
 UserInterface& userInterface();
-// The shell, which is played by the user interface; both texts are there.
-std::int32_t askShell(const char* file, const char* parameters);
+// The shell, which is played by the user interface; file and parameters are there.
+std::int32_t askShell(std::uint32_t owner, const char* verb, const char* file, const char* parameters,
+                      const char* directory, std::int32_t showState);
 
 }  // namespace emulator

@@ -27,9 +27,11 @@ struct PcLocale {
 struct PcDesktop {
     bool (*isWindow)(std::uint32_t window) = nullptr;                  // any non-zero handle is a window
     std::uint32_t (*lastActivePopup)(std::uint32_t window) = nullptr;  // the window itself
-    std::int32_t (*shellExecute)(const char* file, const char* parameters) = nullptr;  // 2: file not found
-    std::uint32_t (*tickCount)() = nullptr;                                            // the steady clock
-    bool (*refuseGlobalAlloc)() = nullptr;                                             // never refused
+    // 2: file not found. File and parameters are never null.
+    std::int32_t (*shellExecute)(std::uint32_t owner, const char* verb, const char* file, const char* parameters,
+                                 const char* directory, std::int32_t showState) = nullptr;
+    std::uint32_t (*tickCount)() = nullptr;  // the steady clock
+    bool (*refuseGlobalAlloc)() = nullptr;   // never refused
 };
 
 void setPcLocale(const PcLocale& locale);

@@ -118,11 +118,11 @@ std::uint32_t GetLastActivePopup(std::uint32_t window) {
     return pcDesktop().lastActivePopup ? pcDesktop().lastActivePopup(window) : window;
 }
 
-std::int32_t ShellExecuteA(std::uint32_t, const char*, const char* file, const char* parameters, const char*,
-                           std::int32_t) {
+std::int32_t ShellExecuteA(std::uint32_t owner, const char* verb, const char* file, const char* parameters,
+                           const char* directory, std::int32_t showState) {
     constexpr std::int32_t FileNotFound = 2;
     if (!pcDesktop().shellExecute) return FileNotFound;
-    return pcDesktop().shellExecute(file ? file : "", parameters ? parameters : "");
+    return pcDesktop().shellExecute(owner, verb, file ? file : "", parameters ? parameters : "", directory, showState);
 }
 
 std::int32_t GetLocaleInfoA(std::uint32_t, std::uint32_t type, char* buffer, std::int32_t size) {

@@ -10,8 +10,6 @@
 namespace emulator {
 namespace {
 
-std::int32_t shellExecute(const char* file, const char* parameters) { return askShell(file, parameters); }
-
 bool refuseGlobalAlloc() { return faults().refuseGlobalMemory; }
 
 // The case and OEM tables of a page take a walk over it, so they are kept; other data makes others.
@@ -28,7 +26,7 @@ const codepages::PcTables& keptTables(const codepages::CodePage& ansi, const cod
 
 void connectDesktop() {
     platform::PcDesktop desktop = platform::pcDesktop();
-    desktop.shellExecute = &shellExecute;
+    desktop.shellExecute = &askShell;
     desktop.refuseGlobalAlloc = &refuseGlobalAlloc;
     platform::setPcDesktop(desktop);
 }

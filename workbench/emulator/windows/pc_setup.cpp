@@ -19,8 +19,10 @@ BOOL WINAPI isWindow(HWND window) { return window != nullptr; }
 
 HWND WINAPI lastActivePopup(HWND window) { return window; }
 
-HINSTANCE WINAPI shellExecute(HWND, const char*, const char* file, const char* parameters, const char*, INT) {
-    const std::int32_t result = askShell(file ? file : "", parameters ? parameters : "");
+HINSTANCE WINAPI shellExecute(HWND owner, const char* verb, const char* file, const char* parameters,
+                              const char* directory, INT showState) {
+    const std::int32_t result = askShell(static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(owner)), verb,
+                                         file ? file : "", parameters ? parameters : "", directory, showState);
     return reinterpret_cast<HINSTANCE>(static_cast<std::intptr_t>(result));
 }
 
