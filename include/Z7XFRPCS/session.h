@@ -41,13 +41,13 @@ ZhstApp ZHST_CALL zhstGetSessionApp(ZhstSession session);
 ZhstWindow ZHST_CALL zhstGetSessionWindow(ZhstSettings settings);
 void ZHST_CALL zhstAttachSession(ZhstSession session);
 
-int32_t ZHST_CALL zhstGetSetting(ZhstSettings settings, uint32_t number);
-void ZHST_CALL zhstSetSetting(ZhstSettings settings, uint32_t number, int32_t value);
+int32_t ZHST_CALL zhstGetSetting(ZhstSettings settings, uint32_t id);
+void ZHST_CALL zhstSetSetting(ZhstSettings settings, uint32_t id, int32_t value);
 /* Fills `buffer` (`size` bytes with the terminator, the text cut to fit); returns 0 when the setting is empty. */
-uint32_t ZHST_CALL zhstGetStringSetting(ZhstSettings settings, uint32_t number, char* buffer, uint32_t size);
-void ZHST_CALL zhstSetStringSetting(ZhstSettings settings, uint32_t number, const char* text);
-void ZHST_CALL zhstWatchSetting(ZhstSettings settings, uint32_t number, ZhstSettingWatch watch);
-void ZHST_CALL zhstUnwatchSetting(ZhstSettings settings, uint32_t number, ZhstSettingWatch watch);
+uint32_t ZHST_CALL zhstGetStringSetting(ZhstSettings settings, uint32_t id, char* buffer, uint32_t size);
+void ZHST_CALL zhstSetStringSetting(ZhstSettings settings, uint32_t id, const char* text);
+void ZHST_CALL zhstWatchSetting(ZhstSettings settings, uint32_t id, ZhstSettingWatch watch);
+void ZHST_CALL zhstUnwatchSetting(ZhstSettings settings, uint32_t id, ZhstSettingWatch watch);
 /* A null call-back removes the one registered in the slot. */
 void ZHST_CALL zhstRegisterCleanup(ZhstSession session, uint32_t slot, ZhstCleanup callback);
 

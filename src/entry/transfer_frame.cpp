@@ -167,8 +167,8 @@ void runTransfer(ZXFRPCSCLIENT& client, const char* settingsFile, Direction dire
 
 }  // namespace
 
-// Running from the first step on, before the transfer is active: one that came in through a message pump, while a dialog
-// is up or the provider is being bound, would take the provider, or the snapshot, from under this one.
+// Running from the first step on, before the transfer is active: one that came in through a message pump, while a
+// dialog is up or the provider is being bound, would take the provider, or the snapshot, from under this one.
 void transferFile(ZXFRPCSCLIENT& client, const char* settingsFile, Direction direction, std::uint32_t showProgress,
                   services::WindowHandle ownerWindow) {
     if (client.isBusy()) return;

@@ -35,7 +35,8 @@ void fetchCountRecord(ZXFRPCSCLIENT& client) {
 
 std::int32_t countIn(const ZXFRPCSCLIENT& client) {
     if (client.lastResult.dataLength < CountBytes) return CountUnknown;
-    const std::int32_t count = static_cast<std::int32_t>(bytes::highFirstSigned(client.tfSession->dataBuffer(), CountBytes));
+    const std::int32_t count =
+        static_cast<std::int32_t>(bytes::highFirstSigned(client.tfSession->dataBuffer(), CountBytes));
     return count < CountFailed ? CountUnknown : count;
 }
 

@@ -126,6 +126,15 @@ void TransferFixture::failEachAllocation(const std::function<void()>& transfer, 
     ADD_FAILURE() << "after " << Limit << " allocations the transfer still had more";
 }
 
+void TransferFixture::expectInOrder(const std::vector<std::string>& texts) const {
+    auto line = emulator::journal().begin();
+    for (const auto& text : texts) {
+        line = std::find_if(line, emulator::journal().end(), [&](const auto& each) { return matches(each, text); });
+        ASSERT_NE(line, emulator::journal().end()) << "not in the journal, or too early: " << text;
+        ++line;
+    }
+}
+
 std::size_t TransferFixture::journalCount(const std::string& text) const {
     std::size_t count = 0;
     for (const auto& line : emulator::journal()) count += matches(line, text);

@@ -92,7 +92,9 @@ protected:
     void writePcFile(const std::string& bytes) const { writeFile(pcFile(), bytes); }
 
     // --- The journal
-    // How many lines contain this; a "*" in it stands for anything: "WatchSetting(*, 215".
+    // Lines that contain these texts follow one another, with any others between; and how many lines contain one. A "*"
+    // in a text stands for anything: "WatchSetting(*, 215".
+    void expectInOrder(const std::vector<std::string>& texts) const;
     std::size_t journalCount(const std::string& text) const;
 
     // --- The end
