@@ -120,6 +120,8 @@ void ReceiveRun::run() {
     cleanUp();
 }
 
+// Both would give files that nobody can read: a comma that separates decimals and fields, a second DIF header in a
+// file.
 bool ReceiveRun::settingsFit() {
     if (settings_.receiveFileType == settings::CommaSeparated && settings_.decimalSeparator == ',' &&
         settings_.listSeparator == ',')
@@ -135,6 +137,7 @@ void ReceiveRun::prepareDisplay() {
     messages::loadText(client_.session, zhst::text::DisplayName, client_.pcFileName);
 }
 
+// They are inserts of the message that a transfer was not completed, which may come before any is known.
 void ReceiveRun::resetJobSettings() {
     services::SetSetting(client_.settings, id::JobRecordsReceived, 0);
     services::SetSetting(client_.settings, id::JobRecordsTotal, 0);
@@ -233,6 +236,7 @@ bool ReceiveRun::openPcFile() {
     services::FileObject& file = *client_.fileObject;
     if (isDif() && existingFileActionIs(zhst::value::AskUser)) file.prepareNewFile();
     if (!file.openForWriting()) return false;
+    // The name as it was opened, in lower case, is what the description and the spreadsheet program go by.
     file.openedName(client_.pcFileName);
     platform::CharLowerA(client_.pcFileName);
     if (settings_.writeDescriptionFile)
@@ -246,6 +250,7 @@ bool ReceiveRun::transferRecords() {
     provider::TransferFunctionSession& tf = *client_.tfSession;
     for (;; ++recordNumber_) {
         if (!request::sessionStands(client_)) return false;
+        // The record about to be fetched, not the last received: after N records it stands at N + 1.
         services::SetSetting(client_.settings, id::JobRecordsReceived, recordNumber_);
         tf.tfRequest(TF_GET_DATA, 0, 0, client_.lastResult, nullptr, client_.progressDialog);
         if (client_.lastResult.returnCode == TF_NO_MORE_DATA) return true;

@@ -33,6 +33,7 @@ bool RecordSender::prepare() {
     return false;
 }
 
+// Blanks fill the rest: fields behind the end of a record are blank.
 bool RecordSender::place(std::string_view record, char fill) {
     if (!request::sessionStands(client_)) return false;
     char* buffer = client_.tfSession->dataBuffer();

@@ -148,6 +148,7 @@ bool SendRun::targetExists() const {
                        [&](std::string_view id) { return hostText.starts_with(id); });
 }
 
+// Asked whatever messages the user has switched off: without an answer nothing may be replaced.
 bool SendRun::confirmReplacement() {
     const messages::Box question = messages::boxOf(zhst::text::ReplaceHostFile)
                                        .gatedBy(messages::Box::NoGate)
@@ -174,6 +175,7 @@ bool SendRun::prepareData() {
         settings_.hostFileType == zhst::value::SourceFile)
         return fail(zhst::message::SourceOfSeveralFields);
     if (!showFileType()) return false;
+    // The header and the tuple of the column names are no data.
     if (settings_.sendFileType == settings::Dif) settings_.startRecord = FirstDataTuple;
     filePosition_ = file.position();
     command(ProgressCommand::DataBegins);

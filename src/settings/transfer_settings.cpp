@@ -18,6 +18,7 @@ char firstOfLocale(std::uint32_t type) {
     return value[0];
 }
 
+// Only the comma is told apart; whatever else a locale has counts as a point.
 char decimalSeparatorOf(std::int32_t mode) {
     if (mode == CommaMode) return ',';
     return mode == LocaleMode && firstOfLocale(platform::LocaleDecimalSeparator) == ',' ? ',' : '.';

@@ -8,6 +8,16 @@
 
 namespace settings {
 
+// Read live on purpose, and so not here:
+//   of the connection   39, 215, 503 (the session's, which watches the last two), 40 (the designation is built anew
+//   each
+//                       time), 248, 250, 512 (asked for before there is a snapshot), 105, 197 (of the session's texts)
+//   of the frame        147, 148, 218, 357 (read once, into the client), 119, 120 for the type flag of the PC file,
+//   since
+//                       a forced type stands there too, 176 for every file object
+//   by the record       10 (send, at a first byte 1A), 239 (receive, at a record's end), 426 (send, at a fixed number),
+//                       555 (a description's number), 317 and 439 (before the first and behind the last record)
+//
 // The settings of one transfer, read once at its start; a change of the live settings does not reach the transfer.
 // The comments give the setting each field is read from where the name does not.
 struct TransferSettings {

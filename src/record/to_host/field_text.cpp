@@ -48,7 +48,7 @@ ConvertedField convertHex(const FileRules& rules, const FieldPlan& plan, std::st
     if (digits.size() < count) return {};
     std::size_t consumed = count + (quoted ? 1 : 0);
     if (!takeHexEnd(rules, quoted, digits.substr(count), consumed)) return {};
-    // The digits with two quotes and a terminating zero.
+    // Room for the digits with two quotes and a terminating zero, as agreed; a field without it is refused.
     const auto work = services::OwnedBytes::make(count + 3, false);
     if (!work) return {};
     *std::copy_n(digits.data(), count, work.data()) = '\0';

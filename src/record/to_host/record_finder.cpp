@@ -8,6 +8,7 @@ namespace {
 
 bool isLineEnd(char byte) { return byte == '\r' || byte == '\n' || byte == EndOfFileByte; }
 
+// CR or LF in the last place may be the first half of a pair; byte 26 stands alone.
 bool findLineEnd(std::string_view buffer, std::size_t& index) {
     std::size_t at = index;
     while (at < buffer.size() && !isLineEnd(buffer[at])) ++at;

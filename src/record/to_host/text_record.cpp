@@ -31,6 +31,7 @@ ConversionResult TextRecord::convert(const HostLayout& layout) {
     std::uint32_t number = 0;
     for (const PlannedField& each : layout) {
         const bool behindDelimiter = number++ > 0 && conversion_.rules.separator != '\0';
+        // Whatever it is: a field that ended early leaves something else there, and the next one begins behind it.
         if (behindDelimiter && !rest_.empty()) rest_.remove_prefix(1);
         if (each.plan.bytes > room_.size()) return {Outcome::HostRecordTooShort, number, &each};
         const Outcome outcome = convertField(each.plan);
@@ -49,6 +50,7 @@ Outcome TextRecord::convertNumericField(const FieldPlan& plan) {
     if (!takeDifPiece(rest_, plan.difHead)) return Outcome::BadDifValue;
     const ConvertedField converted = convertFieldText(conversion_, plan, rest_, room_.data());
     if (converted.hostBytes != plan.bytes) return Outcome::BadNumber;
+    // A field of no bytes took none, as it should; it is refused under its own name.
     if (plan.bytes == 0) return Outcome::FieldWithoutLength;
     rest_.remove_prefix(std::min(converted.consumed, rest_.size()));
     return takeDifPiece(rest_, plan.difEnd) ? Outcome::Converted : Outcome::BadDifValue;

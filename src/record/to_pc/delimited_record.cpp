@@ -15,6 +15,8 @@
 namespace record::to_pc {
 namespace {
 
+// Room for a record at first, and for a field at least: decimal text, quotes and separators in the worst case. What is
+// not enough grows.
 constexpr std::uint32_t PcBytesPerHostByte = 10;
 constexpr std::uint32_t FieldBytesPerHostByte = 4;
 
@@ -139,6 +141,7 @@ void DelimitedRecord::quoteAlways(const FieldPlan& plan, std::uint32_t length) {
     out_.append(plan.difEnd);
 }
 
+// The text is made beside the record, since it may be shorter than what was reserved for it in the display.
 void DelimitedRecord::convertNumericField(const FieldPlan& plan, const char* source) {
     const std::uint32_t length = formatNumericField(plan, source, writer_.numberText);
     if (row_) {
@@ -150,6 +153,8 @@ void DelimitedRecord::convertNumericField(const FieldPlan& plan, const char* sou
     out_.append(plan.difEnd);
 }
 
+// The blanks go from the real end of the record: a zero byte inside it becomes a blank only afterwards, so that what
+// stands behind one is not lost.
 void DelimitedRecord::finish() {
     if (row_) return;
     if (services::GetSetting(writer_.settings, zhst::setting::TrimRecordBlanks) == 1)

@@ -18,6 +18,7 @@ std::uint32_t finish(char* text, char* end) {
     return static_cast<std::uint32_t>(end - text);
 }
 
+// The separator stays: 100 with two decimals is "100.".
 char* cutTrailingZeros(const char* stop, char* end) {
     while (end > stop && end[-1] == '0') --end;
     return end;
@@ -103,6 +104,7 @@ public:
         const std::uint32_t at = index_++;
         return packed_ ? packedDigit(source_, at) : static_cast<char>('0' + sign::lowNibble(source_[at]));
     }
+    // A zero has no sign, whatever its last nibble says: "-" alone would be no number to whoever reads it.
     bool isNegative() const {
         if (!negative_) return false;
         for (Digits rest = *this; rest.index_ < rest.count_;)

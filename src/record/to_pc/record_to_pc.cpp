@@ -14,6 +14,7 @@ ConversionResult RecordToPc::build(std::string_view hostRecord, services::OwnedB
     return toDelimitedRecord({layout_, codePage_, settings_, display_, numberText_}, hostRecord, work, length);
 }
 
+// The finished record goes over the host record, where the driver, and a provider that looks, expect it.
 ConversionResult RecordToPc::convert(char* buffer, std::uint32_t hostLength, std::uint32_t capacity, PcRecord& record) {
     if (layout_.rules().type.form == settings::RecordForm::Unchanged) {
         record.bytes = {buffer, hostLength};
