@@ -4,13 +4,12 @@
 #include "client/client_object.h"
 #include "platform/own_module.h"
 #include "platform/platform.h"
+#include "provider/transports.h"
 
 namespace client {
 namespace {
 
 namespace id = zhst::setting;
-
-constexpr std::int32_t NamedSystemTransport = 9;
 
 // What a text setting begins with, and whether it is empty, which is the emulator's to say: a setting may count as
 // filled without a text.
@@ -22,10 +21,6 @@ struct SettingStart {
     bool isFilled;
 };
 
-bool isServedByDialog(std::int32_t transportType) {
-    return transportType == 8 || transportType == NamedSystemTransport || transportType == 14 || transportType == 15;
-}
-
 // Everything the check looks at, read before anything is decided.
 struct ConnectionSettings {
     explicit ConnectionSettings(services::SettingsHandle settings)
@@ -34,25 +29,25 @@ struct ConnectionSettings {
           param248(settings, id::ConnectionParam248),
           param512(settings, id::ConnectionParam512),
           messagesEnabled(services::IsMessageEnabled(settings, 0) != 0),
-          transportType(services::GetSetting(settings, id::TransportType)) {}
+          transport(provider::transportOf(services::GetSetting(settings, id::TransportType))) {}
 
     // A system name that begins with a period needs no parameter 250; no more of the name is looked at.
     bool isIncomplete() const {
         return system.isEmpty() || (param250.isEmpty() && system.text[0] != '.') || param248.isEmpty() ||
-               (param512.isEmpty() && transportType == NamedSystemTransport);
+               (param512.isEmpty() && transport.has(provider::NamedSystem));
     }
 
     SettingStart system, param250, param248, param512;
     bool messagesEnabled;
-    std::int32_t transportType;
+    provider::Transport transport;
 };
 
 }  // namespace
 
 bool checkConnection(const ZXFRPCSCLIENT& client) {
     const ConnectionSettings connection(client.settings);
-    if (!connection.isIncomplete() || !connection.messagesEnabled || !isServedByDialog(connection.transportType))
-        return true;
+    const bool asks = connection.messagesEnabled && connection.transport.has(provider::ServedByConnectionDialog);
+    if (!asks || !connection.isIncomplete()) return true;
     return services::ConnectionDialog(client.session, platform::moduleHandle(),
                                       platform::GetLastActivePopup(client.mainWindow)) != 0;
 }

@@ -23,7 +23,7 @@ namespace provider {
 //
 // A stop (by the session's end or a change of the connection settings) that arrives while a provider call is on the
 // stack is carried out when that call has returned, before anything else is sent; the exchange it interrupted then ends
-// as NotStarted. Nothing of that is shown here: whoever has a request with the provider asks for interruption().
+// as NotStarted. Nothing of that is shown here: whoever has a request with the provider asks for takeInterruption().
 class TransferFunctionSession {
 public:
     // `watch` is registered for the settings of the connection and the code page; it is to call onSettingChanged.

@@ -18,16 +18,9 @@ void tellNoTextForm(const ZXFRPCSCLIENT& client, const record::HostField& field)
 }  // namespace
 
 void tellConversionFailure(const ZXFRPCSCLIENT& client, const record::ConversionResult& result) {
-    switch (result.outcome) {
-        case record::Outcome::NoMemory:
-            messages::show(client.messageOwner(), zhst::message::OutOfMemory);
-            break;
-        case record::Outcome::NoTextForm:
-            tellNoTextForm(client, result.field->field);
-            break;
-        default:  // a text that was not converted has been reported by the emulator's converter
-            break;
-    }
+    // A text that was not converted has been reported by the emulator's converter.
+    if (result.outcome == record::Outcome::NoMemory) messages::show(client.messageOwner(), zhst::message::OutOfMemory);
+    if (result.outcome == record::Outcome::NoTextForm) tellNoTextForm(client, result.field->field);
 }
 
 }  // namespace receive

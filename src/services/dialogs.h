@@ -6,10 +6,6 @@
 // The progress dialog and the connection dialog.
 namespace services {
 
-// Direction of a progress dialog and of the setting TransferDirection.
-inline constexpr std::uint32_t ToHost = ZhstToHost;
-inline constexpr std::uint32_t FromHost = ZhstFromHost;
-
 // Unit of a progress total.
 inline constexpr std::uint32_t Records = ZhstRecords;
 inline constexpr std::uint32_t Bytes = ZhstBytes;
