@@ -1,13 +1,16 @@
 #!/bin/bash
-# Whether two builds of the library behave the same, over random transfers on every PC (tools/compare). Needs the program
-# z7x_random_transfers in build/native, or in the folder of $Z7X_BIN; both libraries run with the emulator's stand-in and
-# the providers beside it.
+# Whether two builds of the library behave the same over random transfers, COUNT of them on each of six PCs. Both run in
+# z7x_random_transfers (tools/compare) of build/native, or of the folder $Z7X_BIN, with the emulator's stand-in and the
+# providers there. Ends with 1, and with the first transfer that differs, when one does.
 #   tools/compare_libraries.sh OLD_LIBRARY NEW_LIBRARY [COUNT [SEED [OPTION...]]]
-# COUNT is the number of transfers on each of the six PCs; options go to the program (see its usage). Ends with 1, and with
-# the first transfer that differs, when one does.
+# For the options, of that program, see its usage. It is built on request: cmake --build --preset native --target
+# z7x_random_transfers.
 set -euo pipefail
-if [ $# -lt 2 ]; then
-    sed -n '/^#   /s/^#   /usage: /p' "${BASH_SOURCE[0]}" >&2
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+program=${Z7X_BIN:-$root/build/native/bin}/z7x_random_transfers
+if [ $# -lt 2 ] || [ ! -x "$program" ]; then
+    echo "usage: $0 OLD_LIBRARY NEW_LIBRARY [COUNT [SEED [OPTION...]]]" >&2
+    [ -x "$program" ] || echo "There is no $program." >&2
     exit 2
 fi
 old=$(realpath -e "$1")
@@ -16,12 +19,11 @@ count=${3:-4000}
 seed=${4:-1}
 options=("${@:5}")
 
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-program=${Z7X_BIN:-$root/build/native/bin}/z7x_random_transfers
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-# Thousands of small files come and go.
+# Thousands of small files come and go, in memory where that can be had.
 if [ -w /dev/shm ]; then export TMPDIR=/dev/shm; fi
+work=$(mktemp -d)
+export TMPDIR=$work
+trap 'rm -rf "$work"' EXIT
 
 run() { # library, file for the output, options of this run
     local library=$1 output=$2
@@ -30,23 +32,26 @@ run() { # library, file for the output, options of this run
         echo "ended with status $?" >>"$output"
 }
 
-for pc in 0 1 2 3 4 5; do
-    run "$old" "$work/old" --count "$count" &
-    run "$new" "$work/new" --count "$count"
+run_both() {
+    run "$old" "$work/old" "$@" &
+    run "$new" "$work/new" "$@"
     wait $!
+}
+
+for pc in 0 1 2 3 4 5; do
+    run_both --count "$count"
     if cmp -s "$work/old" "$work/new"; then
-        # Alike, but not if both could not run.
-        [ "$(wc -l <"$work/old")" -eq "$count" ] && continue
-        tail -n 3 "$work/old" >&2
-        exit 2
+        if grep -q '^ended with status' "$work/old"; then
+            echo "PC $pc: neither library runs to the end." >&2
+            exit 2
+        fi
+        continue
     fi
     differing=$(diff "$work/old" "$work/new" | grep -c '^<' || true)
-    number=$(cmp "$work/old" "$work/new" | sed 's/.* line //')
+    number=$({ cmp "$work/old" "$work/new" || true; } | sed 's/.* line //')
     echo "PC $pc: $differing of $count transfers differ. The first is $number:"
-    run "$old" "$work/old" --show "$number" &
-    run "$new" "$work/new" --show "$number"
-    wait $!
+    run_both --show "$number"
     diff -u --label "$old" --label "$new" "$work/old" "$work/new" || true
     exit 1
 done
-echo "$((6 * count)) transfers: no difference."
+echo "No difference in $((6 * count)) transfers."

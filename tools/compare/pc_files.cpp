@@ -17,12 +17,12 @@ std::string oddNumber(Random& random, std::string number) {
         case 1:
             return number.insert(random.below(number.size() + 1), 1, random.pick(Marks));
         case 2:
-            return number.replace(at, 1, 1, random.pick(std::string("0123456789")));
+            return number + std::string(random.pick({0u, 1u, 8u, 600u}), '0') + random.pick(std::string("05"));
         default:
-            return random.pick<std::string>(
-                {"", number + " ", number + "  ", "0" + number, number + "0", number + "9", number + "-", "-" + number,
-                 "-0", " " + number, '"' + number + '"', "2147483648", "-2147483648", "70000", "0x" + number,
-                 number + std::string(80, '0') + "5", std::string(20, '0') + number, "98765432109876543210" + number});
+            return random.pick<std::string>({"", number + " ", number + "  ", "0" + number, number + "9", number + "-",
+                                             "-" + number, "-0", " " + number, '"' + number + '"', "2147483648",
+                                             "-2147483648", "70000", "0x" + number, std::string(20, '0') + number,
+                                             "98765432109876543210" + number});
     }
 }
 
@@ -52,7 +52,8 @@ void damage(Random& random, std::string& text) {
 std::string altered(Random& random, std::string text) {
     const bool cr = random.oneIn(12), lf = random.oneIn(12);
     if (cr || lf) std::erase(text, cr ? '\n' : '\r');
-    if (random.oneIn(12)) text.resize(text.size() - std::min<std::size_t>(text.size(), 2));
+    // Without the last line end, without the end of a DIF file and the line end before.
+    if (random.oneIn(12)) text.resize(text.size() - std::min<std::size_t>(text.size(), random.pick({1, 2, 13})));
     if (random.oneIn(12)) text += '\x1A';
     if (!random.oneIn(3)) text = respelled(random, text, random.pick({5u, 15u, 60u}));
     while (random.odd(5)) damage(random, text);

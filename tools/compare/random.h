@@ -8,8 +8,8 @@
 
 namespace compare {
 
-// Random numbers of one transfer, the same on every machine (SplitMix64). Half of the transfers are neat: nothing odd
-// happens in them, so that they get through.
+// The random numbers of one transfer (SplitMix64). Half of the transfers are neat: nothing odd happens in them, so that
+// they get through.
 class Random {
 public:
     Random(std::uint64_t seed, std::uint64_t transfer) : state_(seed * 0xD1B54A32D192ED03 + transfer * Step) {

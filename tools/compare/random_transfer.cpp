@@ -1,5 +1,4 @@
 #include "compare/random_transfer.h"
-#include "emulator/setting_rows.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -9,6 +8,7 @@
 
 #include "compare/pc_files.h"
 #include "compare/random_settings.h"
+#include "emulator/setting_rows.h"
 
 namespace compare {
 namespace {
@@ -193,7 +193,7 @@ void RandomTransfer::list(const std::string& filter, std::uint32_t kind, std::in
     entry.fileCount = fileCount;
     std::uint32_t result = library_.pcsGetFirstHostFilename(session_, filter.c_str(), &entry);
     for (int more = 20;; --more) {
-        transcript_.say("entry", result, entry.name, "|", entry.description, "|", entry.status, entry.flags, "whole",
+        transcript_.say("entry", result, entry.name, "|", entry.description, "|", +entry.status, +entry.flags, "whole",
                         std::string_view(reinterpret_cast<const char*>(&entry), sizeof(entry)));
         if (result != CatalogEntryDelivered || more == 0) return;
         result = library_.pcsGetNextHostFilename(session_, &entry);

@@ -35,12 +35,14 @@ public:
             if (!asksForHandle(line)) value = 31 * value + std::hash<std::string>()(line);
         return value;
     }
-    // Bytes that are no printable ASCII as \xHH.
+    // Bytes that are no printable ASCII as \xHH; the lines of a file stand below one another.
     void print() const {
         for (const std::string& line : lines()) {
             if (asksForHandle(line)) continue;
-            for (const char byte : line)
+            for (const char byte : line) {
                 std::printf(byte >= ' ' && byte <= '~' ? "%c" : "\\x%02X", static_cast<unsigned char>(byte));
+                if (byte == '\n') std::fputs("\n    ", stdout);
+            }
             std::putchar('\n');
         }
     }

@@ -74,8 +74,8 @@ const ConversionTables* conversionTables(Session& session) {
 }
 
 void* const* codePageServicesTable() {
-    static void* const operations[] = {
-        nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, reinterpret_cast<void*>(&isDoubleByte)};
+    static void* operations[ZhstCodePageIsDoubleByte + 1] = {};
+    operations[ZhstCodePageIsDoubleByte] = reinterpret_cast<void*>(&isDoubleByte);
     return operations;
 }
 

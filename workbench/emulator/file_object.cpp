@@ -110,28 +110,28 @@ void* slot(Operation operation) {
     return reinterpret_cast<void*>(operation);
 }
 
-constexpr std::size_t SlotCount = 26;
+constexpr std::size_t SlotCount = ZhstFilePrepareNew + 1;
 
 std::array<void*, SlotCount> makeSlots() {
     std::array<void*, SlotCount> slots{};
-    slots[0] = slot(&destroy);
-    slots[1] = slot(&openForReading);
-    slots[2] = slot(&openForWriting);
-    slots[3] = slot(&read);
-    slots[4] = slot(&write);
-    slots[5] = slot(&close);
-    slots[7] = slot(&errorState);
-    slots[8] = slot(&setName);
-    slots[10] = slot(&setTypeFlag);
-    slots[11] = slot(&setOpenFlags);
-    slots[12] = slot(&setExistingFileAction);
-    slots[14] = slot(&setOption);
-    slots[15] = slot(&size);
-    slots[16] = slot(&readWhole);
-    slots[17] = slot(&openedName);
-    slots[23] = slot(&setPosition);
-    slots[24] = slot(&position);
-    slots[25] = slot(&prepareNewFile);
+    slots[ZhstFileDestroy] = slot(&destroy);
+    slots[ZhstFileOpenForReading] = slot(&openForReading);
+    slots[ZhstFileOpenForWriting] = slot(&openForWriting);
+    slots[ZhstFileRead] = slot(&read);
+    slots[ZhstFileWrite] = slot(&write);
+    slots[ZhstFileClose] = slot(&close);
+    slots[ZhstFileErrorState] = slot(&errorState);
+    slots[ZhstFileSetName] = slot(&setName);
+    slots[ZhstFileSetTypeFlag] = slot(&setTypeFlag);
+    slots[ZhstFileSetOpenFlags] = slot(&setOpenFlags);
+    slots[ZhstFileSetExistingAction] = slot(&setExistingFileAction);
+    slots[ZhstFileSetOption] = slot(&setOption);
+    slots[ZhstFileSize] = slot(&size);
+    slots[ZhstFileReadWhole] = slot(&readWhole);
+    slots[ZhstFileOpenedName] = slot(&openedName);
+    slots[ZhstFileSetPosition] = slot(&setPosition);
+    slots[ZhstFilePosition] = slot(&position);
+    slots[ZhstFilePrepareNew] = slot(&prepareNewFile);
     return slots;
 }
 

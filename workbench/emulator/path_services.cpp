@@ -74,12 +74,12 @@ void* slot(Operation operation) {
 }  // namespace
 
 void* const* pathServicesTable() {
-    static const std::array<void*, 14> slots = [] {
-        std::array<void*, 14> table{};
-        table[1] = slot(&fileExists);
-        table[10] = slot(&baseName);
-        table[11] = slot(&directoryPart);
-        table[13] = slot(&setCurrentDirectory);
+    static const std::array<void*, ZhstPathSetCurrentDirectory + 1> slots = [] {
+        std::array<void*, ZhstPathSetCurrentDirectory + 1> table{};
+        table[ZhstPathFileExists] = slot(&fileExists);
+        table[ZhstPathBaseName] = slot(&baseName);
+        table[ZhstPathDirectoryPart] = slot(&directoryPart);
+        table[ZhstPathSetCurrentDirectory] = slot(&setCurrentDirectory);
         return table;
     }();
     return slots.data();

@@ -64,7 +64,7 @@ bool store(const WorkingText& working, const FieldPlan& plan, char* destination)
 }
 
 bool storeBinary(std::string_view text, const FieldPlan& plan, char* destination) {
-    BinaryNumber number(plan.width);
+    BinaryNumber number(plan.width, plan.isFixed);
     return readBinary(text, plan, plan.isFixed, number) && number.store(destination, plan.bytes);
 }
 

@@ -9,6 +9,7 @@ namespace record::to_host {
 namespace {
 
 constexpr std::uint32_t LargestBinary = 8;
+constexpr std::uint64_t LargestTenth = std::numeric_limits<std::int32_t>::max() / 10;
 constexpr char HostBlank = 0x40;
 
 bool isDigit(char character) { return character >= '0' && character <= '9'; }
@@ -85,16 +86,17 @@ bool textToPacked(const WorkingText& text, char* destination, std::uint32_t byte
 
 bool BinaryNumber::put(char character) {
     if (character == '.' || character == ',') return true;
-    const bool leading = magnitude_ == 0 && (character == ' ' || character == '0');
+    if (character == '-' && (negative_ || digitSeen_)) return false;
+    const bool leading = !isFixed_ && magnitude_ == 0 && (character == ' ' || character == '0');
     if (!leading) {
-        if (left_ == 0) return true;
+        // What stands behind the width is not read, unless it shows that no field of 32 bits holds the number.
+        if (left_ == 0) return !isDigit(character) || magnitude_ <= LargestTenth;
         --left_;
     }
     if (character == ' ') return true;
     if (character == '-') {
-        const bool misplaced = negative_ || digitSeen_;
         negative_ = true;
-        return !misplaced;
+        return true;
     }
     if (!isDigit(character)) return false;
     digitSeen_ = true;

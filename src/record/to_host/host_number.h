@@ -18,7 +18,8 @@ struct WorkingText {
     bool hasSign;  // the first character is a sign or nothing, but no digit
 
     std::uint32_t digitPositions() const { return length - (hasSign ? 1 : 0) - (hasPoint() ? 1 : 0); }
-    bool hasPoint() const { return decimals > 0 && decimals < length; }
+    // In a field of more decimals than digits the point would stand on the sign.
+    bool hasPoint() const { return decimals > 0 && decimals + (hasSign ? 1 : 0) < length; }
     std::uint32_t pointAt() const { return length - decimals - 1; }
 };
 
@@ -35,10 +36,11 @@ bool textToPacked(const WorkingText& text, char* destination, std::uint32_t byte
 // A binary number being read, character by character.
 class BinaryNumber {
 public:
-    // At most `width` characters count, those in front of the first digit other than 0 apart from a "-" never.
-    explicit BinaryNumber(std::uint32_t width) : left_(width) {}
+    // At most `width` characters count; in a number of free length those in front of the first digit other than 0 do
+    // not, but for a "-".
+    BinaryNumber(std::uint32_t width, bool isFixed) : left_(width), isFixed_(isFixed) {}
 
-    // False for a character that has no place in a number, or a digit too many for any binary field. Decimal points,
+    // False for a character that has no place in a number, or a digit too many for 32 bits. Decimal points,
     // thousands separators and blanks are skipped wherever they stand.
     bool put(char character);
 
@@ -48,6 +50,7 @@ public:
 
 private:
     std::uint32_t left_;
+    bool isFixed_;
     std::uint64_t magnitude_ = 0;
     bool negative_ = false;
     bool digitSeen_ = false;

@@ -26,14 +26,15 @@ bool hasMisplacedSign(std::string_view number) {
 }
 
 // Places the characters so that they end in front of position `end`. The first position of all is that of the sign: a
-// digit there, which would be lost, or a "+" does not fit. Leading zeros may be left out.
+// digit there, which would be lost, a "+" or a comma does not fit. Leading zeros may be left out.
 bool placeRight(std::string_view characters, std::uint32_t end, WorkingText& working) {
     for (; !characters.empty(); characters.remove_suffix(1)) {
         const char character = characters.back();
         if (end <= 1 && character == '0' && characters.find_first_not_of("-0") == std::string_view::npos) continue;
         if (end == 0) return false;
         --end;
-        if (end == 0 && ((character >= '0' && character <= '?') || character == '+')) return false;
+        const bool isLost = (character >= '0' && character <= '?') || character == '+' || character == ',';
+        if (end == 0 && isLost) return false;
         working.characters[end] = character;
     }
     return true;
