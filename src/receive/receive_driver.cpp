@@ -63,7 +63,6 @@ private:
     bool transfer();
     bool countRecords();
     bool tellNoRecords();
-    bool sendRequests();
     bool sendOptions();
     bool sendQuery();
     bool readFields();
@@ -152,8 +151,8 @@ bool ReceiveRun::createProgressDialog() {
 }
 
 bool ReceiveRun::transfer() {
-    return request::composeQueryClauses(client_, true, false) && countRecords() && sendRequests() && readFields() &&
-           prepareOutput() && transferRecords();
+    return request::composeQueryClauses(client_, true, false) && countRecords() && sendOptions() && sendQuery() &&
+           readFields() && prepareOutput() && transferRecords();
 }
 
 bool ReceiveRun::countRecords() {
@@ -182,8 +181,6 @@ bool ReceiveRun::tellNoRecords() {
             messages::boxOf(zhst::text::NoRecords).gatedBy(messages::Box::NoGate).withHelp(zhst::help::Transfer));
     return false;
 }
-
-bool ReceiveRun::sendRequests() { return sendOptions() && sendQuery(); }
 
 bool ReceiveRun::sendOptions() {
     command(ProgressCommand::OptionsRequest);

@@ -107,9 +107,7 @@ bool SendRun::createProgressDialog() {
     return false;
 }
 
-bool SendRun::openPcFile() {
-    return client_.fileObject ? client_.fileObject->openForReading() : fail(zhst::message::OutOfMemory);
-}
+bool SendRun::openPcFile() { return client_.fileObject->openForReading(); }
 
 bool SendRun::composeRequests(std::string_view& options) {
     if (!request::composeSendStatement(client_)) return false;
@@ -231,7 +229,6 @@ void SendRun::finish() {
     command(ProgressCommand::Ended);
     if (sending_ && settings_.startRecord > 1 && settings_.startRecord > sending_->textRecords.count()) tf.tfEndData();
     sending_.reset();
-    readBuffer_.reset();
 }
 
 }  // namespace
