@@ -19,8 +19,8 @@
      length          bytes of request or record in the buffer, else 0
      designation     "SYSTEM(name    )" or null
      reserved        0
-     data            out: address of what the provider returns, valid until the next call. Records and record counts
-                     stand in the shared buffer; field descriptions and host messages wherever this points
+     data            out: address of what the provider returns, valid until the next call: in the shared buffer or in
+                     memory of the provider's own
      dataLength      out: length of that
      detail          out: the low 16 bits are the detail code
 

@@ -81,10 +81,12 @@
     X(TransportType, TransportAs400, 30)
 
 /* The seven PC file types, values of SendFileType and ReceiveFileType: number, name, short name, command of the
-   progress dialog that shows the type, then what its records are: form       Lines of text, Tuples of DIF, Binary
-   fields at the host's positions, or the host's bytes Unchanged separator  between fields: None, Comma, Tab, or List,
-   which is the locale's quotes     double quotes around character fields: Never, WhereNeeded or Always hex hexadecimal
-   digits stand Bare or Quoted */
+   progress dialog that shows the type, then what its records are.
+
+   - Form: Lines of text, Tuples of DIF, Binary fields at the host's positions, or the host's bytes Unchanged.
+   - Separator between fields: None, Comma, Tab, or List, which is the locale's.
+   - Double quotes around character fields: Never, WhereNeeded or Always.
+   - Hexadecimal digits stand Bare or Quoted. */
 #define ZHST_PC_FILE_TYPES(X)                                        \
     X(0, AsciiText, "text", 29, Lines, None, Never, Bare)            \
     X(1, BasicSequential, "basic", 34, Lines, Comma, Always, Quoted) \
