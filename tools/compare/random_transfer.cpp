@@ -183,7 +183,8 @@ void RandomTransfer::browse() {
     const std::string filter = random_.pick<std::string>(
         {"", "QGPL", "QGPL/", "QGPL/CUST*", "QGPL/CUST(MBR)", "VERYLONGLIBRARY/", "QGPL/" + pc_.pair});
     if (random_.oneIn(4)) emulator::set(session_, setting::ConnectionType, Demonstration);
-    list(random_.odd(6) ? longFilter : filter, random_.pick({0u, 1u, 2u, 2u, 3u}), random_.pick({0, 1, 2, 3, -1}));
+    const std::uint32_t kind = random_.pick({0u, 1u, 2u, 2u, 3u});
+    list(random_.odd(6) ? longFilter : filter, kind, random_.pick({0, 1, 2, 3, -1}));
 }
 
 void RandomTransfer::list(const std::string& filter, std::uint32_t kind, std::int32_t fileCount) {
