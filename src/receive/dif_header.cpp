@@ -6,6 +6,7 @@
 
 #include "record/dif_pieces.h"
 #include "record/quoting.h"
+#include "text/double_byte.h"
 
 namespace receive {
 namespace {
@@ -26,8 +27,8 @@ bool writeName(services::FileObject& file, const char* name) {
     char item[NameCapacity + 16];
     char* next = std::copy(dif::StringHead.begin(), dif::StringHead.end(), item);
     *next++ = '"';
-    if (!record::doubleQuotes(name, next, NameCapacity)) return false;
-    next += std::strlen(next);
+    text::copyCut(name, next, NameCapacity);
+    next += record::doubleQuotes(next, std::strlen(next), NameCapacity);
     std::memcpy(next, "\"\r\n", 3);
     return writeToFile(file, {item, static_cast<std::size_t>(next + 3 - item)});
 }

@@ -16,23 +16,7 @@ std::size_t countQuotes(std::string_view text) {
 
 }  // namespace
 
-bool doubleQuotes(std::string_view source, char* destination, std::size_t capacity) {
-    std::size_t written = 0;
-    for (std::size_t at = 0; at < source.size();) {
-        const std::size_t bytes = text::characterBytes(source.substr(at));
-        const bool quote = source[at] == '"';
-        if (written + bytes + quote >= capacity) return false;
-        if (quote) destination[written++] = '"';
-        std::memcpy(destination + written, source.data() + at, bytes);
-        written += bytes;
-        at += bytes;
-    }
-    if (written >= capacity) return false;
-    destination[written] = '\0';
-    return true;
-}
-
-std::size_t doubleQuotesInPlace(char* text, std::size_t length, std::size_t capacity) {
+std::size_t doubleQuotes(char* text, std::size_t length, std::size_t capacity) {
     std::size_t quotes = countQuotes({text, length});
     const std::size_t doubled = length + quotes;
     if (doubled >= capacity) return length;

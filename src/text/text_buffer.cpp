@@ -62,19 +62,4 @@ void TextBuffer::keepFirst(std::uint32_t count) {
     if (count < length()) record_.text[count] = '\0';
 }
 
-bool TextBuffer::replaceFirst(std::string_view found, std::string_view replacement) {
-    const std::string_view whole = view();
-    std::size_t at = 0;
-    while (at < whole.size() && !whole.substr(at).starts_with(found)) at += characterBytes(whole.substr(at));
-    if (found.empty() || at >= whole.size()) return false;
-    const std::size_t tail = whole.size() - at - found.size();
-    const std::size_t after = at + replacement.size() + tail;
-    // The block may only shrink once the tail has moved, and must have grown before it moves.
-    if (after > whole.size() && !reserve(static_cast<std::uint32_t>(after))) return false;
-    char* spot = record_.text + at;
-    std::memmove(spot + replacement.size(), spot + found.size(), tail + 1);
-    std::copy(replacement.begin(), replacement.end(), spot);
-    return true;
-}
-
 }  // namespace text

@@ -38,8 +38,6 @@ public:
     void trimEnd();
     void toUpper();
     void keepFirst(std::uint32_t count);
-    // Case-sensitive; true when there was one.
-    bool replaceFirst(std::string_view found, std::string_view replacement);
 
     services::TextRecord* record() { return &record_; }
 

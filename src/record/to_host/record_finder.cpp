@@ -1,5 +1,7 @@
 #include "record/to_host/record_finder.h"
 
+#include <algorithm>
+
 #include "record/dif_pieces.h"
 #include "text/double_byte.h"
 
@@ -22,7 +24,7 @@ bool findTupleEnd(std::string_view buffer, std::size_t& index) {
     bool specialSeen = false;
     for (std::size_t at = index;; ++at) {
         if (at < buffer.size() && buffer[at] == '\n') ++at;
-        const std::string_view line = buffer.substr(at < buffer.size() ? at : buffer.size());
+        const std::string_view line = buffer.substr(std::min(at, buffer.size()));
         if (text::startsWithNoCase(line, dif::EndWord) || !findLineEnd(buffer, at)) return false;
         if (text::startsWithNoCase(line, dif::SpecialHead)) {
             specialSeen = true;

@@ -124,7 +124,7 @@ void DelimitedRecord::quoteWhereNeeded(std::uint32_t length) {
     }
     std::memmove(field + 1, field, trimmed.size());
     *field = '"';
-    const std::size_t doubled = doubleQuotesInPlace(field + 1, trimmed.size(), out_.room() - 1);
+    const std::size_t doubled = doubleQuotes(field + 1, trimmed.size(), out_.room() - 1);
     out_.advance(static_cast<std::uint32_t>(doubled) + 1);
     out_.append('"');
 }
@@ -135,7 +135,7 @@ void DelimitedRecord::quoteAlways(const FieldPlan& plan, std::uint32_t length) {
     if (!out_.ensure(2 * length + 4)) return;
     char* field = out_.end();
     std::size_t trimmed = text::trimmedEnd({field, std::strlen(field)}).size();
-    if (isTuple()) trimmed = doubleQuotesInPlace(field, trimmed, out_.room());
+    if (isTuple()) trimmed = doubleQuotes(field, trimmed, out_.room());
     out_.advance(static_cast<std::uint32_t>(trimmed));
     out_.append('"');
     out_.append(plan.difEnd);
