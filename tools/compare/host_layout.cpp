@@ -17,6 +17,7 @@ void makeNumber(Random& random, Field& field) {
     field.decimals = random.oneIn(2) ? 0 : random.below(field.digits + 1);
     if (random.odd(20)) field.decimals = random.pick({field.digits + 2, 12u, 200u});
     if (random.odd(20)) field.digits = random.below(32);
+    if (random.odd(30)) field.bytes = 0;
 }
 
 Field randomField(Random& random, const Pc& pc) {

@@ -87,14 +87,15 @@ emulator::Clauses randomClauses(Random& random, const Pc& pc) {
 
 emulator::Faults randomFaults(Random& random, bool failingAllocations) {
     emulator::Faults faults;
-    const std::uint32_t allocation = random.odd(6) ? random.between(1, random.pick({20u, 60u, 300u})) : 0;
+    const std::uint32_t allocation = random.odd(3) ? random.between(1, random.pick({12u, 60u, 300u})) : 0;
     faults.failAllocation = failingAllocations ? allocation : 0;
     faults.failAllAfter = random.oneIn(3);
-    if (random.odd(12)) faults.failWriteAfterBytes = random.below(random.pick({30u, 300u, 3000u}));
+    if (random.odd(6)) faults.failWriteAfterBytes = random.below(random.pick({30u, 300u, 3000u}));
     for (bool* const fault :
          {&faults.refuseStore, &faults.refuseStoreLock, &faults.refuseProgressDialog, &faults.refuseTextDisplay,
           &faults.refuseTextDisplayBegin, &faults.refuseFileObject, &faults.failConversion, &faults.refuseGlobalMemory})
         *fault = random.odd(60);
+    faults.giveNoMore = true;
     return faults;
 }
 

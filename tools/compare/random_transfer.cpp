@@ -92,7 +92,8 @@ void RandomTransfer::prepareHost() {
         host_.records.push_back(randomRecord(random_, layout_, pc_));
     for (std::uint32_t count = random_.below(6); count > 0; --count) {
         // The lengths that have a meaning, and others.
-        const std::uint32_t length = random_.pick({60u, 75u, 75u, 83u, 96u, 71u, 70u, random_.below(250)});
+        const std::uint32_t length =
+            random_.pick({60u, 75u, 75u, 83u, 96u, 71u, 70u, random_.below(random_.pick({250u, 3000u}))});
         host_.catalogue.push_back(randomRecord(random_, {{Character, length, 0, 0, ""}}, pc_));
     }
     if (random_.oneIn(10)) host_.count = random_.pick({3u, 200u, 201u, 499u, 500u, 0u, 0x80000000u, 0xFFFFFFFFu});
@@ -153,7 +154,7 @@ void RandomTransfer::send() {
     for (const files::path& path : allFiles()) {
         const std::string contents = contentsOf(path);
         // Few transfers get beyond an altered description.
-        if (!contents.starts_with("PCFDF") || random_.odd(8))
+        if (!contents.starts_with("PCFDF") || random_.odd(4))
             std::ofstream(path, std::ios::binary) << altered(random_, contents);
     }
     if (!random_.odd(10)) set(setting::UseDescriptionFile, number(setting::HostFileType) == 0 ? 1 : 0);
@@ -164,7 +165,7 @@ void RandomTransfer::send() {
 void RandomTransfer::allowSurprises(bool allowed) {
     surprises_ = allowed;
     const emulator::Faults faults = randomFaults(random_, options_.failingAllocations);
-    emulator::setFaults(allowed ? faults : emulator::Faults{});
+    emulator::setFaults(allowed ? faults : emulator::Faults{.giveNoMore = true});
 }
 
 void RandomTransfer::transfer(std::uint32_t direction) {

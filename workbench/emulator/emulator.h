@@ -192,6 +192,9 @@ struct Faults {
     bool refuseFileObject = false;
     bool failConversion = false;  // ConvertHostText gives 1
     bool refuseGlobalMemory = false;
+    // Nothing comes that a caller may not rely on: memory not asked for as zeros is spoilt, GetStringSetting writes no
+    // text where there is none.
+    bool giveNoMore = false;
 };
 void setFaults(const Faults& faults);
 

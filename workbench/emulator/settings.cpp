@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "emulator/faults.h"
 #include "emulator/journal.h"
 
 namespace emulator {
@@ -73,12 +74,13 @@ std::uint32_t ZHST_CALL zhstGetStringSetting(ZhstSettings settings, std::uint32_
                                              std::uint32_t size) {
     const Session* session = findSession(settings, SessionPart::Settings);
     const std::string* text = session ? settingText(*session, id) : nullptr;
-    if (size > 0) {
+    if (size > 0 && (text || !faults().giveNoMore)) {
         const std::size_t length = text ? std::min<std::size_t>(text->size(), size - 1) : 0;
         if (length > 0) std::memcpy(buffer, text->data(), length);
         buffer[length] = 0;
     }
-    const Call call("GetStringSetting", settings, journalled::Setting{id}, size > 0 ? buffer : nullptr, size);
+    const char* const shown = text ? buffer : "";
+    const Call call("GetStringSetting", settings, journalled::Setting{id}, size > 0 ? shown : nullptr, size);
     return call.result(text ? 1u : 0u);
 }
 
