@@ -44,7 +44,7 @@ const Query Queries[] = {
     {"QGPL/CUST", clauses("", "", "C", "", "E > 0"), "", "* ", "  having E > 0 order by C", "* "},
     {"A B", clauses("", "", "", "", "", "t1.K = t2.K  "), " where t1.K = t2.K", "* ", " where t1.K = t2.K  ", "* ",
      " where A.K = B.K  "},
-    {"A B", clauses("", "", "", "", "", "   "), "", "* ", " ", "* "},
+    {"A B", clauses("", "", "", "", "", "   "), " where", "* ", " where    ", "* "},
     {"QGPL/CUST QGPL/ORD", clauses("t1.CUSTNO,T2.AMT", "t2.AMT > 0", "T2.AMT", "", "", "t1.CUSTNO = t2.CUSTNO"),
      " where t1.CUSTNO = t2.CUSTNO and (t2.AMT > 0)", "t1.CUSTNO,T2.AMT",
      " where t1.CUSTNO = t2.CUSTNO and (t2.AMT > 0) order by T2.AMT", "CUST.CUSTNO,ORD.AMT",
@@ -160,7 +160,7 @@ TEST_F(Requests, OptionsAsText) {
     }
 }
 
-TEST_F(Requests, OptionsAsABlockEndAtTheFirstZeroByteOrTheirEnd) {
+TEST_F(Requests, OptionsAsABlockEndAtTheFirstZeroByteOfTheBuffer) {
     useTransport(30);
     std::string buffer;
     hostFile.observe = [&](const scripted::Call& call) {
@@ -177,7 +177,7 @@ TEST_F(Requests, OptionsAsABlockEndAtTheFirstZeroByteOrTheirEnd) {
         {{1, 2, 3, 4, 5, 6}, "*HEX", "01 02 03 04 05 06 00", 14},
         {{1, 2, 3, 4, 5, 6}, "*JOB", "01 02 03 04 05 06 00", 14},
         {{1, 2, 3, 4, 5, 6}, "", "01 02 03 04 05 06 00", 14},
-        {{1, 2, 3, 4, 5, 6}, "*LANGIDSHR", "01 02 03 04 05 06 01", 15},
+        {{1, 2, 3, 4, 5, 6}, "*LANGIDSHR", "01 02 03 04 05 06 01", 4096},
         {{1, 2, 3, 4, 5, 6}, "*job", "01 02 03 04 05 06 03 2A 6A 6F 62 00", 19},
         {{-1, 0x105, 3, 4, 5, 7}, "L/S", "FF 05 03 04 05 07 03 4C 2F 53 00", 18},
         {{0x100, 2, 3, 4, 5, 6}, "L/S", "00 02 03 04 05 06 03 4C 2F 53 00", 8},

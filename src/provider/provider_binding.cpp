@@ -41,10 +41,7 @@ Entry lookUp(services::ModuleHandle module, const char* name) {
 
 }  // namespace
 
-// The window is that of the moment: it owns the messages, and the provider is given it.
-bool ProviderBinding::bind(services::SessionHandle session, const Connection& connection) {
-    const services::SettingsHandle settings = services::GetSessionSettings(session);
-    owner_ = {session, settings, services::GetSessionWindow(settings)};
+bool ProviderBinding::bind(const Connection& connection) {
     if (bindProvider(connection)) return true;
     deleteClient();
     freeModules();
@@ -117,8 +114,7 @@ bool ProviderBinding::bindAs400(std::int32_t routerKind) {
 // cannot be loaded have messages of their own.
 bool ProviderBinding::load(const char* name, std::uint32_t search, services::ModuleHandle& module,
                            std::uint32_t notLoaded, const char* insert) const {
-    auto* paths = services::GetPathServices(owner_.session);
-    if (!paths || !paths->fileExists(name)) return fail(message::LibraryNotFound, name);
+    if (!pathServices_ || !pathServices_->fileExists(name)) return fail(message::LibraryNotFound, name);
     if (services::LoadModule(name, search, &module) == 0) return true;
     module = nullptr;
     return fail(notLoaded, insert);

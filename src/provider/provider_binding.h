@@ -6,6 +6,7 @@
 #include "messages/box.h"
 #include "provider/connection.h"
 #include "provider/tf_result.h"
+#include "services/objects.h"
 
 namespace provider {
 
@@ -20,12 +21,14 @@ namespace provider {
 //                                                          as400Request
 class ProviderBinding {
 public:
-    ProviderBinding() = default;
+    // The owner's window is given to the provider, too.
+    ProviderBinding(const messages::Owner& owner, services::PathServices* pathServices)
+        : owner_(owner), pathServices_(pathServices) {}
     ProviderBinding(const ProviderBinding&) = delete;
     ProviderBinding& operator=(const ProviderBinding&) = delete;
 
     // True when the provider is bound.
-    bool bind(services::SessionHandle session, const Connection& connection);
+    bool bind(const Connection& connection);
 
     // Calls the provider. `conversation` is read and updated by it; out values start at zero.
     struct Call {
@@ -59,7 +62,8 @@ private:
               const char* insert = nullptr) const;
     bool fail(std::uint32_t message, const char* insert = nullptr) const;
 
-    messages::Owner owner_ = {};
+    const messages::Owner& owner_;
+    services::PathServices* pathServices_;
     Family family_ = Family::None;
     services::ModuleHandle providerModule_ = nullptr;
     services::ModuleHandle routerModule_ = nullptr;

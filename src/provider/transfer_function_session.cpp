@@ -33,6 +33,7 @@ bool isRecord(const TfResult& result) { return result.returnCode == TF_SUCCESS |
 TransferFunctionSession::TransferFunctionSession(services::SessionHandle session, services::SettingWatch watch,
                                                  TfYield yield)
     : owner_{session, services::GetSessionSettings(session), 0},
+      binding_(owner_, services::GetPathServices(session)),
       codePage_(session),
       monitorStore_(services::Owned<monitor::MonitorStore>::make()),
       watch_(watch),
@@ -65,7 +66,7 @@ bool TransferFunctionSession::tfStart() {
     interruption_ = Interruption::None;
     connection_.settle(owner_.settings);
     phase_.beginBinding();
-    const bool bound = allocateBuffer() && binding_.bind(owner_.session, connection_);
+    const bool bound = allocateBuffer() && binding_.bind(connection_);
     phase_.endBinding(bound);
     if (!bound) return false;
     if (isStarted()) {

@@ -104,6 +104,7 @@ private:
 
     // In the order in which the constructor makes them.
     messages::Owner owner_;  // the session's window
+    ProviderBinding binding_;
     text::CodePageState codePage_;
     services::Owned<monitor::MonitorStore> monitorStore_;
     services::SettingWatch watch_;
@@ -114,7 +115,6 @@ private:
     bool stopIsOwed_ = false;  // by a change of the connection that came in while it was the demonstration
     Connection connection_;
     ConnectionChange change_;
-    ProviderBinding binding_;
     SharedBuffer buffer_;
     services::OwnedFile traceFile_;
     SystemDesignation designation_;

@@ -47,14 +47,16 @@ std::uint32_t fillHostCatalogEntry(ZXFRPCSCLIENT& client, HostCatalogEntry& entr
     return CatalogEntryDelivered;
 }
 
-// The buffer is cleared first: a record shorter than its layout has zeros where it ends.
-bool fetchRecord(ZXFRPCSCLIENT& client) {
+// A record shorter than its layout has zeros where it ends.
+bool clearBuffer(ZXFRPCSCLIENT& client) {
     char* buffer = requestBuffer(client);
-    if (!buffer) return false;
-    std::memset(buffer, 0, provider::BufferSize);
+    if (buffer) std::memset(buffer, 0, provider::BufferSize);
+    return buffer;
+}
+
+void fetchRecord(ZXFRPCSCLIENT& client) {
     provider::TransferFunctionSession& tf = *client.tfSession;
     tf.tfRequest(TF_GET_DATA, 0, 0, client.lastResult, tf.hostSystemDesignation(), 0);
-    return true;
 }
 
 // Sends the request of a listing; false after a failure, which has been reported. The user waits in the emulator's own
@@ -82,7 +84,8 @@ std::uint32_t listFirst(ZXFRPCSCLIENT& client, HostCatalogEntry& entry, const ch
         if (answer != TF_NO_MORE_DATA) endRequest(client);
         return CatalogFailure;
     }
-    if (answer != TF_COMPLETED && !fetchRecord(client)) return CatalogFailure;
+    if (!clearBuffer(client)) return CatalogFailure;
+    if (answer != TF_COMPLETED) fetchRecord(client);
     return fillHostCatalogEntry(client, entry);
 }
 
@@ -104,7 +107,8 @@ std::uint32_t getFirstHostFilename(ZXFRPCSCLIENT& client, const char* filter, Ho
 std::uint32_t getNextHostFilename(ZXFRPCSCLIENT& client, HostCatalogEntry* entry) {
     if (!entry) return CatalogFailure;
     if (client.isDemonstration()) return nextDemoEntry(client, *entry);
-    if (client.isBusy() || !client.tfStart() || !fetchRecord(client)) return CatalogFailure;
+    if (client.isBusy() || !client.tfStart() || !clearBuffer(client)) return CatalogFailure;
+    fetchRecord(client);
     return fillHostCatalogEntry(client, *entry);
 }
 

@@ -98,19 +98,20 @@ struct ColumnRecord {
 
 }  // namespace
 
-// The parts are converted one by one, so that shift bytes of one never move the other.
+// Converted whole, and divided where the parts of the host record meet: where shift bytes went, the name takes them
+// from the description.
 void formatFileEntry(const ZXFRPCSCLIENT& client, std::string_view record, HostCatalogEntry& entry) {
     const std::size_t nameEnd = nameBytes(record.size());
     const bool isDescribed = record.size() > nameEnd;
     // What is not reached is not the text of the entry before.
     entry.name[0] = '\0';
     if (isDescribed) entry.description[0] = '\0';
-    const PcText name(client, record.substr(0, nameEnd));
-    if (!name.converts()) return;
-    text::copyCut(name.view(), entry.name, sizeof(entry.name));
+    const PcText text(client, record);
+    if (!text.converts()) return;
+    text::copyCut(text.view().substr(0, nameEnd), entry.name, sizeof(entry.name));
     if (!isDescribed) return;
-    const PcText description(client, record.substr(nameEnd));
-    if (description.converts()) text::copyCut(description.view(), entry.description, sizeof(entry.description));
+    const std::string_view description = text.view().substr(std::min(nameEnd, text.view().size()));
+    text::copyCut(description, entry.description, sizeof(entry.description));
 }
 
 void formatColumnEntry(const ZXFRPCSCLIENT& client, const char* record, HostCatalogEntry& entry) {

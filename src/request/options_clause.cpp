@@ -1,6 +1,7 @@
 #include "request/options_clause.h"
 
 #include <algorithm>
+#include <cstring>
 #include <iterator>
 
 #include "request/statement_exchange.h"
@@ -34,7 +35,7 @@ void appendSortSequence(StatementWriter& writer, std::string_view sequence) {
     writer.append({"SRTSEQ(", quote, sequence, quote, ") "});
 }
 
-std::string_view composeText(char* buffer, const settings::TransferSettings& options) {
+void composeText(char* buffer, const settings::TransferSettings& options) {
     StatementWriter writer(buffer);
     writer.append(Prefix);
     appendOption(writer, "IGNDECERR", options.ignoreDecimalErrors ? "Y" : "N");
@@ -43,7 +44,6 @@ std::string_view composeText(char* buffer, const settings::TransferSettings& opt
     appendOption(writer, "DATFMT", keyword(dateFormats, options.dateFormat));
     appendOption(writer, "DATSEP", keyword(dateSeparators, options.dateSeparator));
     appendSortSequence(writer, options.sortSequence);
-    return writer.text();
 }
 
 // *HEX is none here, although the text form names it: to compare bytes takes no sequence.
@@ -57,7 +57,7 @@ SortSequenceKind sortSequenceKind(std::string_view sequence) {
 }
 
 // In the order of the text form, which is not that of the settings' numbers; each value as it is, cut to a byte.
-std::string_view composeBlock(char* buffer, const settings::TransferSettings& options) {
+void composeBlock(char* buffer, const settings::TransferSettings& options) {
     const std::string_view sequence = options.sortSequence;
     const SortSequenceKind kind = sortSequenceKind(sequence);
     const std::int32_t values[] = {options.ignoreDecimalErrors, options.timeFormat,    options.timeSeparator,
@@ -66,24 +66,19 @@ std::string_view composeBlock(char* buffer, const settings::TransferSettings& op
     next = std::transform(std::begin(values), std::end(values), next,
                           [](std::int32_t value) { return static_cast<char>(value); });
     *next++ = kind;
-    if (kind == Other) {
-        next = std::copy(sequence.begin(), sequence.end(), next);
-        *next++ = '\0';
-    }
-    return {buffer, static_cast<std::size_t>(next - buffer)};
+    if (kind == Other) *std::copy(sequence.begin(), sequence.end(), next) = '\0';
 }
 
 }  // namespace
 
-// The block stands whole in the buffer, but the length that goes with it ends at its first zero, as for a text. It
-// never reaches beyond the block: the bytes of an older request stand there.
+// The length that goes with either form is that of a text, to the first zero. A block may have none: then it goes on
+// into what an older request left in the buffer.
 bool composeOptionsClause(ZXFRPCSCLIENT& client, std::string_view& request) {
     char* buffer = requestBuffer(client);
     if (!buffer) return false;
     const settings::TransferSettings& options = *client.transferSettings;
-    const std::string_view composed =
-        client.tfSession->tfIsAs400Mode() ? composeBlock(buffer, options) : composeText(buffer, options);
-    request = composed.substr(0, composed.find('\0'));
+    client.tfSession->tfIsAs400Mode() ? composeBlock(buffer, options) : composeText(buffer, options);
+    request = {buffer, strnlen(buffer, provider::BufferSize)};
     return true;
 }
 

@@ -23,13 +23,13 @@ struct Clauses {
     }
 };
 
-// The join condition goes as it is, its blanks at the end too; of blanks only it counts as none. In front of a join the
-// blank of the file list goes, so that only a selection alone has two in front of its "where". What does not fit is
+// The join condition goes as it is, blanks and all. In front of it the blank of the file list goes, so that only a
+// selection alone has two in front of its "where". What does not fit is
 // left out append by append: a selection that is too long does not take the join with it.
 void appendWhere(text::TextBuffer& request, const Clauses& clauses) {
     const std::string_view selection = clauses.selection.view();
     const std::string_view join = clauses.join.view();
-    if (text::trimmedStart(join).empty()) {
+    if (join.empty()) {
         if (!selection.empty()) request.append({" where ", selection});
         return;
     }

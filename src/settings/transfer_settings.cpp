@@ -27,10 +27,10 @@ char decimalSeparatorOf(std::int32_t mode) {
 }  // namespace
 
 TransferSettings::TransferSettings(services::SessionHandle owner)
-    : selectList(services::Owned<text::TextBuffer>::make()),
+    : session(owner),
       settings(services::GetSessionSettings(owner)),
-      session(owner),
-      sessionServices(services::GetSessionServices(owner)) {
+      sessionServices(services::GetSessionServices(owner)),
+      selectList(services::Owned<text::TextBuffer>::make()) {
     readIntegers();
     readStrings();
     const auto clauses = sessionServices ? sessionServices->getTransferClauses() : nullptr;

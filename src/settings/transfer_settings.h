@@ -48,11 +48,11 @@ struct TransferSettings {
     std::int32_t receiveOutput = 0;
     std::int32_t createMode = 0;
     std::int32_t recordProgress = 0;
-    std::uint32_t startRecord = 0;                 // first record sent, from 1
-    services::Owned<text::TextBuffer> selectList;  // null when there was no memory: all fields
-    services::SettingsHandle settings;
+    std::uint32_t startRecord = 0;  // first record sent, from 1
     services::SessionHandle session;
+    services::SettingsHandle settings;
     const services::SessionServices* sessionServices;
+    services::Owned<text::TextBuffer> selectList;  // null when there was no memory: all fields
 
 private:
     void readIntegers();
