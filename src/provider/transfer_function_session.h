@@ -45,7 +45,7 @@ public:
     // One exchange: `length` bytes of the shared buffer go to the provider, its answer into `result`. Starts an idle
     // session first; NotStarted when that fails. `designation` may be null; `dialog` (0: none) is kept alive while the
     // provider waits. Shows nothing. What TF_GET_DATA returns, a record, a count or an entry of the catalogue, stands
-    // at the start of the shared buffer afterwards, wherever the provider left it.
+    // in the shared buffer afterwards, at its start where the provider left it in memory of its own.
     void tfRequest(std::uint32_t function, std::uint32_t length, std::uint32_t reserved, TfResult& result,
                    const char* designation, services::ProgressDialogHandle dialog);
     void tfEndRequest();

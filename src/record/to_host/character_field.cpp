@@ -145,7 +145,8 @@ std::uint32_t CharacterField::shiftBytes(std::string_view rest) const {
 void CharacterField::prefill(bool doubleByte) {
     std::fill_n(buffer_, plan_.bytes, ' ');
     if (!doubleByte) return;
-    for (std::uint32_t at = 0; at + 4 <= plan_.bytes; at += 2) std::copy_n(PairBlank, 2, buffer_ + at);
+    for (std::uint32_t at = 0; at + 2 < plan_.bytes; at += 2) std::copy_n(PairBlank, 2, buffer_ + at);
+    if (plan_.bytes >= 2) buffer_[plan_.bytes - 2] = ' ';
 }
 
 // Behind an odd number of bytes the first pair of the prefill is overwritten by half, and what is left of it would
@@ -170,8 +171,7 @@ bool CharacterField::collect(std::string_view& rest, CollectedText& collected) {
 }
 
 bool CharacterField::takeDifText(std::string_view& rest, CollectedText& collected) const {
-    if (!rest.starts_with('"')) return false;
-    skipCharacter(rest);
+    skipCharacter(rest);  // the quote, which is not checked
     takeQuoted(rest, ClosingQuote::BeforeLineEnd, collected);
     return takeLineEnd(rest) || rest.empty();
 }
