@@ -23,7 +23,11 @@ struct FileRules {
 
 // What every record asks of a field, worked out once when the field's description has arrived.
 struct FieldPlan {
+    static constexpr std::uint32_t LargestBinary = 8;  // bytes of a binary number that has a text form
+
     FieldPlan(const HostField& field, const FileRules& rules);
+
+    bool hasTextForm() const { return type != Binary || bytes <= LargestBinary; }
 
     std::uint8_t type;         // HostFieldType
     bool isCharacter;          // everything else takes the way of numbers, hexadecimal fields included

@@ -76,7 +76,7 @@ void DelimitedRecord::leadIn() {
 
 Outcome DelimitedRecord::convertField(const PlannedField& each, const char* source, std::uint32_t bytes) {
     if (each.plan.isCharacter) return convertCharacterField(each, source, bytes);
-    if (!hasTextForm(each.plan)) return Outcome::NoTextForm;
+    if (!each.plan.hasTextForm()) return Outcome::NoTextForm;
     convertNumericField(each.plan, source);
     return Outcome::Converted;
 }

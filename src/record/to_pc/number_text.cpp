@@ -1,6 +1,7 @@
 #include "record/to_pc/number_text.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstring>
 
@@ -10,8 +11,8 @@
 namespace record::to_pc {
 namespace {
 
-constexpr std::uint32_t LargestBinary = 8;
 constexpr std::uint32_t IntegerText = 24;
+constexpr std::uint32_t LongestNumber = 255;  // bytes: a description tells the length in one
 
 std::uint32_t finish(char* text, char* end) {
     *end = '\0';
@@ -19,21 +20,39 @@ std::uint32_t finish(char* text, char* end) {
 }
 
 // The separator stays: 100 with two decimals is "100.".
-char* cutTrailingZeros(const char* stop, char* end) {
+template <class Character>
+Character* withoutTrailingZeros(const char* stop, Character* end) {
     while (end > stop && end[-1] == '0') --end;
     return end;
+}
+
+// For each byte a character for its high and one for its low nibble.
+using NibblePairs = std::array<char[2], 256>;
+
+constexpr NibblePairs pairsOf(const char (&characters)[17]) {
+    NibblePairs pairs = {};
+    for (std::size_t byte = 0; byte < pairs.size(); ++byte) {
+        pairs[byte][0] = characters[byte >> 4];
+        pairs[byte][1] = characters[byte & 0x0F];
+    }
+    return pairs;
+}
+
+constexpr NibblePairs hexPairs = pairsOf("0123456789ABCDEF");
+// Nibbles above 9 are not checked and give the characters behind '9'.
+constexpr NibblePairs digitPairs = pairsOf("0123456789:;<=>?");
+
+char* putPairs(const NibblePairs& pairs, const char* source, std::uint32_t bytes, char* next) {
+    for (std::uint32_t at = 0; at < bytes; ++at, next += 2) std::memcpy(next, pairs[bytes::at(source, at)], 2);
+    return next;
 }
 
 // --- Hexadecimal -------------------------------------------------------------------------------------------------
 
 std::uint32_t formatHex(const FieldPlan& plan, const char* source, char* text) {
-    constexpr char digits[] = "0123456789ABCDEF";
     char* next = text;
     if (plan.isQuoted) *next++ = '"';
-    for (std::uint32_t at = 0; at < plan.bytes; ++at) {
-        *next++ = digits[sign::highNibble(source[at])];
-        *next++ = digits[sign::lowNibble(source[at])];
-    }
+    next = putPairs(hexPairs, source, plan.bytes, next);
     if (plan.isQuoted) *next++ = '"';
     return finish(text, next);
 }
@@ -44,7 +63,7 @@ std::uint32_t formatHex(const FieldPlan& plan, const char* source, char* text) {
 // decimals become zeros, and a sign follows the separator directly.
 std::uint32_t formatBinaryDecimals(const FieldPlan& plan, const char* integer, const char* integerEnd, char* text) {
     const auto width = static_cast<std::int32_t>(plan.width);
-    char positions[LargestBinary * 4];
+    char positions[FieldPlan::LargestBinary * 4];
     std::fill(positions, positions + width + 1, ' ');
     const char* rest = integerEnd;
     bool placed = false;
@@ -63,130 +82,114 @@ std::uint32_t formatBinaryDecimals(const FieldPlan& plan, const char* integer, c
     }
     if (plan.isFixed) return finish(text, std::copy(positions, positions + width + 1, text));
     const char* first = positions + (position + 1);
-    char* end = cutTrailingZeros(first, positions + width + 1);
+    const char* end = withoutTrailingZeros<const char>(first, positions + width + 1);
     if (end - first == 1 && *first == plan.decimalSeparator) return finish(text, text);
-    return finish(text, std::copy(first, static_cast<const char*>(end), text));
+    return finish(text, std::copy(first, end, text));
+}
+
+// A value of 32 bits is written faster as one.
+char* putInteger(std::int64_t value, std::uint32_t bytes, char* text) {
+    if (bytes <= 4) return std::to_chars(text, text + IntegerText, static_cast<std::int32_t>(value)).ptr;
+    return std::to_chars(text, text + IntegerText, value).ptr;
 }
 
 std::uint32_t formatBinary(const FieldPlan& plan, const char* source, char* text) {
-    char integer[IntegerText];
     const std::int64_t value = bytes::highFirstSigned(source, plan.bytes);
-    const char* integerEnd = std::to_chars(integer, integer + IntegerText, value).ptr;
+    if (!plan.isFixed && plan.decimals == 0) return finish(text, putInteger(value, plan.bytes, text));
+    char integer[IntegerText];
+    const char* integerEnd = putInteger(value, plan.bytes, integer);
     if (plan.decimals > 0) return formatBinaryDecimals(plan, integer, integerEnd, text);
-    char* next = text;
-    if (plan.isFixed) {
-        const auto padding = static_cast<std::int32_t>(plan.width) - (integerEnd - integer);
-        if (padding > 0) next = std::fill_n(text, padding, ' ');
-    }
+    const auto padding = static_cast<std::int32_t>(plan.width) - (integerEnd - integer);
+    char* next = padding > 0 ? std::fill_n(text, padding, ' ') : text;
     return finish(text, std::copy(static_cast<const char*>(integer), integerEnd, next));
 }
 
 // --- Zoned and packed --------------------------------------------------------------------------------------------
 
-// An even index is the high nibble of its byte. Nibbles above 9 are not checked and give the characters behind '9'.
-char packedDigit(const char* source, std::uint32_t index) {
-    const char byte = source[index / 2];
-    return static_cast<char>('0' + (index % 2 == 0 ? sign::highNibble(byte) : sign::lowNibble(byte)));
-}
-
-// The digits of a zoned or packed number one after the other; zeros behind the last.
+// The digits of a zoned or packed number as characters. There are as many as the text has places for them; where it has
+// more than the number, zeros stand behind.
 class Digits {
 public:
-    Digits(const FieldPlan& plan, const char* source)
-        : source_(source), packed_(plan.type == Packed), index_(plan.skipsPadNibble ? 1 : 0) {
-        if (plan.bytes == 0) return;
-        const char last = source[plan.bytes - 1];
-        count_ = packed_ ? 2 * plan.bytes - 1 : plan.bytes;
-        negative_ = sign::isNegative(packed_ ? sign::lowNibble(last) : sign::highNibble(last));
+    Digits(const FieldPlan& plan, const char* source) : begin_(characters_), end_(characters_) {
+        if (plan.bytes > 0) plan.type == Packed ? unpack(plan, source) : strip(plan, source);
+        const auto decimals = static_cast<std::uint32_t>(plan.decimals);
+        hasPoint_ = plan.decimals > 0 && decimals + 1 < plan.width;
+        const char* const end = begin_ + (plan.width - 1 - (hasPoint_ ? 1 : 0));
+        while (end_ < end) *end_++ = '0';
+        point_ = hasPoint_ ? end_ - decimals : end_;
+        // A zero has no sign, whatever its last nibble says: "-" alone would be no number to whoever reads it.
+        negative_ = negative_ && std::any_of<const char*>(begin_, end_, [](char digit) { return digit != '0'; });
     }
-    char next() {
-        if (index_ >= count_) return '0';
-        const std::uint32_t at = index_++;
-        return packed_ ? packedDigit(source_, at) : static_cast<char>('0' + sign::lowNibble(source_[at]));
-    }
-    // A zero has no sign, whatever its last nibble says: "-" alone would be no number to whoever reads it.
-    bool isNegative() const {
-        if (!negative_) return false;
-        for (Digits rest = *this; rest.index_ < rest.count_;)
-            if (rest.next() != '0') return true;
-        return false;
-    }
+
+    const char* begin() const { return begin_; }
+    const char* point() const { return point_; }  // the first digit behind it; the end when there is none
+    const char* end() const { return end_; }
+    bool hasPoint() const { return hasPoint_; }
+    bool isNegative() const { return negative_; }
 
 private:
-    const char* source_;
-    bool packed_;
-    std::uint32_t index_;
+    void unpack(const FieldPlan& plan, const char* source) {
+        end_ = putPairs(digitPairs, source, plan.bytes, characters_) - 1;
+        if (plan.skipsPadNibble) ++begin_;
+        negative_ = sign::isNegative(sign::lowNibble(source[plan.bytes - 1]));
+    }
+    void strip(const FieldPlan& plan, const char* source) {
+        for (std::uint32_t at = 0; at < plan.bytes; ++at)
+            *end_++ = static_cast<char>('0' + sign::lowNibble(source[at]));
+        negative_ = sign::isNegative(sign::highNibble(source[plan.bytes - 1]));
+    }
+
+    char characters_[2 * LongestNumber + 2];
+    const char* begin_;
+    char* end_;
+    const char* point_;
+    bool hasPoint_;
     bool negative_ = false;
-    std::uint32_t count_ = 0;
 };
 
-// Sign position, then all digits with a point at its place: `width` positions.
-bool rawText(const FieldPlan& plan, const char* source, char* text) {
-    Digits digits(plan, source);
-    const bool negative = digits.isNegative();
-    text[0] = negative ? '-' : ' ';
-    const auto width = static_cast<std::int32_t>(plan.width);
-    const std::int32_t pointAt = plan.decimals > 0 ? width - plan.decimals - 1 : -1;
-    for (std::int32_t at = 1; at < width; ++at) text[at] = at == pointAt ? '.' : digits.next();
-    return negative;
-}
-
-// Leading zeros become blanks, and the sign moves right to stand before the first significant digit.
-std::uint32_t toFixedForm(char* text, std::uint32_t width, bool negative, char separator) {
-    bool leading = true;
-    for (std::uint32_t at = 0; at < width; ++at) {
-        if (leading && (text[at] == ' ' || text[at] == '0')) {
-            text[at] = ' ';
-            if (negative) {
-                text[at] = '-';
-                if (at > 0) text[at - 1] = ' ';
-            }
-        } else if (text[at] == '.') {
-            text[at] = separator;
-            leading = false;
-        } else if (text[at] != '-') {
-            leading = false;
-        }
+// Over the whole width. Leading zeros become blanks, and the sign stands before the first significant digit.
+std::uint32_t toFixedForm(const Digits& digits, char separator, char* text) {
+    *text = ' ';
+    char* next = std::copy(digits.begin(), digits.point(), text + 1);
+    const char* const whole = next;
+    if (digits.hasPoint()) {
+        *next++ = separator;
+        next = std::copy(digits.point(), digits.end(), next);
     }
-    return finish(text, text + width);
-}
-
-std::uint32_t toDelimitedForm(char* text, std::uint32_t width, std::int32_t decimals, char separator) {
-    char* next = text;
-    bool leading = true;
-    char* afterPoint = nullptr;
-    for (std::uint32_t at = 0; at < width; ++at) {
-        const char character = text[at];
-        if (leading && (character == ' ' || character == '0')) continue;
-        if (character != '-') leading = false;
-        *next++ = character == '.' ? separator : character;
-        if (character == '.') afterPoint = next;
-    }
-    if (decimals > 0) next = cutTrailingZeros(afterPoint ? afterPoint : text + 1, next);
-    if (next - text == 1 && afterPoint == next) next = text;  // a separator alone
+    char* first = text + 1;
+    while (first < whole && *first == '0') *first++ = ' ';
+    if (digits.isNegative()) first[-1] = '-';
     return finish(text, next);
+}
+
+std::uint32_t toDelimitedForm(const Digits& digits, bool hasDecimals, char separator, char* text) {
+    const char* first = digits.begin();
+    while (first < digits.point() && *first == '0') ++first;
+    char* next = text;
+    if (digits.isNegative()) *next++ = '-';
+    next = std::copy(first, digits.point(), next);
+    if (!digits.hasPoint()) return finish(text, hasDecimals ? withoutTrailingZeros(text + 1, next) : next);
+    const char* const end = withoutTrailingZeros(digits.point(), digits.end());
+    if (next == text && end == digits.point()) return finish(text, text);  // a separator alone
+    *next++ = separator;
+    return finish(text, std::copy(digits.point(), end, next));
 }
 
 std::uint32_t formatDecimal(const FieldPlan& plan, const char* source, char* text) {
     if (plan.width == 0) return finish(text, text);
-    const bool negative = rawText(plan, source, text);
-    return plan.isFixed ? toFixedForm(text, plan.width, negative, plan.decimalSeparator)
-                        : toDelimitedForm(text, plan.width, plan.decimals, plan.decimalSeparator);
+    const Digits digits(plan, source);
+    return plan.isFixed ? toFixedForm(digits, plan.decimalSeparator, text)
+                        : toDelimitedForm(digits, plan.decimals > 0, plan.decimalSeparator, text);
 }
 
 // What is left empty or blank is a zero.
 std::uint32_t withZero(char* text, std::uint32_t length) {
-    if (length == 0) {
-        std::memcpy(text, "0", 2);
-        return 1;
-    }
-    if (text[length - 1] == ' ' && std::strspn(text, " ") == length) text[length - 1] = '0';
+    if (length == 0) return finish(text, std::fill_n(text, 1, '0'));
+    if (text[length - 1] == ' ') text[length - 1] = '0';
     return length;
 }
 
 }  // namespace
-
-bool hasTextForm(const FieldPlan& plan) { return plan.type != Binary || plan.bytes <= LargestBinary; }
 
 std::uint32_t formatNumericField(const FieldPlan& plan, const char* source, char* text) {
     switch (plan.type) {

@@ -11,7 +11,4 @@ namespace record::to_pc {
 // right-aligned in the field's width with blanks for leading zeros; the others the shortest. A negative zero is a zero.
 std::uint32_t formatNumericField(const FieldPlan& plan, const char* source, char* text);
 
-// Whether the text of a field can be made: binary numbers of more than 8 bytes have none.
-bool hasTextForm(const FieldPlan& plan);
-
 }  // namespace record::to_pc
