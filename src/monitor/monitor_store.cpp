@@ -1,10 +1,10 @@
 #include "monitor/monitor_store.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "Z7XFRPCS/provider.h"
 #include "bytes/byte_order.h"
-#include "services/owned.h"
 
 namespace monitor {
 namespace {
@@ -73,14 +73,14 @@ void MonitorStore::touch(const List& list) {
     if (lock(list)) services::UnlockStoreList(store_, list.handle);
 }
 
-// What must be built is built, zero-filled, in memory of its own, freed once the list is unlocked again.
+// What must be built is built, from zeros, in memory of its own.
 template <class Fill>
 void MonitorStore::writeBuilt(const List& list, Item item, std::uint32_t size, Fill fill) {
     if (!list.items[item] || !lock(list)) return;
-    const auto record = services::OwnedBytes::make(size, true);
-    if (record) {
-        fill(record.data());
-        services::SetStoreItem(store_, list.items[item], record.data(), size);
+    if (record_.ensure(size)) {
+        std::memset(record_.data(), 0, size);
+        fill(record_.data());
+        services::SetStoreItem(store_, list.items[item], record_.data(), size);
     }
     services::UnlockStoreList(store_, list.handle);
 }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "services/owned.h"
 #include "services/runtime.h"
 
 namespace monitor {
@@ -67,6 +68,7 @@ private:
     services::StorePartHandle node_ = 0;
     List receive_;
     List send_;
+    services::OwnedBytes record_;  // the one being built; kept, since it is built anew for every exchange
 };
 
 }  // namespace monitor

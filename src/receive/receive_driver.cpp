@@ -268,14 +268,14 @@ bool ReceiveRun::transferRecord() {
         messages::showOwnText(owner(), messages::sentence::HostRecordTooLong, client_.progressDialog);
         return false;
     }
-    record::to_pc::PcRecord record;
+    std::string_view record;
     const record::ConversionResult result = conversion_->records.convert(
         client_.tfSession->dataBuffer(), client_.lastResult.dataLength, provider::BufferSize, record);
     if (!result.isConverted()) {
         tellConversionFailure(client_, result);
         return false;
     }
-    if (writePcRecord(record.bytes)) return true;
+    if (writePcRecord(record)) return true;
     client_.tfSession->tfEndData();
     return false;
 }

@@ -1,6 +1,7 @@
 #include "record/field_plan.h"
 
 #include "record/dif_pieces.h"
+#include "text/double_byte.h"
 
 namespace record {
 namespace {
@@ -50,7 +51,11 @@ FileRules::FileRules(const settings::TransferSettings& snapshot, std::int32_t fi
       separator(toDisplay ? ' ' : separatorOf(type.separator, snapshot.listSeparator)),
       listSeparator(snapshot.listSeparator),
       decimalSeparator(snapshot.decimalSeparator),
-      evenPackedIsReduced(snapshot.numericWidthMode == 0) {}
+      evenPackedIsReduced(snapshot.numericWidthMode == 0) {
+    for (std::uint32_t byte = 0; byte < sizeof(plain_); ++byte)
+        plain_[byte] = !text::isLeadByte(static_cast<char>(byte));
+    for (const char special : {'\0', '"', quotedCharacter()}) plain_[static_cast<std::uint8_t>(special)] = false;
+}
 
 FieldPlan::FieldPlan(const HostField& field, const FileRules& rules)
     : type(field.type()),

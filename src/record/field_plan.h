@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string_view>
 
@@ -14,11 +15,23 @@ struct FileRules {
     // `fileType` is the PC file type of the direction, of any value. Cells of the text display are set apart by blanks.
     FileRules(const settings::TransferSettings& snapshot, std::int32_t fileType, bool toDisplay = false);
 
+    // Whether a text has no byte of a meaning: no double quote, none of the characters that have a text quoted, no zero
+    // and no first byte of a pair.
+    bool isPlain(std::string_view text) const {
+        return std::all_of(text.begin(), text.end(),
+                           [this](char byte) { return plain_[static_cast<std::uint8_t>(byte)]; });
+    }
+    // What has a text quoted besides a double quote: the comma, whatever the locale's list separator, or the tab.
+    char quotedCharacter() const { return type.separator == settings::Separator::Tab ? '\t' : ','; }
+
     const settings::PcFileTypeRow& type;
     char separator;  // between fields; 0 for none
     char listSeparator;
     char decimalSeparator;
     bool evenPackedIsReduced;  // a packed number of even precision has no place for its pad nibble
+
+private:
+    bool plain_[256];
 };
 
 // What every record asks of a field, worked out once when the field's description has arrived.

@@ -76,6 +76,14 @@ public:
         return owner;
     }
 
+    // At least `size` bytes, for an owner that keeps its block. False without memory for them; the block stays.
+    bool ensure(std::uint32_t size) {
+        if (size <= size_) return true;
+        if (bytes_) return resize(size);
+        *this = make(size, true);
+        return bytes_ != nullptr;
+    }
+
     // Keeps the contents; false leaves the block as it was.
     bool resize(std::uint32_t size) {
         void* moved = ReallocateObject(bytes_, size);

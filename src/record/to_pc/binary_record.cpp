@@ -48,8 +48,7 @@ bool convertField(const text::CodePageState& codePage, const FieldPlan& plan, co
 ConversionResult toBinaryRecord(const HostLayout& layout, const text::CodePageState& codePage,
                                 std::string_view hostRecord, services::OwnedBytes& work, std::uint32_t& length) {
     const auto hostLength = static_cast<std::uint32_t>(hostRecord.size());
-    work = services::OwnedBytes::make(std::max<std::uint32_t>(hostLength, 1), true);
-    if (!work) return {Outcome::NoMemory};
+    if (!work.ensure(std::max<std::uint32_t>(hostLength, 1))) return {Outcome::NoMemory};
     length = 0;
     for (const PlannedField& each : layout) {
         if (length >= hostLength) break;

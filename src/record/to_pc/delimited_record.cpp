@@ -15,8 +15,7 @@
 namespace record::to_pc {
 namespace {
 
-// Room for a record at first, and for a field at least: decimal text, quotes and separators in the worst case. What is
-// not enough grows.
+// Room for a record at first, and for a field: its bytes as decimal text, and more. What is not enough grows.
 constexpr std::uint32_t PcBytesPerHostByte = 10;
 constexpr std::uint32_t FieldBytesPerHostByte = 4;
 
@@ -40,8 +39,9 @@ private:
     bool isTuple() const { return rules_.type.form == settings::RecordForm::Tuples; }
     Outcome convertField(const PlannedField& each, const char* source, std::uint32_t bytes);
     Outcome convertCharacterField(const PlannedField& each, const char* source, std::uint32_t bytes);
-    void quoteWhereNeeded(std::uint32_t length);
-    void quoteAlways(const FieldPlan& plan, std::uint32_t length);
+    void showCell(std::uint32_t length, std::uint32_t padding);
+    bool putText(const FieldPlan& plan, std::uint32_t length);
+    bool putSpecialText(bool isQuoted, std::uint32_t length);
     void convertNumericField(const FieldPlan& plan, const char* source);
 
     const DelimitedWriter& writer_;
@@ -68,9 +68,9 @@ ConversionResult DelimitedRecord::convert(std::string_view hostRecord) {
 
 void DelimitedRecord::leadIn() {
     if (index_ == 0) {
-        if (isTuple()) out_.append(dif::BeginTuple);
+        if (isTuple()) out_.put(dif::BeginTuple);
     } else if (rules_.separator != '\0') {
-        out_.append(rules_.separator);
+        out_.put(rules_.separator);
     }
 }
 
@@ -83,74 +83,74 @@ Outcome DelimitedRecord::convertField(const PlannedField& each, const char* sour
 
 Outcome DelimitedRecord::convertCharacterField(const PlannedField& each, const char* source, std::uint32_t bytes) {
     const FieldPlan& plan = each.plan;
-    out_.append(plan.difHead);
-    if (plan.isQuoted) out_.append('"');
+    out_.put(plan.difHead);
+    if (plan.isQuoted) out_.put('"');
     // The conversion may need all the room its bytes give it, behind the head too.
     if (!out_.ensure(bytes * FieldBytesPerHostByte)) return Outcome::NoMemory;
     std::uint32_t converted = 0;
     if (writer_.codePage.hostToPcText(source, out_.end(), bytes, out_.room(), &converted) != 0)
         return Outcome::TextNotConverted;
-    // It was offered all the room there is, so the zero byte behind it may need more.
     const std::uint32_t length = std::max(bytes, converted);
-    if (!out_.ensure(length + 1)) return Outcome::NoMemory;
-    out_.end()[length] = '\0';
     if (row_) {
-        row_.setCell(index_, out_.end());
-        out_.advance(length);
-        if (bytes < each.columnWidth) out_.appendBlanks(each.columnWidth - bytes);
-    } else if (plan.isQuoted) {
-        quoteAlways(plan, length);
-    } else if (rules_.type.quotes == settings::Quotes::Never || isSourceText(writer_.layout)) {
+        showCell(length, bytes < each.columnWidth ? each.columnWidth - bytes : 0);
+    } else if (!plan.isQuoted && (rules_.type.quotes == settings::Quotes::Never || isSourceText(writer_.layout))) {
         out_.advance(length);
     } else {
-        quoteWhereNeeded(length);
+        if (!putText(plan, length)) return Outcome::NoMemory;
+        if (plan.isQuoted) out_.put('"');
+        out_.put(plan.difEnd);
     }
-    return out_.failed() ? Outcome::NoMemory : Outcome::Converted;
+    return Outcome::Converted;
 }
 
-// The field's text ends at its first zero byte.
-void DelimitedRecord::quoteWhereNeeded(std::uint32_t length) {
-    // Room for every character a double quote, and two around them.
-    if (!out_.ensure(2 * length + 3)) return;
+void DelimitedRecord::showCell(std::uint32_t length, std::uint32_t padding) {
+    out_.end()[length] = '\0';
+    row_.setCell(index_, out_.end());
+    out_.advance(length);
+    if (out_.ensure(padding)) out_.putBlanks(padding);
+}
+
+// Without its trailing blanks. Nearly all texts are plain, and stand as they were converted.
+bool DelimitedRecord::putText(const FieldPlan& plan, std::uint32_t length) {
+    const char* text = out_.end();
+    std::uint32_t plain = length;
+    while (plain > 0 && text[plain - 1] == ' ') --plain;
+    if (!rules_.isPlain({text, plain})) return putSpecialText(plan.isQuoted, length);
+    out_.advance(plain);
+    return true;
+}
+
+// With bytes of a meaning. The text ends at its first zero byte. Of the types that quote every text, whose quotes stand
+// outside of this, DIF alone doubles those inside: a BasicSequential text with one in front of a comma cannot be read
+// back.
+bool DelimitedRecord::putSpecialText(bool isQuoted, std::uint32_t length) {
+    if (!out_.ensure(2 * length)) return false;  // every character may be a double quote
     char* field = out_.end();
-    const std::string_view text(field, std::strlen(field));
-    // The comma it is, whatever the locale's list separator.
-    const char special = rules_.type.separator == settings::Separator::Tab ? '\t' : ',';
-    const std::string_view trimmed = text::trimmedEnd(text);
-    if (text::findCharacter(text, '"') == std::string_view::npos &&
-        text::findCharacter(text, special) == std::string_view::npos) {
-        out_.advance(static_cast<std::uint32_t>(trimmed.size()));
-        return;
+    field[length] = '\0';
+    std::size_t end = text::trimmedEnd({field, std::strlen(field)}).size();
+    const bool gainsQuotes =
+        !isQuoted && (text::findCharacter({field, end}, '"') != std::string_view::npos ||
+                      text::findCharacter({field, end}, rules_.quotedCharacter()) != std::string_view::npos);
+    if (gainsQuotes) {
+        std::memmove(field + 1, field, end);
+        out_.put('"');
     }
-    std::memmove(field + 1, field, trimmed.size());
-    *field = '"';
-    const std::size_t doubled = doubleQuotes(field + 1, trimmed.size(), out_.room() - 1);
-    out_.advance(static_cast<std::uint32_t>(doubled) + 1);
-    out_.append('"');
+    if (gainsQuotes || isTuple()) end = doubleQuotes(out_.end(), end, out_.room());
+    out_.advance(static_cast<std::uint32_t>(end));
+    if (gainsQuotes) out_.put('"');
+    return true;
 }
 
-// The opening quote stands already. Only DIF doubles the quotes inside: a BasicSequential text with one in front of a
-// comma cannot be read back.
-void DelimitedRecord::quoteAlways(const FieldPlan& plan, std::uint32_t length) {
-    if (!out_.ensure(2 * length + 4)) return;
-    char* field = out_.end();
-    std::size_t trimmed = text::trimmedEnd({field, std::strlen(field)}).size();
-    if (isTuple()) trimmed = doubleQuotes(field, trimmed, out_.room());
-    out_.advance(static_cast<std::uint32_t>(trimmed));
-    out_.append('"');
-    out_.append(plan.difEnd);
-}
-
-// The text is made beside the record, since it may be shorter than what was reserved for it in the display.
+// A cell is made beside the record, since it may be shorter than what was reserved for it.
 void DelimitedRecord::convertNumericField(const FieldPlan& plan, const char* source) {
-    const std::uint32_t length = formatNumericField(plan, source, writer_.numberText);
     if (row_) {
+        formatNumericField(plan, source, writer_.numberText);
         row_.setCell(index_, writer_.numberText);
         return;
     }
-    out_.append(plan.difHead);
-    out_.append({writer_.numberText, length});
-    out_.append(plan.difEnd);
+    out_.put(plan.difHead);
+    out_.advance(formatNumericField(plan, source, out_.end()));
+    out_.put(plan.difEnd);
 }
 
 // The blanks go from the real end of the record: a zero byte inside it becomes a blank only afterwards, so that what
@@ -159,23 +159,23 @@ void DelimitedRecord::finish() {
     if (row_) return;
     if (services::GetSetting(writer_.settings, zhst::setting::TrimRecordBlanks) == 1)
         out_.shortenTo(static_cast<std::uint32_t>(text::trimmedEnd(out_.text()).size()));
-    if (!isTuple()) out_.append("\r\n");
-    if (!out_.failed()) blankOutNulls(out_.end() - out_.length(), out_.length());
+    const std::string_view lineEnd = isTuple() ? "" : "\r\n";
+    out_.put(lineEnd);
+    blankOutNulls(out_.end() - out_.length(), out_.length());
 }
 
 }  // namespace
 
 ConversionResult toDelimitedRecord(const DelimitedWriter& writer, std::string_view hostRecord,
                                    services::OwnedBytes& work, std::uint32_t& length) {
-    GrowingRecord out(work);
+    GrowingRecord out(work, static_cast<std::uint32_t>(hostRecord.size()) * PcBytesPerHostByte + 2);
     DelimitedRecord record(writer, out);
-    work = services::OwnedBytes::make(static_cast<std::uint32_t>(hostRecord.size()) * PcBytesPerHostByte + 2, true);
-    if (!work) return {Outcome::NoMemory};
+    if (!out.begin()) return {Outcome::NoMemory};
     const ConversionResult result = record.convert(hostRecord);
     if (!result.isConverted()) return result;
     record.finish();
     length = out.length();
-    return {out.failed() ? Outcome::NoMemory : Outcome::Converted};
+    return {};
 }
 
 }  // namespace record::to_pc

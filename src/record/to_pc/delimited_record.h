@@ -20,8 +20,8 @@ struct DelimitedWriter {
     char* numberText;  // room for the text of any number
 };
 
-// A record of a text-like PC file type, or the cells of a row of the text display. `work` owns the `length` bytes of
-// the record.
+// A record of a text-like PC file type, or the cells of a row of the text display. `work` is grown to hold the
+// `length` bytes of the record.
 ConversionResult toDelimitedRecord(const DelimitedWriter& writer, std::string_view hostRecord,
                                    services::OwnedBytes& work, std::uint32_t& length);
 

@@ -8,40 +8,47 @@
 
 namespace record::to_pc {
 
-// The record being built. What does not fit makes it grow by doubling; once there is no memory for that, nothing more
-// is written and failed() stays true.
+// The record being built, in a block that is kept from record to record. Its capacity begins anew with each and doubles
+// when a field needs more. The block has some room beyond it, so that what stands around a field (a head, quotes, a
+// separator, a line end) is put without asking.
 class GrowingRecord {
 public:
-    explicit GrowingRecord(services::OwnedBytes& bytes) : bytes_(bytes) {}
+    GrowingRecord(services::OwnedBytes& block, std::uint32_t capacity) : block_(block), capacity_(capacity) {}
 
-    bool ensure(std::uint32_t room) {
-        while (!failed_ && bytes_.size() - length_ < room) failed_ = !bytes_.resize(2 * bytes_.size());
+    // Each is false without memory; failed() stays true then.
+    bool begin() {
+        failed_ = failed_ || !block_.ensure(capacity_ + RoomAround);
         return !failed_;
     }
-    void append(char byte) {
-        if (ensure(1)) bytes_.data()[length_++] = byte;
+    bool ensure(std::uint32_t room) {
+        if (length_ + room <= capacity_) return true;
+        while (length_ + room > capacity_) capacity_ *= 2;
+        return begin();
     }
-    void append(std::string_view text) {
-        if (!ensure(static_cast<std::uint32_t>(text.size()))) return;
+
+    void put(char byte) { block_.data()[length_++] = byte; }
+    void put(std::string_view text) {
         std::copy(text.begin(), text.end(), end());
-        length_ += static_cast<std::uint32_t>(text.size());
+        advance(static_cast<std::uint32_t>(text.size()));
     }
-    void appendBlanks(std::uint32_t count) {
-        if (!ensure(count)) return;
+    void putBlanks(std::uint32_t count) {
         std::fill_n(end(), count, ' ');
-        length_ += count;
+        advance(count);
     }
     void advance(std::uint32_t count) { length_ += count; }
     void shortenTo(std::uint32_t length) { length_ = length; }
 
-    char* end() const { return bytes_.data() + length_; }
+    char* end() const { return block_.data() + length_; }
     std::uint32_t length() const { return length_; }
-    std::uint32_t room() const { return bytes_.size() - length_; }
-    std::string_view text() const { return {bytes_.data(), length_}; }
+    std::uint32_t room() const { return capacity_ - std::min(length_, capacity_); }
+    std::string_view text() const { return {block_.data(), length_}; }
     bool failed() const { return failed_; }
 
 private:
-    services::OwnedBytes& bytes_;
+    static constexpr std::uint32_t RoomAround = 64;
+
+    services::OwnedBytes& block_;
+    std::uint32_t capacity_;
     std::uint32_t length_ = 0;
     bool failed_ = false;
 };

@@ -12,13 +12,6 @@
 
 namespace record::to_pc {
 
-// A finished PC record. It stands where the host record stood; one too long for that stays in the buffer it was built
-// in, which this owns.
-struct PcRecord {
-    std::string_view bytes;
-    services::OwnedBytes longRecord;
-};
-
 // Turns the host records of a transfer into records of the PC file type of the layout's rules, or into rows of the text
 // display.
 class RecordToPc {
@@ -28,18 +21,20 @@ public:
                services::TextDisplayHandle display)
         : layout_(layout), codePage_(codePage), settings_(settings), display_(display) {}
 
-    // Converts the host record in the first `hostLength` bytes of `buffer`, which has `capacity` bytes, in place. A
-    // record that ends inside a field gives the bytes of a character field that are there; a number that is not whole,
-    // and everything behind it, gives nothing. A row of the display leaves `record` empty.
-    ConversionResult convert(char* buffer, std::uint32_t hostLength, std::uint32_t capacity, PcRecord& record);
+    // Converts the host record in the first `hostLength` bytes of `buffer`, which has `capacity` bytes, in place;
+    // `record` is the PC record there. One too long for that stays where it was built, until the next. A record that
+    // ends inside a field gives the bytes of a character field that are there; a number that is not whole, and
+    // everything behind it, gives nothing. A row of the display leaves `record` empty.
+    ConversionResult convert(char* buffer, std::uint32_t hostLength, std::uint32_t capacity, std::string_view& record);
 
 private:
-    ConversionResult build(std::string_view hostRecord, services::OwnedBytes& work, std::uint32_t& length);
+    ConversionResult build(std::string_view hostRecord, std::uint32_t& length);
 
     const HostLayout& layout_;
     const text::CodePageState& codePage_;
     services::SettingsHandle settings_;
     services::TextDisplayHandle display_;  // 0 for output to a PC file
+    services::OwnedBytes work_;            // in which records are built
     // Text of the number being converted: the longest is a hexadecimal field as large as a record, in double quotes.
     char numberText_[2 * TF_BUFFER_SIZE + 3] = {};
 };
