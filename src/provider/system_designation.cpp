@@ -30,20 +30,28 @@ void upperAscii(char* name) {
 }  // namespace
 
 const char* SystemDesignation::make(services::SettingsHandle settings, bool mayBeQualified) {
+    char setting[Capacity];
+    setting[0] = '\0';
+    services::GetStringSetting(settings, zhst::setting::HostSystemName, setting, sizeof(setting));
+    if (mayBeQualified != mayBeQualified_ || std::strcmp(setting, setting_) != 0) {
+        std::strcpy(setting_, setting);
+        mayBeQualified_ = mayBeQualified;
+        compose(mayBeQualified ? withoutNetwork(setting) : setting);
+    }
+    return isNamed_ ? text_ : nullptr;
+}
+
+void SystemDesignation::compose(const char* name) {
     // The whole area is blank first, and so are the positions that a shorter name leaves.
     std::fill(std::begin(text_), std::end(text_), ' ');
-    char buffer[sizeof(text_)] = {};
-    services::GetStringSetting(settings, zhst::setting::HostSystemName, buffer, sizeof(buffer));
-    const char* name = mayBeQualified ? withoutNetwork(buffer) : buffer;
+    isNamed_ = *name != '\0';
     char shown[NameLength + 1];
     text::copyCut(name, shown, sizeof(shown));
     upperAscii(shown);
-
     char* next = std::copy_n("SYSTEM(", NameOffset, text_);
     std::copy_n(shown, std::strlen(shown), next);
     next[NameLength] = ')';
     next[NameLength + 1] = '\0';
-    return *name ? text_ : nullptr;
 }
 
 }  // namespace provider

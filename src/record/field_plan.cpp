@@ -19,6 +19,13 @@ char separatorOf(settings::Separator separator, char listSeparator) {
     }
 }
 
+Delimiters delimitersOf(const settings::PcFileTypeRow& type, char listSeparator, bool isCommaTaken) {
+    if (type.form == settings::RecordForm::Tuples) return {'\r', '\n'};
+    if (type.separator == settings::Separator::Tab) return {'\t', '\t'};
+    const bool isComma = type.separator == settings::Separator::Comma && !isCommaTaken;
+    return {listSeparator, isComma ? ',' : listSeparator};
+}
+
 // A sign and 5, 10 or 19 digits.
 std::uint32_t binaryTextWidth(std::uint32_t bytes) { return bytes <= 2 ? 6 : bytes <= 4 ? 11 : 20; }
 
@@ -51,6 +58,8 @@ FileRules::FileRules(const settings::TransferSettings& snapshot, std::int32_t fi
       separator(toDisplay ? ' ' : separatorOf(type.separator, snapshot.listSeparator)),
       listSeparator(snapshot.listSeparator),
       decimalSeparator(snapshot.decimalSeparator),
+      hexDelimiters(delimitersOf(type, listSeparator, false)),
+      numberDelimiters(delimitersOf(type, listSeparator, decimalSeparator == ',')),
       evenPackedIsReduced(snapshot.numericWidthMode == 0) {
     for (std::uint32_t byte = 0; byte < sizeof(plain_); ++byte)
         plain_[byte] = !text::isLeadByte(static_cast<char>(byte));

@@ -10,6 +10,11 @@
 
 namespace record {
 
+// What a field ends at: one of two characters, which may be the same.
+struct Delimiters {
+    char first, second;
+};
+
 // How the PC file of a transfer writes its fields, in either direction.
 struct FileRules {
     // `fileType` is the PC file type of the direction, of any value. Cells of the text display are set apart by blanks.
@@ -28,6 +33,9 @@ struct FileRules {
     char separator;  // between fields; 0 for none
     char listSeparator;
     char decimalSeparator;
+    // In BasicSequential files a comma delimits besides the list separator, unless the field is a number and the comma
+    // its decimal separator.
+    Delimiters hexDelimiters, numberDelimiters;
     bool evenPackedIsReduced;  // a packed number of even precision has no place for its pad nibble
 
 private:

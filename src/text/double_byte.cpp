@@ -1,6 +1,7 @@
 #include "text/double_byte.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace text {
 namespace {
@@ -20,6 +21,15 @@ std::string_view withoutTrailingSpaces(std::string_view text) {
 
 char lowerAscii(char character) {
     return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+}
+
+bool isAscii(std::string_view text) {
+    constexpr std::uint64_t HighBits = 0x8080808080808080;
+    for (std::uint64_t eight = 0; text.size() >= sizeof(eight); text.remove_prefix(sizeof(eight))) {
+        std::memcpy(&eight, text.data(), sizeof(eight));
+        if (eight & HighBits) return false;
+    }
+    return std::all_of(text.begin(), text.end(), [](char byte) { return static_cast<std::uint8_t>(byte) < 0x80; });
 }
 
 }  // namespace
@@ -71,8 +81,8 @@ std::string_view trimmedEnd(std::string_view text, BlankPair pair) {
 }
 
 std::size_t findCharacter(std::string_view text, char character) {
-    // Most texts have no such byte at all.
-    if (text.find(character) == std::string_view::npos) return std::string_view::npos;
+    const std::size_t found = text.find(character);
+    if (found == std::string_view::npos || isAscii(text.substr(0, found))) return found;
     for (std::size_t at = 0; at < text.size(); at += characterBytes(text.substr(at)))
         if (text[at] == character) return at;
     return std::string_view::npos;

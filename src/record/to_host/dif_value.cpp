@@ -13,7 +13,7 @@ bool takeLineEnd(std::string_view& rest) {
     return bytes != 0;
 }
 
-bool takeDifPiece(std::string_view& rest, std::string_view piece) {
+bool takeLooseDifPiece(std::string_view& rest, std::string_view piece) {
     std::string_view ahead = rest;
     while (!piece.empty()) {
         const std::string_view line = piece.substr(0, piece.find(WrittenLineEnd));

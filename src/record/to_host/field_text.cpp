@@ -1,30 +1,16 @@
 #include "record/to_host/field_text.h"
 
-#include <algorithm>
-
 #include "Z7XFRPCS/settings.h"
 #include "record/to_host/number_text.h"
-#include "services/owned.h"
 #include "services/session.h"
 #include "text/double_byte.h"
 
 namespace record::to_host {
 namespace {
 
-// The text up to the delimiter or the end of the record. In BasicSequential files a comma delimits too, unless the text
-// is a number and the comma its decimal separator.
-std::string_view upToDelimiter(const FileRules& rules, std::string_view text, bool isNumber) {
-    char delimiters[2] = {rules.listSeparator, rules.listSeparator};
-    if (rules.type.form == settings::RecordForm::Tuples) {
-        delimiters[0] = '\r';
-        delimiters[1] = '\n';
-    } else if (rules.type.separator == settings::Separator::Tab) {
-        delimiters[0] = delimiters[1] = '\t';
-    } else if (rules.type.separator == settings::Separator::Comma && !(isNumber && rules.decimalSeparator == ',')) {
-        delimiters[1] = ',';
-    }
+std::string_view upTo(const Delimiters& delimiters, std::string_view text) {
     std::size_t end = 0;
-    while (end < text.size() && text[end] != delimiters[0] && text[end] != delimiters[1]) ++end;
+    while (end < text.size() && text[end] != delimiters.first && text[end] != delimiters.second) ++end;
     return text.substr(0, end);
 }
 
@@ -35,7 +21,7 @@ std::string_view upToDelimiter(const FileRules& rules, std::string_view text, bo
 bool takeHexEnd(const FileRules& rules, bool quoted, std::string_view rest, std::size_t& consumed) {
     if (rules.type.isFixed() || (quoted && rest.empty())) return true;
     if (quoted && rest[0] != '"') return false;
-    const std::string_view between = upToDelimiter(rules, rest, false);
+    const std::string_view between = upTo(rules.hexDelimiters, rest);
     consumed += between.size();
     return quoted || text::trimmed(between).empty();
 }
@@ -48,11 +34,7 @@ ConvertedField convertHex(const FileRules& rules, const FieldPlan& plan, std::st
     if (digits.size() < count) return {};
     std::size_t consumed = count + (quoted ? 1 : 0);
     if (!takeHexEnd(rules, quoted, digits.substr(count), consumed)) return {};
-    // Room for the digits with two quotes and a terminating zero, as agreed; a field without it is refused.
-    const auto work = services::OwnedBytes::make(count + 3, false);
-    if (!work) return {};
-    *std::copy_n(digits.data(), count, work.data()) = '\0';
-    if (!hexTextToBytes({work.data(), count}, destination)) return {};
+    if (!hexTextToBytes(digits.substr(0, count), destination)) return {};
     return {plan.bytes, consumed};
 }
 
@@ -85,7 +67,7 @@ ConvertedField convertFixedNumber(const FieldConversion& conversion, const Field
 
 ConvertedField convertDelimitedNumber(const FileRules& rules, const FieldPlan& plan, std::string_view text,
                                       char* destination) {
-    text = upToDelimiter(rules, text, true);
+    text = upTo(rules.numberDelimiters, text);
     if (plan.type == Binary) {
         if (!storeBinary(text, plan, destination)) return {};
     } else {

@@ -14,73 +14,71 @@ constexpr char HostBlank = 0x40;
 
 bool isDigit(char character) { return character >= '0' && character <= '9'; }
 
-// The digits of a working text, one after the other.
+// The digits of a working text.
 class Digits {
 public:
-    explicit Digits(const WorkingText& text) : text_(text), at_(text.hasSign ? 1 : 0) {
-        negative_ = text.hasSign && text.characters[0] == '-';
+    // False at a character that cannot stand there.
+    bool read(const WorkingText& text) {
+        const char* const first = text.characters + (text.hasSign ? 1 : 0);
+        const char* const end = text.characters + text.length;
+        const char* const point = text.hasPoint() ? text.characters + text.pointAt() : end;
+        isNegative_ = text.hasSign && text.characters[0] == '-';
+        std::uint8_t* const fraction = readSide(first, point, digits_);
+        return fraction && (point == end || readSide(point + 1, end, fraction));
     }
-
-    // False at a character that cannot stand there. Not to be called more often than the text has digit positions.
-    bool next(std::uint8_t& digit) {
-        if (text_.hasPoint() && at_ == text_.pointAt()) ++at_;
-        const char character = text_.characters[at_++];
-        digit = 0;
-        if (character == ' ') return true;
-        if (character == '-') {
-            negative_ = true;
-            return !digitSeen_;
-        }
-        // The sixteen characters from "0" on, whose low four bits are taken as they are.
-        if (sign::highNibble(character) != sign::highNibble('0')) return false;
-        digitSeen_ = true;
-        digit = sign::lowNibble(character);
-        return true;
-    }
-    bool isNegative() const { return negative_; }
+    std::uint8_t operator[](std::uint32_t place) const { return digits_[place]; }
+    bool isNegative() const { return isNegative_; }
 
 private:
-    const WorkingText& text_;
-    std::uint32_t at_;
-    bool negative_;
-    bool digitSeen_ = false;
-};
+    // Gives the place behind the last digit; null for a failure.
+    std::uint8_t* readSide(const char* character, const char* end, std::uint8_t* next) {
+        bool isSeen = isSeen_;
+        for (; character < end; ++character) {
+            std::uint8_t digit = 0;
+            // The sixteen characters from "0" on, whose low four bits are taken as they are.
+            if (sign::highNibble(*character) == sign::highNibble('0')) {
+                isSeen = true;
+                digit = sign::lowNibble(*character);
+            } else if (*character == '-' && !isSeen) {
+                isNegative_ = true;
+            } else if (*character != ' ') {
+                return nullptr;
+            }
+            *next++ = digit;
+        }
+        isSeen_ = isSeen;
+        return next;
+    }
 
-// For an even index sets byte index / 2 to the value in its high nibble; for an odd one replaces its low nibble.
-void putNibble(char* destination, std::uint8_t value, std::uint32_t index) {
-    char& byte = destination[index / 2];
-    byte = index % 2 == 0 ? sign::ofNibbles(value, 0) : sign::ofNibbles(sign::highNibble(byte), value);
-}
+    std::uint8_t digits_[WorkingText::Capacity];
+    bool isNegative_ = false;
+    bool isSeen_ = false;  // a digit
+};
 
 }  // namespace
 
 bool textToZoned(const WorkingText& text, char* destination, std::uint32_t digits) {
-    if (digits == 0 || text.digitPositions() > digits) return false;
-    Digits source(text);
-    std::uint8_t digit = 0;
-    for (std::uint32_t at = 0; at < digits; ++at) {
-        if (!source.next(digit)) return false;
-        destination[at] = static_cast<char>(sign::HostZone + digit);
-    }
-    if (source.isNegative()) destination[digits - 1] = static_cast<char>(sign::HostNegativeZone + digit);
+    Digits source;
+    if (digits == 0 || text.digitPositions() != digits || !source.read(text)) return false;
+    for (std::uint32_t at = 0; at < digits; ++at) destination[at] = static_cast<char>(sign::HostZone + source[at]);
+    if (source.isNegative()) destination[digits - 1] = static_cast<char>(sign::HostNegativeZone + source[digits - 1]);
     return true;
 }
 
 bool textToPacked(const WorkingText& text, char* destination, std::uint32_t bytes) {
-    const std::uint32_t signAt = 2 * bytes - 1;
+    const std::uint32_t places = 2 * bytes - 1;
     const std::uint32_t count = text.digitPositions();
-    if (bytes == 0 || count > signAt) return false;
-    Digits source(text);
     // A number of even precision leaves a pad nibble in front.
-    std::uint32_t index = count == signAt ? 0 : 1;
-    if (index + count > signAt) return false;
-    destination[0] = 0;
-    for (; index < signAt; ++index) {
-        std::uint8_t digit = 0;
-        if (!source.next(digit)) return false;
-        putNibble(destination, digit, index);
+    const bool isPadded = count + 1 == places;
+    Digits source;
+    if (bytes == 0 || (count != places && !isPadded) || !source.read(text)) return false;
+    std::uint32_t place = 0;
+    for (std::uint32_t at = 0; at < bytes; ++at) {
+        const std::uint8_t high = at == 0 && isPadded ? 0 : source[place++];
+        const bool isLast = at + 1 == bytes;
+        destination[at] = sign::ofNibbles(
+            high, isLast ? source.isNegative() ? sign::HostNegative : sign::HostPositive : source[place++]);
     }
-    putNibble(destination, source.isNegative() ? sign::HostNegative : sign::HostPositive, signAt);
     return true;
 }
 

@@ -7,27 +7,40 @@ namespace {
 
 bool isDigit(char character) { return character >= '0' && character <= '9'; }
 
-// The two sides of the decimal separator.
-struct Parts {
-    std::string_view integer;
-    std::string_view fraction;
-    bool isSound;  // there is no second separator
+// Whether a blank ends the number, or stands among its characters.
+enum class Blank { Ends, Belongs };
 
-    Parts(std::string_view text, char separator) : integer(text.substr(0, text.find(separator))) {
-        fraction = text.substr(std::min(integer.size() + 1, text.size()));
-        isSound = fraction.find(separator) == std::string_view::npos;
+// What one walk over the text of a number finds: the number, and the two sides of its decimal separator.
+struct Number {
+    std::string_view all, integer, fraction;
+    bool isSound = true;       // there is no second separator
+    std::size_t lastSign = 0;  // the place of the last "-"
+
+    Number(std::string_view text, char separator, Blank blank) {
+        std::size_t end = 0, point = std::string_view::npos;
+        for (; end < text.size() && (text[end] != ' ' || blank == Blank::Belongs); ++end) {
+            if (text[end] == '-') lastSign = end;
+            if (text[end] != separator) continue;
+            if (point != std::string_view::npos) isSound = false;
+            point = std::min(point, end);
+        }
+        all = text.substr(0, end);
+        integer = all.substr(0, point);
+        fraction = all.substr(std::min(integer.size() + 1, end));
+    }
+    // A "-" in front of the digits takes a digit's place; behind one it would change what was read before.
+    bool hasMisplacedSign() const {
+        return lastSign > 0 && all.substr(0, lastSign).find_first_of("0123456789:;<=>?") != std::string_view::npos;
     }
 };
-
-// A "-" in front of the digits takes a digit's place; behind one it would change what was read before.
-bool hasMisplacedSign(std::string_view number) {
-    const std::size_t digit = number.find_first_of("0123456789:;<=>?");
-    return digit != std::string_view::npos && number.find('-', digit) != std::string_view::npos;
-}
 
 // Places the characters so that they end in front of position `end`. The first position of all is that of the sign: a
 // digit there, which would be lost, a "+" or a comma does not fit. Leading zeros may be left out.
 bool placeRight(std::string_view characters, std::uint32_t end, WorkingText& working) {
+    if (characters.size() < end) {
+        std::copy(characters.begin(), characters.end(), working.characters + (end - characters.size()));
+        return true;
+    }
     for (; !characters.empty(); characters.remove_suffix(1)) {
         const char character = characters.back();
         if (end <= 1 && character == '0' && characters.find_first_not_of("-0") == std::string_view::npos) continue;
@@ -52,25 +65,24 @@ void fixedText(std::string_view text, const FieldPlan& plan, std::uint32_t width
 
 bool delimitedText(std::string_view text, const FieldPlan& plan, WorkingText& working) {
     text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-    const std::string_view number = text.substr(0, text.find(' '));
+    const Number number(text, plan.decimalSeparator, Blank::Ends);
     // Blanks may stand between the number and the delimiter, and nothing else.
-    if (text.find_first_not_of(' ', number.size()) != std::string_view::npos) return false;
-    const Parts parts(number, plan.decimalSeparator);
-    if (!parts.isSound || hasMisplacedSign(number)) return false;
+    if (text.find_first_not_of(' ', number.all.size()) != std::string_view::npos) return false;
+    if (!number.isSound || number.hasMisplacedSign()) return false;
     fixedText({}, plan, plan.width, working);
     if (working.decimals == 0) {
-        const bool isWhole = parts.fraction.find_first_not_of('0') == std::string_view::npos;
-        return placeRight(isWhole ? parts.integer : number, working.length, working);
+        const bool isWhole = number.fraction.find_first_not_of('0') == std::string_view::npos;
+        return placeRight(isWhole ? number.integer : number.all, working.length, working);
     }
-    if (!working.hasPoint() || !placeRight(parts.integer, working.pointAt(), working)) return false;
+    if (!working.hasPoint() || !placeRight(number.integer, working.pointAt(), working)) return false;
     char* const fraction = working.characters + working.pointAt() + 1;
     std::fill_n(fraction, working.decimals, '0');
-    std::copy_n(parts.fraction.data(), std::min<std::size_t>(parts.fraction.size(), working.decimals), fraction);
+    std::copy_n(number.fraction.data(), std::min<std::size_t>(number.fraction.size(), working.decimals), fraction);
     return true;
 }
 
 bool readBinary(std::string_view text, const FieldPlan& plan, bool isFixed, BinaryNumber& number) {
-    const Parts parts(text, plan.decimalSeparator);
+    const Number parts(text, plan.decimalSeparator, Blank::Belongs);
     const auto decimals = static_cast<std::size_t>(plan.decimals);
     bool isNumber = parts.isSound;
     for (const char character : parts.integer) isNumber = isNumber && number.put(character);

@@ -1,6 +1,8 @@
 #include "record/to_host/record_finder.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 
 #include "record/dif_pieces.h"
 #include "text/double_byte.h"
@@ -10,10 +12,19 @@ namespace {
 
 bool isLineEnd(char byte) { return byte == '\r' || byte == '\n' || byte == EndOfFileByte; }
 
+// Whether no byte of eight is below a blank; all line ends are.
+bool areWithoutControls(const char* bytes) {
+    constexpr std::uint64_t Blanks = 0x2020202020202020, HighBits = 0x8080808080808080;
+    std::uint64_t eight;
+    std::memcpy(&eight, bytes, sizeof(eight));
+    return ((eight - Blanks) & ~eight & HighBits) == 0;
+}
+
 // CR or LF in the last place may be the first half of a pair; byte 26 stands alone.
 bool findLineEnd(std::string_view buffer, std::size_t& index) {
     std::size_t at = index;
-    while (at < buffer.size() && !isLineEnd(buffer[at])) ++at;
+    while (at < buffer.size() && !isLineEnd(buffer[at]))
+        at += at + 8 <= buffer.size() && areWithoutControls(buffer.data() + at) ? 8 : 1;
     if (at == buffer.size() || (at + 1 == buffer.size() && buffer[at] != EndOfFileByte)) return false;
     index = at;
     return true;
