@@ -1,6 +1,8 @@
 #include "bench/host_file.h"
 
 #include <array>
+#include <iterator>
+#include <string>
 
 #include "support/host_fields.h"
 #include "support/host_record.h"
@@ -8,26 +10,14 @@
 namespace bench {
 namespace {
 
-std::vector<Field> makeFields() {
-    std::vector<Field> made = {
-        {"zoned_6.0", hostfields::zoned("CUSNUM", 6), 0, 6},
-        {"character_25", hostfields::character("NAME", 25), 0, 25},
-        {"character_20", hostfields::character("STREET", 20), 0, 20},
-        {"character_2", hostfields::character("STATE", 2), 0, 2},
-        {"character_10", hostfields::character("ZIPCODE", 10), 0, 10},
-        {"binary_4", hostfields::binary("ORDERS", 4), 0, 4},
-        {"packed_7.2", hostfields::packed("BALANCE", 7, 2), 0, 4},
-        {"packed_11.2", hostfields::packed("TURNOVER", 11, 2), 0, 6},
-        {"zoned_5.3", hostfields::zoned("RATE", 5, 3), 0, 5},
-        {"hex_2", hostfields::hex("FLAGS", 2), 0, 2},
-    };
-    std::uint32_t offset = 0;
-    for (Field& field : made) {
-        field.offset = offset;
-        offset += field.length;
-    }
-    return made;
-}
+constexpr std::uint32_t RecordLength = 84;
+constexpr std::uint32_t DistinctRecords = 1000;
+
+const std::string descriptions[] = {hostfields::zoned("CUSNUM", 6),       hostfields::character("NAME", 25),
+                                    hostfields::character("STREET", 20),  hostfields::character("STATE", 2),
+                                    hostfields::character("ZIPCODE", 10), hostfields::binary("ORDERS", 4),
+                                    hostfields::packed("BALANCE", 7, 2),  hostfields::packed("TURNOVER", 11, 2),
+                                    hostfields::zoned("RATE", 5, 3),      hostfields::hex("FLAGS", 2)};
 
 // Texts without and with what has to be quoted, of very different lengths.
 constexpr std::array<const char*, 10> Names = {"Aldous Henderson",
@@ -71,7 +61,7 @@ std::string makeRecords() {
 
 std::string makeDescriptions() {
     std::string all;
-    for (const Field& field : fields()) all += field.description;
+    for (const std::string& description : descriptions) all += description;
     return all;
 }
 
@@ -79,20 +69,9 @@ const std::uint8_t* bytesOf(const std::string& text) { return reinterpret_cast<c
 
 }  // namespace
 
-const std::vector<Field>& fields() {
-    static const std::vector<Field> made = makeFields();
-    return made;
-}
-
-const std::string& records() {
-    static const std::string made = makeRecords();
-    return made;
-}
-
 scripted::FastTransfer transferOf(std::uint32_t count) {
-    static const std::string descriptions = makeDescriptions();
-    const auto fieldCount = static_cast<std::uint32_t>(fields().size());
-    return {bytesOf(descriptions), fieldCount, bytesOf(records()), DistinctRecords, RecordLength, count};
+    static const std::string fields = makeDescriptions(), records = makeRecords();
+    return {bytesOf(fields), std::size(descriptions), bytesOf(records), DistinctRecords, RecordLength, count};
 }
 
 }  // namespace bench

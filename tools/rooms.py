@@ -24,7 +24,7 @@ INCLUDE = re.compile(r'^\s*#\s*include\s*[<"]([^>"]+)[>"]', re.MULTILINE)
 # A list of what is allowed: nobody can name all the headers of two operating systems. Names without ".h" are C++'s own.
 PORTABLE = re.compile(
     r"(assert|ctype|errno|float|inttypes|limits|locale|math|setjmp|signal|stdalign|stdarg|stdbool|stddef|stdint|stdio"
-    r"|stdlib|string|time|uchar|wchar|wctype|sqlite3|(benchmark|gtest|sanitizer|unicode)/.*)\.h|[^.]*|CLI/CLI\.hpp")
+    r"|stdlib|string|time|uchar|wchar|wctype|sqlite3|(gtest|sanitizer|unicode)/.*)\.h|[^.]*|CLI/CLI\.hpp")
 SYSTEM_CONDITIONAL = re.compile(
     r"\s*#\s*(el)?if.*\b(_?WIN32|_WIN64|__MINGW\w+|__CYGWIN__|__linux__|__unix__|__APPLE__|_POSIX\w*)\b")
 

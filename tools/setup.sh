@@ -33,7 +33,7 @@ install_packages() {
 
 APT_OPTIONS=()
 BUILD_PACKAGES=(g++ cmake ninja-build libcli11-dev libsqlite3-dev libicu-dev tzdata)
-TEST_PACKAGES=(libgtest-dev libbenchmark-dev python3)
+TEST_PACKAGES=(libgtest-dev python3)
 # Of one version: another formats and judges otherwise.
 LINT_PACKAGES=(clang-format-14 clang-tidy-14)
 WINDOWS_PACKAGES=(g++-mingw-w64-i686 googletest wine wine32:i386 locales)

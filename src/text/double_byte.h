@@ -42,6 +42,11 @@ std::size_t findCharacter(std::string_view text, char character);
 
 // Whether `text` begins with `prefix`, ASCII letters compared without regard to case.
 bool startsWithNoCase(std::string_view text, std::string_view prefix);
+// Whether a line begins with a word, compared in the same way. Of most lines the first byte tells that it does not.
+inline bool beginsWithWord(std::string_view line, std::string_view word) {
+    constexpr int CaseBit = 0x20;
+    return !line.empty() && (line[0] | CaseBit) == (word[0] | CaseBit) && startsWithNoCase(line, word);
+}
 
 // Copies `text` cut to at most `capacity` - 1 bytes of whole characters, terminated.
 void copyCut(std::string_view text, char* destination, std::size_t capacity);

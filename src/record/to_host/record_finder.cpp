@@ -36,10 +36,10 @@ bool findTupleEnd(std::string_view buffer, std::size_t& index) {
     for (std::size_t at = index;; ++at) {
         if (at < buffer.size() && buffer[at] == '\n') ++at;
         const std::string_view line = buffer.substr(std::min(at, buffer.size()));
-        if (text::startsWithNoCase(line, dif::EndWord) || !findLineEnd(buffer, at)) return false;
-        if (text::startsWithNoCase(line, dif::SpecialHead)) {
+        if (text::beginsWithWord(line, dif::EndWord) || !findLineEnd(buffer, at)) return false;
+        if (text::beginsWithWord(line, dif::SpecialHead)) {
             specialSeen = true;
-        } else if (text::startsWithNoCase(line, dif::BeginWord)) {
+        } else if (text::beginsWithWord(line, dif::BeginWord)) {
             if (specialSeen) index = at;
             return specialSeen;
         }
