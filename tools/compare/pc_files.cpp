@@ -47,7 +47,38 @@ void damage(Random& random, std::string& text) {
     if (random.oneIn(2)) text.insert(std::min(at, text.size()), random.pick({1, 1, 1, 2, 5000}), random.pick(Controls));
 }
 
+// A line that descriptions have, or nearly.
+std::string descriptionLine(Random& random) {
+    const auto number = [&random] {
+        return random.pick<std::string>({"", "0", "1", "2", "7", "9", "10", "11", "0x1", "x"});
+    };
+    switch (random.below(4)) {
+        case 0:
+            return "PCFT " + number();
+        case 1: {
+            std::string codes = "PCFO" + random.pick<std::string>({" ", " ", ""});
+            for (std::uint32_t more = random.below(7); more > 0; --more) codes += number() + (more > 1 ? "," : "");
+            return codes;
+        }
+        case 2:
+            return random.pick<std::string>({"", "PCFL", "pcfl a 1 2", "PCFX", "PCFDF", "PCFL NAME"});
+        default:
+            return "PCFL " + random.pick<std::string>({"", " ", "N "}) + "NAME" + number() + " " + number() + " " +
+                   number() + random.pick<std::string>({"", "/", "/1", "/x"});
+    }
+}
+
 }  // namespace
+
+std::string alteredDescription(Random& random, std::string text) {
+    while (random.oneIn(2)) {
+        const std::size_t at = text.find('\n', random.below(text.size() + 1));
+        const std::size_t place = at == std::string::npos ? 0 : at + 1;
+        if (random.oneIn(4)) text.erase(place, text.find('\n', place) + 1 - place);
+        text.insert(place, descriptionLine(random) + "\r\n");
+    }
+    return text;
+}
 
 std::string altered(Random& random, std::string text) {
     const bool cr = random.oneIn(12), lf = random.oneIn(12);

@@ -121,7 +121,11 @@ void RandomTransfer::run() {
     transcript_.say("client", client_ != nullptr);
     const auto other = random_.odd(20) ? emulator::newSession() : 0;
     ZXFRPCSCLIENT* const otherClient = other ? library_.newZXFRPCSCLIENT(other) : nullptr;
-    for (std::uint32_t jobs = random_.oneIn(3) ? 2 : 1; jobs > 0; --jobs) runJob();
+    runJob();
+    if (random_.oneIn(3)) {
+        if (random_.odd(2)) setRandomSettings(random_, session_, pc_);
+        runJob();
+    }
     if (random_.oneIn(3)) emulator::runCleanup(session_, CleanupSlot);
     library_.deleteZXFRPCSCLIENT(client_);
     library_.deleteZXFRPCSCLIENT(otherClient);
@@ -154,8 +158,10 @@ void RandomTransfer::send() {
     for (const files::path& path : allFiles()) {
         const std::string contents = contentsOf(path);
         // Few transfers get beyond an altered description.
-        if (!contents.starts_with("PCFDF") || random_.odd(4))
+        if (!contents.starts_with("PCFDF") || random_.odd(8))
             std::ofstream(path, std::ios::binary) << altered(random_, contents);
+        else if (random_.odd(3))
+            std::ofstream(path, std::ios::binary) << alteredDescription(random_, contents);
     }
     if (!random_.odd(10)) set(setting::UseDescriptionFile, number(setting::HostFileType) == 0 ? 1 : 0);
     allowSurprises(true);
