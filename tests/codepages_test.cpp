@@ -166,13 +166,15 @@ TEST_F(CodePages, Page43ChangesTheLength) {
 TEST_F(CodePages, DamagedDataIsRefused) {
     const std::string good = fileBytes(dataFile());
     const auto withByte = [&good](std::size_t at, char value) { return std::string(good).replace(at, 1, 1, value); };
+    const std::size_t firstBody = 20 + 16 * static_cast<unsigned char>(good[16]);
     std::vector<std::pair<std::string, const char*>> cases = {
         {good + "X", "longer"},
         {withByte(0, 'X'), "not a code page data file"},
         {withByte(8, 9), "version 9"},
-        {withByte(19, 1), "list of pages"},    // count
-        {withByte(20 + 11, 1), "at page 37"},  // offset of the first body
-        {withByte(20 + 13, 1), "at page 37"},  // its length
+        {withByte(19, 1), "list of pages"},                // count
+        {withByte(20 + 11, 1), "at page 37"},              // offset of the first body
+        {withByte(20 + 13, 1), "at page 37"},              // its length
+        {withByte(firstBody + 512 + 3, 1), "at page 37"},  // its preferences
     };
     const std::size_t lengths[] = {0, 7, 8, 19, 20, 300, good.size() / 2, good.size() - 1};
     for (const std::size_t length : lengths) cases.emplace_back(good.substr(0, length), "cut short");

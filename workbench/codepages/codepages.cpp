@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <fstream>
-#include <iterator>
+#include <memory>
 #include <utility>
 
 #include "data_file.h"
@@ -10,9 +10,18 @@
 namespace codepages {
 namespace {
 
+// Taken from the file when somebody first asks for it.
+struct Page {
+    PageEntry entry;
+    std::unique_ptr<CodePage> taken;
+
+    std::uint32_t number() const { return entry.number; }
+};
+
 struct Loaded {
     std::string path;
-    std::vector<CodePage> pages;  // by number
+    std::vector<char> file;
+    std::vector<Page> pages;  // by number
 };
 
 Loaded& loaded() {
@@ -20,21 +29,27 @@ Loaded& loaded() {
     return state;
 }
 
-std::optional<std::string> readFile(const std::string& path, std::string* error) {
-    std::ifstream file(path, std::ios::binary);
+std::optional<std::vector<char>> readFile(const std::string& path, std::string* error) {
+    std::ifstream file(path, std::ios::binary | std::ios::ate);
     if (!file) {
         if (error) *error = "the file cannot be opened";
         return std::nullopt;
     }
-    std::string bytes{std::istreambuf_iterator<char>(file), {}};
-    if (!file.bad()) return bytes;
+    const std::streamoff length = file.tellg();
+    std::vector<char> bytes(length > 0 && length <= UINT32_MAX ? static_cast<std::size_t>(length) : 0);
+    if (file.seekg(0).read(bytes.data(), static_cast<std::streamsize>(bytes.size()))) return bytes;
     if (error) *error = "the file cannot be read";
     return std::nullopt;
 }
 
-std::optional<std::vector<PageData>> readPages(const std::string& path, std::string* error) {
-    const auto bytes = readFile(path, error);
-    return bytes ? parseDataFile(*bytes, error) : std::nullopt;
+bool readPages(Loaded& into, std::string* error) {
+    auto file = readFile(into.path, error);
+    const auto entries = file ? readEntries({file->data(), file->size()}, error) : std::nullopt;
+    if (!entries) return false;
+    into.file = *std::move(file);  // stays where it is: the entries lead into it
+    for (const PageEntry& entry : *entries) into.pages.push_back({entry, nullptr});
+    std::ranges::sort(into.pages, {}, &Page::number);
+    return true;
 }
 
 }  // namespace
@@ -42,22 +57,21 @@ std::optional<std::vector<PageData>> readPages(const std::string& path, std::str
 bool load(const std::string& path, std::string* error) {
     Loaded& state = loaded();
     if (!state.pages.empty() && state.path == path) return true;
-    auto contents = readPages(path, error);
-    if (!contents) {
+    Loaded read{path, {}, {}};
+    if (!readPages(read, error)) {
         if (error) *error = path + ": " + *error;
         return false;
     }
-    state.pages.clear();
-    for (PageData& data : *contents) state.pages.emplace_back(std::move(data));
-    std::ranges::sort(state.pages, {}, &CodePage::number);
-    state.path = path;
+    state = std::move(read);
     return true;
 }
 
 const CodePage* find(std::uint32_t number) {
-    const auto& pages = loaded().pages;
-    const auto place = std::ranges::lower_bound(pages, number, {}, &CodePage::number);
-    return place != pages.end() && place->number() == number ? &*place : nullptr;
+    auto& pages = loaded().pages;
+    const auto place = std::ranges::lower_bound(pages, number, {}, &Page::number);
+    if (place == pages.end() || place->number() != number) return nullptr;
+    if (!place->taken) place->taken = std::make_unique<CodePage>(readPage(place->entry));
+    return place->taken.get();
 }
 
 CodePage::CodePage(PageData data) : data_(std::move(data)), codes_(invert(data_)) {}

@@ -38,7 +38,19 @@ inline constexpr std::uint8_t NoFileRow = 0xFF;
 // The file's bytes. No page may have more than 255 rows.
 std::string composeDataFile(const std::vector<PageData>& pages);
 
-// Nothing, with a sentence in `error`, when the bytes are not a data file or not a whole one.
-std::optional<std::vector<PageData>> parseDataFile(std::string_view file, std::string* error);
+// A page as the file's list names it.
+struct PageEntry {
+    std::uint32_t number = 0;
+    bool host = false;
+    bool doubleByte = false;
+    std::string_view body;  // in the file's bytes
+};
+
+// The list of a file's pages, whose bodies have been looked over. Nothing, with a sentence in `error`, when the bytes
+// are not a data file or not a whole one.
+std::optional<std::vector<PageEntry>> readEntries(std::string_view file, std::string* error);
+
+// The tables of a page that readEntries gave.
+PageData readPage(const PageEntry& entry);
 
 }  // namespace codepages

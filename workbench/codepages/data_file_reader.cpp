@@ -1,4 +1,4 @@
-#include <span>
+#include <algorithm>
 
 #include "data_file.h"
 
@@ -16,6 +16,10 @@ public:
     std::uint8_t u8() { return std::uint8_t(take(1)); }
     std::uint16_t u16() { return std::uint16_t(take(2)); }
     std::uint32_t u32() { return take(4); }
+    void skip(std::size_t length) {
+        ranOut_ |= !holds(length);
+        bytes_.remove_prefix(std::min(length, bytes_.size()));
+    }
 
 private:
     std::uint32_t take(unsigned length) {
@@ -33,6 +37,8 @@ private:
     bool ranOut_ = false;
 };
 
+constexpr std::size_t SingleBytesLength = 512, PcTablesLength = 32 + 256 + 256, RowLength = 512;
+
 void readPcTables(Reader& reader, PageData& page) {
     for (unsigned at = 0; at < 32; ++at) {
         const std::uint8_t bits = reader.u8();
@@ -42,54 +48,62 @@ void readPcTables(Reader& reader, PageData& page) {
     for (auto& byte : page.lower) byte = reader.u8();
 }
 
-bool readPairs(Reader& reader, PageData& page) {
+// The first byte of each row. Nothing when the rows are not numbered from 0 without a gap.
+std::optional<std::vector<std::uint8_t>> readFirstBytes(Reader& reader) {
     std::array<int, 256> firstOfRow;
     firstOfRow.fill(-1);
     unsigned rows = 0;
-    for (unsigned first = 0; first < 256; ++first) {
+    for (int first = 0; first < 256; ++first) {
         const std::uint8_t row = reader.u8();
         if (row == NoFileRow) continue;
-        if (firstOfRow[row] >= 0) return false;
-        firstOfRow[row] = int(first);
+        if (firstOfRow[row] >= 0) return std::nullopt;
+        firstOfRow[row] = first;
         ++rows;
     }
-    if (!reader.holds(512 * std::uint64_t{rows})) return false;
-    for (unsigned row = 0; row < rows; ++row) {
-        if (firstOfRow[row] < 0) return false;
-        for (unsigned second = 0; second < 256; ++second)
-            page.pairs.set(std::uint8_t(firstOfRow[row]), std::uint8_t(second), reader.u16());
-    }
-    return true;
+    const auto end = firstOfRow.begin() + rows;
+    if (std::find(firstOfRow.begin(), end, -1) != end) return std::nullopt;
+    return std::vector<std::uint8_t>(firstOfRow.begin(), end);
 }
 
-bool readPreferences(Reader& reader, PageData& page) {
-    const std::uint32_t count = reader.u32();
-    if (!reader.holds(4 * std::uint64_t{count})) return false;
-    page.preferences.resize(count);
+void readPairs(Reader& reader, PageData& page) {
+    const auto firstBytes = readFirstBytes(reader);
+    if (!firstBytes) return;
+    for (const std::uint8_t first : *firstBytes)
+        for (unsigned second = 0; second < 256; ++second) page.pairs.set(first, std::uint8_t(second), reader.u16());
+}
+
+void readPreferences(Reader& reader, PageData& page) {
+    page.preferences.resize(reader.u32());
     for (Preference& preference : page.preferences) {
         preference.character = reader.u16();
         preference.code = reader.u16();
     }
-    return true;
 }
 
-bool readBody(std::string_view body, PageData& page) {
-    Reader reader(body);
-    for (auto& character : page.single) character = reader.u16();
-    if (!page.host) readPcTables(reader, page);
-    if (page.doubleByte && !readPairs(reader, page)) return false;
-    return readPreferences(reader, page) && !reader.ranOut();
+// Whether the tables that the body is to have are all there. The tables themselves are left alone: there are many
+// pages, and a program wants few of them.
+bool isWhole(const PageEntry& entry) {
+    Reader reader(entry.body);
+    reader.skip(SingleBytesLength + (entry.host ? 0 : PcTablesLength));
+    if (entry.doubleByte) {
+        const auto firstBytes = readFirstBytes(reader);
+        if (!firstBytes) return false;
+        reader.skip(RowLength * firstBytes->size());
+    }
+    const std::uint32_t preferences = reader.u32();
+    return !reader.ranOut() && reader.holds(4 * std::uint64_t{preferences});
 }
 
-bool readPage(std::string_view file, Reader& directory, PageData& page) {
-    page.number = directory.u32();
+bool readEntry(std::string_view file, Reader& directory, PageEntry& entry) {
+    entry.number = directory.u32();
     const std::uint32_t flags = directory.u32();
-    page.host = (flags & HostPageFlag) != 0;
-    page.doubleByte = (flags & DoubleBytePageFlag) != 0;
+    entry.host = (flags & HostPageFlag) != 0;
+    entry.doubleByte = (flags & DoubleBytePageFlag) != 0;
     const std::uint32_t offset = directory.u32();
     const std::uint32_t length = directory.u32();
     if (directory.ranOut() || offset > file.size() || length > file.size() - offset) return false;
-    return readBody(file.substr(offset, length), page);
+    entry.body = file.substr(offset, length);
+    return isWhole(entry);
 }
 
 // The number of pages, or nothing when the bytes are not a whole data file of this version.
@@ -115,20 +129,33 @@ std::optional<std::uint32_t> readHeader(std::string_view file, std::string* erro
 
 }  // namespace
 
-std::optional<std::vector<PageData>> parseDataFile(std::string_view file, std::string* error) {
+std::optional<std::vector<PageEntry>> readEntries(std::string_view file, std::string* error) {
     const auto count = readHeader(file, error);
     if (!count) return std::nullopt;
     Reader directory(file.substr(DataFileHeaderLength));
     const bool room = directory.holds(DataFileEntryLength * std::uint64_t{*count});
-    std::vector<PageData> pages(room ? *count : 0);
-    for (PageData& page : pages) {
-        if (readPage(file, directory, page)) continue;
-        if (error) *error = "the code page data file is damaged at page " + std::to_string(page.number);
+    std::vector<PageEntry> entries(room ? *count : 0);
+    for (PageEntry& entry : entries) {
+        if (readEntry(file, directory, entry)) continue;
+        if (error) *error = "the code page data file is damaged at page " + std::to_string(entry.number);
         return std::nullopt;
     }
-    if (room) return pages;
+    if (room) return entries;
     if (error) *error = "the list of pages of the code page data file is damaged";
     return std::nullopt;
+}
+
+PageData readPage(const PageEntry& entry) {
+    PageData page;
+    page.number = entry.number;
+    page.host = entry.host;
+    page.doubleByte = entry.doubleByte;
+    Reader reader(entry.body);
+    for (auto& character : page.single) character = reader.u16();
+    if (!page.host) readPcTables(reader, page);
+    if (page.doubleByte) readPairs(reader, page);
+    readPreferences(reader, page);
+    return page;
 }
 
 }  // namespace codepages

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include <map>
+#include <span>
 #include <string>
 #include <tuple>
 
@@ -34,11 +35,11 @@ std::uint32_t convert(Session* session, std::uint32_t direction, std::uint32_t l
     if (!tables) return 1;
     const auto& table = direction == ZhstHostToPc ? tables->hostToPc : tables->pcToHost;
     auto* bytes = static_cast<std::uint8_t*>(buffer);
-    for (std::uint32_t i = 0; i < length; ++i) bytes[i] = table[bytes[i]];
+    for (std::uint8_t& byte : std::span(bytes, length)) byte = table[byte];
     return 0;
 }
 
-void tellRefusal(const Session& session) {
+[[gnu::cold]] void tellRefusal(const Session& session) {
     if (!messageEnabled(0)) return;
     constexpr std::uint32_t Exclamation = 0x30;
     MessageBox box = readyTextBox(session.handle(SessionPart::Session));

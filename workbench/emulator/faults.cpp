@@ -3,30 +3,27 @@
 namespace emulator {
 namespace {
 
-Faults wanted;
 std::uint64_t allocationsSeen = 0;
 std::int64_t bytesSeen = 0;
 
 }  // namespace
 
-const Faults& faults() { return wanted; }
+Faults wantedFaults;
 
 void setFaults(const Faults& faults) {
-    wanted = faults;
+    wantedFaults = faults;
     allocationsSeen = 0;
     bytesSeen = 0;
 }
 
-bool allocationAllowed() {
-    if (wanted.failAllocation == 0) return true;
+bool countAllocation() {
     ++allocationsSeen;
-    if (wanted.failAllAfter) return allocationsSeen < wanted.failAllocation;
-    return allocationsSeen != wanted.failAllocation;
+    if (wantedFaults.failAllAfter) return allocationsSeen < wantedFaults.failAllocation;
+    return allocationsSeen != wantedFaults.failAllocation;
 }
 
-bool writeAllowed(std::uint32_t length) {
-    if (wanted.failWriteAfterBytes < 0) return true;
-    if (bytesSeen + length > wanted.failWriteAfterBytes) return false;
+bool countWrite(std::uint32_t length) {
+    if (bytesSeen + length > wantedFaults.failWriteAfterBytes) return false;
     bytesSeen += length;
     return true;
 }

@@ -12,7 +12,7 @@ namespace {
 
 std::vector<std::string> lines;
 // A call that was under way when the journal was cleared must not write its result into a younger line.
-std::uint64_t journalNumber = 0;
+std::uint64_t clearedLines = 0;
 std::size_t longestText = 0;
 
 std::string_view settingName(std::uint32_t id) {
@@ -82,15 +82,13 @@ void append(std::string& line, Bytes bytes) {
 
 void append(std::string& line, Address address) { line += address.address ? '*' : '0'; }
 
-void Call::place(std::string line) {
-    written_ = true;
-    place_ = lines.size();
-    journalNumber_ = journalNumber;
+std::uint64_t Call::place(std::string line) {
     lines.push_back(std::move(line));
+    return clearedLines + lines.size();
 }
 
-void Call::complete(const std::string& result) const {
-    if (journalNumber_ == journalNumber) lines[place_] += " = " + result;
+void Call::complete(std::uint64_t line, const std::string& result) {
+    if (line > clearedLines) lines[line - clearedLines - 1] += " = " + result;
 }
 
 void reset() {
@@ -108,8 +106,8 @@ void journalOn(bool on, JournalTexts texts) {
 const std::vector<std::string>& journal() { return lines; }
 
 void clearJournal() {
+    clearedLines += lines.size();
     lines.clear();
-    ++journalNumber;
 }
 
 void note(const std::string& line) {

@@ -47,38 +47,38 @@ void append(std::string& line, Address address);
 class Call {
 public:
     template <class... Arguments>
-    explicit Call(const char* name, const Arguments&... arguments) {
+    explicit Call(const char* name, Arguments... arguments) {
         if (active) [[unlikely]]
-            begin(name, arguments...);
+            line_ = begin(name, arguments...);
     }
 
     template <class Result>
     Result result(Result value) const {
-        if (written_) [[unlikely]]
-            finish(value);
+        if (line_ != 0) [[unlikely]]
+            finish(line_, value);
         return value;
     }
 
 private:
+    // Kept out of the services, and everything by value: what nobody writes down shall not move a service's own
+    // variables to memory.
     template <class... Arguments>
-    void begin(const char* name, const Arguments&... arguments) {
+    [[gnu::cold, gnu::noinline]] static std::uint64_t begin(const char* name, Arguments... arguments) {
         std::string line = std::string(name) + '(';
         [[maybe_unused]] const char* separator = "";
         ((line += separator, append(line, arguments), separator = ", "), ...);
-        place(line + ')');
+        return place(line + ')');
     }
     template <class Result>
-    void finish(Result value) const {
+    [[gnu::cold, gnu::noinline]] static void finish(std::uint64_t line, Result value) {
         std::string text;
         append(text, value);
-        complete(text);
+        complete(line, text);
     }
-    void place(std::string line);
-    void complete(const std::string& result) const;
+    static std::uint64_t place(std::string line);
+    static void complete(std::uint64_t line, const std::string& result);
 
-    bool written_ = false;
-    std::size_t place_ = 0;
-    std::uint64_t journalNumber_ = 0;
+    std::uint64_t line_ = 0;  // counted from 1 over all journals; 0 is none
 };
 
 // Off and empty.

@@ -57,7 +57,16 @@ bool PcFile::openForReading() {
     failure_.clear();
     writing_ = false;
     if (name_ == StandardOutput) return failNow("opened", "the standard output cannot be read");
-    return openStream("rb", "opened");
+    if (!openStream("rb", "opened")) return false;
+    beginReading();
+    return true;
+}
+
+void PcFile::beginReading() {
+    piece_.resize(PieceSize);
+    std::setvbuf(stream_, piece_.data(), _IOFBF, PieceSize);
+    hasPlaces_ = std::ftell(stream_) >= 0;  // a pipe has none
+    place_ = 0;
 }
 
 bool PcFile::openForWriting() {
@@ -65,7 +74,7 @@ bool PcFile::openForWriting() {
     close();
     failure_.clear();
     writing_ = true;
-    pending_.resize(PieceSize);
+    piece_.resize(PieceSize);
     if (name_ == StandardOutput) {
         stream_ = stdout;
         return true;
@@ -90,6 +99,7 @@ std::int32_t PcFile::read(void* buffer, std::uint32_t maximum) {
     if (!stream_ || writing_) return failNow("read", systemReason(EBADF)), -1;
     const std::size_t count = std::fread(buffer, 1, maximum, stream_);
     if (count == 0 && std::ferror(stream_)) return failNow("read", systemReason(errno)), -1;
+    place_ += count;
     return static_cast<std::int32_t>(count);
 }
 
@@ -101,14 +111,14 @@ bool PcFile::write(const void* bytes, std::uint32_t length) {
         if (std::fwrite(bytes, 1, length, stream_) == length) return true;
         return failNow("written", systemReason(errno));
     }
-    if (length > 0) std::memcpy(pending_.data() + pendingLength_, bytes, length);
+    if (length > 0) std::memcpy(piece_.data() + pendingLength_, bytes, length);
     pendingLength_ += length;
     return true;
 }
 
 bool PcFile::flush() {
     const std::size_t length = std::exchange(pendingLength_, 0);
-    if (length == 0 || std::fwrite(pending_.data(), 1, length, stream_) == length) return true;
+    if (length == 0 || std::fwrite(piece_.data(), 1, length, stream_) == length) return true;
     return failNow("written", systemReason(errno));
 }
 
@@ -153,11 +163,16 @@ void* PcFile::readWhole() {
 
 void PcFile::setPosition(std::uint32_t position) {
     if (!stream_ || (writing_ && !flush())) return;
-    if (std::fseek(stream_, static_cast<long>(position), SEEK_SET) != 0) fail("read", systemReason(errno));
+    if (std::fseek(stream_, static_cast<long>(position), SEEK_SET) == 0)
+        place_ = position;
+    else
+        fail("read", systemReason(errno));
 }
 
+// Asked for behind every record; the stream would ask the operating system.
 std::uint32_t PcFile::position() {
     if (!stream_) return 0;
+    if (!writing_) return hasPlaces_ ? static_cast<std::uint32_t>(place_) : 0;
     const long place = std::ftell(stream_);
     return place < 0 ? 0 : static_cast<std::uint32_t>(place) + static_cast<std::uint32_t>(pendingLength_);
 }

@@ -9,10 +9,10 @@
 
 namespace emulator {
 
-// What a file object keeps of its file. Bytes written are gathered here and go out in large pieces; what the operating
-// system refuses then is told at that moment, at the latest when the file is closed. Every failure is told to the user
-// once: at once by an opening, a read, a write or a close, by errorState() after the operations that have no answer of
-// their own (the size, reading the whole file).
+// What a file object keeps of its file. It is read and written in large pieces. Bytes written are gathered here; what
+// the operating system refuses then is told when they go out, at the latest when the file is closed. Every failure is
+// told to the user once: at once by an opening, a read, a write or a close, by errorState() after the operations that
+// have no answer of their own (the size, reading the whole file).
 class PcFile {
 public:
     explicit PcFile(ZhstSession session) : session_(session) {}
@@ -44,6 +44,7 @@ private:
 
     Choice askUser() const;
     bool openStream(const char* mode, const char* doing);
+    void beginReading();
     bool flush();
     bool fail(const char* doing, const std::string& reason);
     bool failNow(const char* doing, const std::string& reason);
@@ -56,8 +57,10 @@ private:
     bool appendOffered_ = true;
     std::FILE* stream_ = nullptr;
     bool writing_ = false;
-    std::vector<char> pending_;
+    std::vector<char> piece_;  // of a file read: the stream's buffer; of one written: the bytes that wait
     std::size_t pendingLength_ = 0;
+    std::uint64_t place_ = 0;  // of a file read, while it has places
+    bool hasPlaces_ = false;
     std::string failure_;  // empty: no error
     bool told_ = false;
 };

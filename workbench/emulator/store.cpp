@@ -1,5 +1,6 @@
 #include "emulator/store.h"
 
+#include <array>
 #include <functional>
 #include <string>
 #include <unordered_map>
@@ -39,8 +40,14 @@ Part* find(ZhstStore store, ZhstStorePart handle, PartKind kind) {
     return part.kind == kind ? &part : nullptr;
 }
 
-journalled::Code codeOf(ZhstStorePart handle) {
-    return {handle == 0 || handle > parts.size() ? 0 : parts[handle - 1].code};
+// A part as the journal shows it: looked up only for a line that is written.
+struct CodeOf {
+    ZhstStorePart part;
+};
+
+void append(std::string& line, CodeOf shown) {
+    const bool known = shown.part != 0 && shown.part <= parts.size();
+    journalled::append(line, journalled::Code{known ? parts[shown.part - 1].code : 0});
 }
 
 std::uint32_t number(std::string_view code) {
@@ -49,10 +56,9 @@ std::uint32_t number(std::string_view code) {
     return value;
 }
 
-std::string characters(std::uint32_t code) {
-    std::string text;
-    for (int shift = 24; shift >= 0; shift -= 8) text += static_cast<char>(code >> shift);
-    return text;
+std::array<char, 4> characters(std::uint32_t code) {
+    return {static_cast<char>(code >> 24), static_cast<char>(code >> 16), static_cast<char>(code >> 8),
+            static_cast<char>(code)};
 }
 
 ZhstStorePart open(ZhstStore store, ZhstStorePart parent, std::uint32_t code, PartKind kind) {
@@ -69,7 +75,7 @@ void openJournalled(const char* name, ZhstStore store, ZhstStorePart parent, std
                     ZhstStorePart* part, PartKind kind) {
     const ZhstStorePart opened = open(store, parent, code, kind);
     if (part) *part = opened;
-    journalled::Call(name, store, codeOf(parent), journalled::Code{code}, reserved, codeOf(opened));
+    journalled::Call(name, store, CodeOf{parent}, journalled::Code{code}, reserved, CodeOf{opened});
 }
 
 // The code stays readable for a journal line that comes too late.
@@ -95,7 +101,9 @@ void setItem(ZhstStore store, ZhstStorePart handle, const void* bytes, std::uint
     if (!part || !parts[part->parent - 1].locked) return;
     part->item->value.assign(static_cast<const char*>(bytes), length);
     ++part->item->writes;
-    if (listener) listener(characters(part->code), part->item->value);
+    if (!listener) return;
+    const std::array<char, 4> code = characters(part->code);
+    listener({code.data(), code.size()}, part->item->value);
 }
 
 }  // namespace
@@ -144,26 +152,26 @@ void ZHST_CALL zhstOpenStoreItem(ZhstStore store, ZhstStorePart parent, std::uin
 }
 
 void ZHST_CALL zhstCloseStoreNode(ZhstStore store, ZhstStorePart parent, ZhstStorePart part) {
-    Call("CloseStoreNode", store, codeOf(parent), codeOf(part));
+    Call("CloseStoreNode", store, CodeOf{parent}, CodeOf{part});
     close(store, part, PartKind::Node);
 }
 
 void ZHST_CALL zhstCloseStoreList(ZhstStore store, ZhstStorePart parent, ZhstStorePart part) {
-    Call("CloseStoreList", store, codeOf(parent), codeOf(part));
+    Call("CloseStoreList", store, CodeOf{parent}, CodeOf{part});
     close(store, part, PartKind::List);
 }
 
 void ZHST_CALL zhstCloseStoreItem(ZhstStore store, ZhstStorePart parent, ZhstStorePart part) {
-    Call("CloseStoreItem", store, codeOf(parent), codeOf(part));
+    Call("CloseStoreItem", store, CodeOf{parent}, CodeOf{part});
     close(store, part, PartKind::Item);
 }
 
 std::uint32_t ZHST_CALL zhstLockStoreList(ZhstStore store, ZhstStorePart list) {
-    return Call("LockStoreList", store, codeOf(list)).result(lock(store, list));
+    return Call("LockStoreList", store, CodeOf{list}).result(lock(store, list));
 }
 
 void ZHST_CALL zhstUnlockStoreList(ZhstStore store, ZhstStorePart list) {
-    Call("UnlockStoreList", store, codeOf(list));
+    Call("UnlockStoreList", store, CodeOf{list});
     Part* found = find(store, list, PartKind::List);
     if (!found || !found->locked) return;
     found->locked = false;
@@ -171,6 +179,6 @@ void ZHST_CALL zhstUnlockStoreList(ZhstStore store, ZhstStorePart list) {
 }
 
 void ZHST_CALL zhstSetStoreItem(ZhstStore store, ZhstStorePart item, const void* bytes, std::uint32_t length) {
-    Call("SetStoreItem", store, codeOf(item), journalled::Bytes{bytes, length}, length);
+    Call("SetStoreItem", store, CodeOf{item}, journalled::Bytes{bytes, length}, length);
     setItem(store, item, bytes, length);
 }
