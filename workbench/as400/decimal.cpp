@@ -101,17 +101,15 @@ bool storedAsText(std::uint32_t digits, std::uint32_t decimals) {
 }
 
 Value storedNumber(const Decimal& number, std::uint32_t digits, std::uint32_t decimals, std::string& text) {
-    text = decimalText(number, decimals);
-    if (storedAsText(digits, decimals)) return std::string_view(text);
-    const char* end = text.data() + text.size();
-    if (decimals == 0) {
-        std::int64_t integer = 0;
-        std::from_chars(text.data(), end, integer);
-        return integer;
+    if (storedAsText(digits, decimals)) {
+        text = decimalText(number, decimals);
+        return std::string_view(text);
     }
-    double real = 0;
-    std::from_chars(text.data(), end, real);
-    return real;
+    std::int64_t unscaled = 0;
+    std::from_chars(number.digits.data(), number.digits.data() + number.digits.size(), unscaled);
+    if (number.negative) unscaled = -unscaled;
+    if (decimals == 0) return unscaled;
+    return static_cast<double>(unscaled) / PowersOfTen[decimals];  // of two exact values, so it is rounded once
 }
 
 bool writeZoned(const Decimal& number, std::span<std::uint8_t> out) {

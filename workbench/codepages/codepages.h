@@ -49,7 +49,7 @@ public:
 
 private:
     struct Utf8Form {
-        std::array<char, 3> bytes{};
+        std::array<char, 4> bytes{};  // one more than there ever are: copied as a whole
         std::uint8_t length = 0;
     };
     std::uint8_t singleByte(char16_t character) const;  // or the substitute

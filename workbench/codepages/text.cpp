@@ -1,5 +1,6 @@
 // Whole texts of a code page, to and from UTF-8.
 #include <algorithm>
+#include <cstring>
 #include <utility>
 
 #include "codepages.h"
@@ -48,7 +49,7 @@ void CodePage::decodeSingle(std::string_view bytes, std::string& text) const {
     char* end = text.data();
     for (const char byte : bytes) {
         const Utf8Form& form = utf8Forms_[std::uint8_t(byte)];
-        std::ranges::copy(form.bytes, end);  // all three, which is quicker than as many as it has
+        std::memcpy(end, form.bytes.data(), form.bytes.size());
         end += form.length;
     }
     text.resize(std::size_t(end - text.data()));
