@@ -110,6 +110,25 @@ TEST(HostNumbers, BytesOfEveryForm) {
         EXPECT_FALSE(decimalFromText(bad, 2)) << bad;
 }
 
+TEST(HostNumbers, FloatingPointIsRoundedOnce) {
+    // 2.675 lies below its decimal text and 0.085 above, while both products with 100 end in exactly one half.
+    const std::tuple<double, std::uint32_t, const char*> cases[] = {
+        {0.125, 2, "0.12"},
+        {0.375, 2, "0.38"},
+        {-2.5, 0, "-2"},
+        {2.675, 2, "2.67"},
+        {0.085, 2, "0.09"},
+        {-0.001, 2, "0.00"},
+        {12.5, 4, "12.5000"},
+        {1e15, 1, "1000000000000000.0"},
+        {1e22, 1, "10000000000000000000000.0"},
+    };
+    for (const auto& [value, decimals, text] : cases) {
+        EXPECT_EQ(decimalText(decimalFromDouble(value, decimals).value(), decimals), text);
+    }
+    EXPECT_FALSE(decimalFromDouble(std::numeric_limits<double>::infinity(), 0));
+}
+
 TEST(DateFormats, EveryFormatBothWays) {
     const auto check = [](const auto& pattern, const auto& storedPattern, const char* stored, const char* text) {
         ASSERT_TRUE(readMoment(text, pattern)) << text;

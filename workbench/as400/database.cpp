@@ -14,7 +14,8 @@ bool onlyBlanks(std::string_view text) { return text.find_first_not_of(" \t\r\n"
 
 Database::Database(const std::string& path, Opening opening) {
     sqlite3* handle = nullptr;
-    const int flags = SQLITE_OPEN_READWRITE | (opening == Opening::Create ? SQLITE_OPEN_CREATE : 0);
+    const int flags =
+        SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (opening == Opening::Create ? SQLITE_OPEN_CREATE : 0);
     const int result = sqlite3_open_v2(path.c_str(), &handle, flags, nullptr);
     handle_.reset(handle);
     if (result != SQLITE_OK) fail(handle);
@@ -45,23 +46,25 @@ Statement::Statement(Database& database, std::string_view sql) {
     }
 }
 
-Statement& Statement::bind(int position, const Value& value) {
+Statement& Statement::bind(int position, const Value& value, sqlite3_destructor_type lifetime) {
     struct Binder {
         sqlite3_stmt* statement;
         int position;
+        sqlite3_destructor_type lifetime;
         int operator()(std::monostate) const { return sqlite3_bind_null(statement, position); }
         int operator()(std::int64_t number) const { return sqlite3_bind_int64(statement, position, number); }
         int operator()(double number) const { return sqlite3_bind_double(statement, position, number); }
-        int operator()(const std::string& text) const {
-            return sqlite3_bind_text(statement, position, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
+        // A null address would bind NULL, so what is empty needs one of its own.
+        int operator()(std::string_view text) const {
+            const char* address = text.empty() ? "" : text.data();
+            return sqlite3_bind_text(statement, position, address, static_cast<int>(text.size()), lifetime);
         }
-        int operator()(const Bytes& bytes) const {
-            // A null address would bind NULL, so an empty block needs one of its own.
+        int operator()(std::span<const std::uint8_t> bytes) const {
             const void* address = bytes.empty() ? static_cast<const void*>("") : bytes.data();
-            return sqlite3_bind_blob(statement, position, address, static_cast<int>(bytes.size()), SQLITE_TRANSIENT);
+            return sqlite3_bind_blob(statement, position, address, static_cast<int>(bytes.size()), lifetime);
         }
     };
-    if (std::visit(Binder{handle(), position}, value) != SQLITE_OK) fail(sqlite3_db_handle(handle()));
+    if (std::visit(Binder{handle(), position, lifetime}, value) != SQLITE_OK) fail(sqlite3_db_handle(handle()));
     return *this;
 }
 
@@ -78,11 +81,13 @@ Value Statement::value(int column) const {
             return integer(column);
         case SQLITE_FLOAT:
             return sqlite3_column_double(handle(), column);
-        case SQLITE_TEXT:
-            return text(column);
+        case SQLITE_TEXT: {
+            const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(handle(), column));
+            return std::string_view(text, static_cast<std::size_t>(sqlite3_column_bytes(handle(), column)));
+        }
         case SQLITE_BLOB: {
             const auto* bytes = static_cast<const std::uint8_t*>(sqlite3_column_blob(handle(), column));
-            return Bytes(bytes, bytes + sqlite3_column_bytes(handle(), column));
+            return std::span(bytes, static_cast<std::size_t>(sqlite3_column_bytes(handle(), column)));
         }
         default:
             return std::monostate{};

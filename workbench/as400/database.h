@@ -4,17 +4,21 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
 
-// SQLite in the terms of this host. Failures are thrown as DatabaseError with SQLite's own text.
+// SQLite in the terms of this host. Failures are thrown as DatabaseError with SQLite's own text. A database and its
+// statements are used by one thread at a time.
 namespace as400 {
 
 using Bytes = std::vector<std::uint8_t>;
-using Value = std::variant<std::monostate, std::int64_t, double, std::string, Bytes>;
+// Texts and bytes stay where they stand: in a column, until its statement is stepped or reset, or in the caller's
+// memory.
+using Value = std::variant<std::monostate, std::int64_t, double, std::string_view, std::span<const std::uint8_t>>;
 
 struct DatabaseError : std::runtime_error {
     using std::runtime_error::runtime_error;
@@ -41,8 +45,9 @@ public:
     // One statement only; text behind it is an error.
     Statement(Database& database, std::string_view sql);
 
-    Statement& bind(int position, const Value& value);  // positions from 1
-    bool step();                                        // false after the last row
+    // Positions from 1. With SQLITE_STATIC texts and bytes are not copied and stay unchanged until the next bind.
+    Statement& bind(int position, const Value& value, sqlite3_destructor_type lifetime = SQLITE_TRANSIENT);
+    bool step();  // false after the last row
     void reset() { sqlite3_reset(handle_.get()); }
 
     int columnCount() const { return sqlite3_column_count(handle_.get()); }

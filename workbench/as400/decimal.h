@@ -18,6 +18,7 @@ struct Decimal {
     std::string digits = "0";
 
     static Decimal of(bool negative, std::string_view digits);
+    static Decimal of(std::int64_t unscaled);  // 1250 for 12.50 of two decimals
     bool operator==(const Decimal&) const = default;
 };
 
@@ -30,8 +31,8 @@ std::optional<Decimal> decimalFromValue(const Value& value, std::uint32_t decima
 // Plain decimal text: "-12.50".
 std::string decimalText(const Decimal& number, std::uint32_t decimals);
 // What a column holds for the number: an integer or floating point value while that is exact for every value of the
-// field's digits, else text.
-Value storedNumber(const Decimal& number, std::uint32_t digits, std::uint32_t decimals);
+// field's digits, else text, which is put into `text`.
+Value storedNumber(const Decimal& number, std::uint32_t digits, std::uint32_t decimals, std::string& text);
 bool storedAsText(std::uint32_t digits, std::uint32_t decimals);
 
 // Writers fill `out`, whose size is the field's; false when the number needs more digits or bytes. Readers give null

@@ -38,10 +38,6 @@ std::string fullWidth(std::string_view utf8) {
 
 std::string encodeWithin(std::string utf8, const codepages::CodePage& page, std::size_t capacity) {
     std::string encoded = page.encode(utf8);
-    if (!page.isDoubleByte()) {
-        encoded.resize(std::min(encoded.size(), capacity));
-        return encoded;
-    }
     while (encoded.size() > capacity) {
         dropLastCharacter(utf8);
         encoded = page.encode(utf8);
@@ -93,20 +89,31 @@ void encodeText(std::string_view utf8, FieldType type, const codepages::CodePage
         writePairs(page.encode(fullWidth(utf8)), out);
         return;
     }
+    if (!page.isDoubleByte()) {
+        std::ranges::fill(out.subspan(page.encodeSingle(utf8, out)), Blank);
+        return;
+    }
     const std::string encoded = encodeWithin(std::string(utf8), page, out.size());
     std::ranges::fill(out, Blank);
     std::ranges::copy(encoded, out.begin());
 }
 
-std::string decodeText(std::span<const std::uint8_t> bytes, const codepages::CodePage& page) {
-    std::string text = page.decode({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+void decodeText(std::span<const std::uint8_t> bytes, const codepages::CodePage& page, std::string& utf8) {
+    const std::string_view host(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    if (page.isDoubleByte()) {
+        utf8 = page.decode(host);
+    } else {
+        page.decodeSingle(host, utf8);
+    }
+    std::size_t length = utf8.size();
     while (true) {
+        const std::string_view text(utf8.data(), length);
         if (text.ends_with(' ')) {
-            text.pop_back();
+            --length;
         } else if (text.ends_with(WideBlank)) {
-            text.resize(text.size() - WideBlank.size());
+            length -= WideBlank.size();
         } else {
-            return text;
+            return utf8.resize(length);
         }
     }
 }

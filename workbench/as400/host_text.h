@@ -16,8 +16,8 @@ namespace as400 {
 // and a double-byte blank for what has none.
 void encodeText(std::string_view utf8, FieldType type, const codepages::CodePage& page, std::span<std::uint8_t> out);
 
-// Back, without the blanks (of either width) at the end.
-std::string decodeText(std::span<const std::uint8_t> bytes, const codepages::CodePage& page);
+// Back into `utf8`, without the blanks (of either width) at the end.
+void decodeText(std::span<const std::uint8_t> bytes, const codepages::CodePage& page, std::string& utf8);
 
 // Bytes that the text takes in the host code page, without padding.
 std::size_t encodedLength(std::string_view utf8, const codepages::CodePage& page);

@@ -40,20 +40,24 @@ Bytes toBytes(std::string_view text) {
     return bytes;
 }
 
-Value numberValue(const Field& field, const std::string& text) {
+void bindNumber(Statement& insert, int position, const Field& field, const std::string& text) {
     const auto number = decimalFromText(text, field.decimals);
     if (!number || number->digits.size() > field.digits) throw std::invalid_argument(field.name + " is no " + text);
-    return storedNumber(*number, field.digits, field.decimals);
+    std::string stored;
+    insert.bind(position, storedNumber(*number, field.digits, field.decimals, stored));
 }
 
-Value toValue(const Field& field, const std::string& text) {
-    if (isBytes(text)) return toBytes(text);
-    if (field.isNumber()) return numberValue(field, text);
+void bindText(Statement& insert, int position, const Field& field, const std::string& text) {
+    if (isBytes(text)) {
+        insert.bind(position, toBytes(text));
+        return;
+    }
+    if (field.isNumber()) return bindNumber(insert, position, field, text);
     const bool date = field.type == FieldType::Date;
     if ((date || field.type == FieldType::Time) && !readMoment(text, date ? StoredDate : StoredTime)) {
         throw std::invalid_argument(field.name + " is no " + text);
     }
-    return text;
+    insert.bind(position, text);
 }
 
 class SampleMaker {
@@ -131,7 +135,7 @@ private:
         if (values.size() + 1 == file_.fields.size()) values.emplace_back();  // an empty value at the end
         if (values.size() != file_.fields.size()) throw std::invalid_argument("number of values: " + line);
         for (std::size_t i = 0; i < values.size(); ++i) {
-            insert.bind(static_cast<int>(i + 1), toValue(file_.fields[i], values[i]));
+            bindText(insert, static_cast<int>(i + 1), file_.fields[i], values[i]);
         }
     }
 

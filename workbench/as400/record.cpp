@@ -41,11 +41,11 @@ std::optional<Decimal> readNumberBytes(const Field& field, std::span<const std::
 // Bytes are passed as they are; not damaged after all is, for example, a number with an unusual sign.
 void writeRawNumber(const RecordField& field, const Value& value, const RequestOptions& options,
                     std::span<std::uint8_t> out) {
-    const auto* bytes = std::get_if<Bytes>(&value);
+    const auto* bytes = std::get_if<std::span<const std::uint8_t>>(&value);
     const bool sound = bytes && bytes->size() == out.size() && readNumberBytes(field.field, *bytes);
     if (!sound && !options.ignoreDecimalErrors) refuseNumber(field.field, "decimal data error");
     if (bytes) return copyPadded(*bytes, out, 0x40);
-    const auto* text = std::get_if<std::string>(&value);
+    const auto* text = std::get_if<std::string_view>(&value);
     encodeText(text ? *text : "", FieldType::Character, *field.page, out);
 }
 
@@ -59,39 +59,49 @@ void writeNumberValue(const RecordField& field, const Value& value, const Reques
     }
 }
 
-std::string textOf(const Value& value) {
-    if (const auto* text = std::get_if<std::string>(&value)) return *text;
-    if (const auto* integer = std::get_if<std::int64_t>(&value)) return std::to_string(*integer);
-    if (const auto* bytes = std::get_if<Bytes>(&value)) return std::string(bytes->begin(), bytes->end());
-    const auto* real = std::get_if<double>(&value);
-    if (!real) return {};
-    std::string text = decimalText(decimalFromDouble(*real, 9).value_or(Decimal{}), 9);
+std::string realText(double real) {
+    std::string text = decimalText(decimalFromDouble(real, 9).value_or(Decimal{}), 9);
     text.erase(text.find_last_not_of('0') + 1);
     if (text.ends_with('.')) text.pop_back();
     return text;
 }
 
+// Of a number the text is put into `number`.
+std::string_view textOf(const Value& value, std::string& number) {
+    if (const auto* text = std::get_if<std::string_view>(&value)) return *text;
+    if (const auto* bytes = std::get_if<std::span<const std::uint8_t>>(&value)) {
+        return {reinterpret_cast<const char*>(bytes->data()), bytes->size()};
+    }
+    if (const auto* integer = std::get_if<std::int64_t>(&value)) number = std::to_string(*integer);
+    if (const auto* real = std::get_if<double>(&value)) number = realText(*real);
+    return number;
+}
+
 std::string momentText(const Field& field, const Value& value, const RequestOptions& options) {
     const bool date = field.type == FieldType::Date;
-    const std::string text = textOf(value);
+    std::string number;
+    const std::string_view text = textOf(value, number);
     const auto moment = text.empty() ? Moment{} : readMoment(text, date ? StoredDate : StoredTime);
-    if (!moment) refuseData("HSF2002 Field " + field.name + ": " + text + " is no date or time.");
+    if (!moment) refuseData("HSF2002 Field " + field.name + ": " + std::string(text) + " is no date or time.");
     return writeMoment(*moment, date ? options.datePattern : options.timePattern);
 }
 
-Value readNumber(const RecordField& field, std::span<const std::uint8_t> bytes, const RequestOptions& options) {
+Value readNumber(const RecordField& field, std::span<const std::uint8_t> bytes, const RequestOptions& options,
+                 std::string& text) {
     const Field& f = field.field;
-    if (const auto number = readNumberBytes(f, bytes)) return storedNumber(*number, f.digits, f.decimals);
+    if (const auto number = readNumberBytes(f, bytes)) return storedNumber(*number, f.digits, f.decimals, text);
     if (!options.ignoreDecimalErrors) refuseNumber(f, "decimal data error");
-    return Bytes(bytes.begin(), bytes.end());
+    return bytes;
 }
 
-Value readMomentValue(const RecordField& field, std::span<const std::uint8_t> bytes, const RequestOptions& options) {
+Value readMomentValue(const RecordField& field, std::span<const std::uint8_t> bytes, const RequestOptions& options,
+                      std::string& text) {
     const bool date = field.field.type == FieldType::Date;
-    std::string text = decodeText(bytes, *field.page);
+    decodeText(bytes, *field.page, text);
     const auto moment = readMoment(text, date ? options.datePattern : options.timePattern);
     if (!moment) refuseData("HSF2002 Field " + field.field.name + ": " + text + " is no date or time.");
-    return writeMoment(*moment, date ? StoredDate : StoredTime);
+    text = writeMoment(*moment, date ? StoredDate : StoredTime);
+    return std::string_view(text);
 }
 
 }  // namespace
@@ -106,29 +116,32 @@ RecordField makeRecordField(const Field& field, const codepages::CodePage& page,
 void writeValue(const RecordField& field, const Value& value, const RequestOptions& options,
                 std::span<std::uint8_t> out) {
     if (field.field.isNumber()) return writeNumberValue(field, value, options, out);
+    std::string number;
     switch (field.field.type) {
         case FieldType::Hex: {
-            const std::string bytes = textOf(value);
+            const std::string_view bytes = textOf(value, number);
             return copyPadded({reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()}, out, 0);
         }
         case FieldType::Date:
         case FieldType::Time:
             return encodeText(momentText(field.field, value, options), FieldType::Character, *field.page, out);
         default:
-            return encodeText(textOf(value), field.field.type, *field.page, out);
+            return encodeText(textOf(value, number), field.field.type, *field.page, out);
     }
 }
 
-Value readValue(const RecordField& field, std::span<const std::uint8_t> bytes, const RequestOptions& options) {
-    if (field.field.isNumber()) return readNumber(field, bytes, options);
+Value readValue(const RecordField& field, std::span<const std::uint8_t> bytes, const RequestOptions& options,
+                std::string& text) {
+    if (field.field.isNumber()) return readNumber(field, bytes, options, text);
     switch (field.field.type) {
         case FieldType::Hex:
-            return Bytes(bytes.begin(), bytes.end());
+            return bytes;
         case FieldType::Date:
         case FieldType::Time:
-            return readMomentValue(field, bytes, options);
+            return readMomentValue(field, bytes, options, text);
         default:
-            return decodeText(bytes, *field.page);
+            decodeText(bytes, *field.page, text);
+            return std::string_view(text);
     }
 }
 

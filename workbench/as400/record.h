@@ -27,8 +27,9 @@ RecordField makeRecordField(const Field& field, const codepages::CodePage& page,
 void writeValue(const RecordField& field, const Value& value, const RequestOptions& options,
                 std::span<std::uint8_t> out);
 
-// The value for the database. Throws a Refusal for a date or time that is none, and for a damaged number, which with
-// the option to ignore it is kept as bytes.
-Value readValue(const RecordField& field, std::span<const std::uint8_t> bytes, const RequestOptions& options);
+// The value for the database, which is a number or stands in `bytes` or `text`. Throws a Refusal for a date or time
+// that is none, and for a damaged number, which with the option to ignore it is kept as bytes.
+Value readValue(const RecordField& field, std::span<const std::uint8_t> bytes, const RequestOptions& options,
+                std::string& text);
 
 }  // namespace as400

@@ -68,12 +68,12 @@ std::size_t digitCount(std::int64_t value) {
 void Survey::add(const Value& value, const codepages::CodePage& page) {
     if (const auto* integer = std::get_if<std::int64_t>(&value)) return addInteger(*integer);
     if (const auto* real = std::get_if<double>(&value)) return addReal(*real);
-    if (const auto* text = std::get_if<std::string>(&value)) {
+    if (const auto* text = std::get_if<std::string_view>(&value)) {
         anyText_ = true;
         length_ = std::max(length_, encodedLength(*text, page));
         allDates_ = allDates_ && readMoment(*text, StoredDate);
         allTimes_ = allTimes_ && readMoment(*text, StoredTime);
-    } else if (const auto* bytes = std::get_if<Bytes>(&value)) {
+    } else if (const auto* bytes = std::get_if<std::span<const std::uint8_t>>(&value)) {
         anyBytes_ = true;
         length_ = std::max(length_, bytes->size());
     }

@@ -36,6 +36,7 @@ void Upload::chooseFields(const std::vector<std::string>& names) {
         fields_.push_back(makeRecordField(field, page, options_));
         recordLength_ += fields_.back().field.length;
     }
+    texts_.resize(fields_.size());
 }
 
 std::string Upload::insertStatement() const {
@@ -73,14 +74,14 @@ void Upload::put(std::span<const std::uint8_t> record) {
 void Upload::emptyMember() { database_.execute("DELETE FROM " + quotedName(target_.member.table)); }
 
 void Upload::insert(std::span<const std::uint8_t> record) {
-    int position = 1;
-    for (const RecordField& field : fields_) {
-        const auto bytes = record.first(field.field.length);
-        record = record.subspan(field.field.length);
-        insert_->bind(position++, readValue(field, bytes, options_));
+    for (std::size_t i = 0; i < fields_.size(); ++i) {
+        const auto bytes = record.first(fields_[i].field.length);
+        record = record.subspan(bytes.size());
+        insert_->bind(static_cast<int>(i + 1), readValue(fields_[i], bytes, options_, texts_[i]), SQLITE_STATIC);
     }
-    if (sqlite3_bind_parameter_count(insert_->handle()) >= position) {
-        insert_->bind(position, std::min(double(recordCount_), HighestSequence));
+    const int sequence = static_cast<int>(fields_.size() + 1);
+    if (sqlite3_bind_parameter_count(insert_->handle()) >= sequence) {
+        insert_->bind(sequence, std::min(double(recordCount_), HighestSequence));
     }
     insert_->step();
     insert_->reset();

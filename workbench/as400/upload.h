@@ -41,6 +41,7 @@ private:
     Transaction transaction_;
     Target target_;
     std::vector<RecordField> fields_;
+    std::vector<std::string> texts_;  // of the record being inserted, one for each field
     std::uint32_t recordLength_ = 0;
     std::uint32_t recordCount_ = 0;
     bool refused_ = false;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "data_file.h"
+#include "utf8.h"
 
 namespace codepages {
 namespace {
@@ -74,7 +75,17 @@ const CodePage* find(std::uint32_t number) {
     return place->taken.get();
 }
 
-CodePage::CodePage(PageData data) : data_(std::move(data)), codes_(invert(data_)) {}
+CodePage::CodePage(PageData data) : data_(std::move(data)), codes_(invert(data_)) {
+    for (std::size_t byte = 0; byte < utf8Forms_.size(); ++byte) {
+        std::string utf8;
+        appendUtf8(utf8, data_.single[byte]);
+        std::ranges::copy(utf8, utf8Forms_[byte].bytes.begin());
+        utf8Forms_[byte].length = std::uint8_t(utf8.size());
+    }
+    for (std::size_t character = 0; character < asciiBytes_.size(); ++character) {
+        asciiBytes_[character] = singleByte(char16_t(character));
+    }
+}
 
 char16_t CodePage::toUnicode(std::uint8_t byte) const { return data_.single[byte]; }
 
@@ -84,6 +95,10 @@ std::optional<CodePage::Code> CodePage::fromUnicode(char16_t character) const {
     const std::uint16_t code = codes_.at(character);
     if (code == NoCode && character != 0) return std::nullopt;
     return Code{code, code > 0xFF};
+}
+
+std::uint8_t CodePage::singleByte(char16_t character) const {
+    return std::uint8_t(fromUnicode(character).value_or(Code{substitute(), false}).code);
 }
 
 bool CodePage::isLeadByte(std::uint8_t byte) const { return data_.leadBytes[byte]; }

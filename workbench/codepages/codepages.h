@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,13 +42,24 @@ public:
     // `lossy` when it had to. Host texts carry their shift bytes.
     std::string decode(std::string_view bytes) const;
     std::string encode(std::string_view utf8, bool* lossy = nullptr) const;
+    // For host pages without double bytes: decodes into `text`, whose memory is used again, and encodes what there is
+    // room for. Gives the bytes written.
+    void decodeSingle(std::string_view bytes, std::string& text) const;
+    std::size_t encodeSingle(std::string_view utf8, std::span<std::uint8_t> out) const;
 
 private:
+    struct Utf8Form {
+        std::array<char, 4> bytes{};  // one more than there ever are: copied as a whole
+        std::uint8_t length = 0;
+    };
+    std::uint8_t singleByte(char16_t character) const;  // or the substitute
     std::string decodeHost(std::string_view bytes) const;
     std::string decodePc(std::string_view bytes) const;
 
     PageData data_;
-    RowTable codes_;  // by character
+    RowTable codes_;                              // by character
+    std::array<Utf8Form, 256> utf8Forms_{};       // of the single bytes
+    std::array<std::uint8_t, 128> asciiBytes_{};  // of the ASCII characters
 };
 
 // Loads the data file once; later calls with another path load again. False, with the reason in `error`, when it is not

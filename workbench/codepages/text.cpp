@@ -1,5 +1,6 @@
 // Whole texts of a code page, to and from UTF-8.
 #include <algorithm>
+#include <cstring>
 #include <utility>
 
 #include "codepages.h"
@@ -43,12 +44,27 @@ private:
 
 std::string CodePage::decode(std::string_view bytes) const { return isHost() ? decodeHost(bytes) : decodePc(bytes); }
 
+void CodePage::decodeSingle(std::string_view bytes, std::string& text) const {
+    text.resize(bytes.size() * sizeof(Utf8Form::bytes));
+    char* end = text.data();
+    for (const char byte : bytes) {
+        const Utf8Form& form = utf8Forms_[std::uint8_t(byte)];
+        std::memcpy(end, form.bytes.data(), form.bytes.size());
+        end += form.length;
+    }
+    text.resize(std::size_t(end - text.data()));
+}
+
 std::string CodePage::decodeHost(std::string_view bytes) const {
     std::string text;
+    if (!isDoubleByte()) {
+        decodeSingle(bytes, text);
+        return text;
+    }
     bool inPairs = false;
     for (std::size_t at = 0; at < bytes.size(); ++at) {
         const auto byte = std::uint8_t(bytes[at]);
-        if (isDoubleByte() && (byte == ShiftOut || byte == ShiftIn)) {
+        if (byte == ShiftOut || byte == ShiftIn) {
             inPairs = byte == ShiftOut;
         } else if (!inPairs) {
             appendUtf8(text, toUnicode(byte));
@@ -81,6 +97,20 @@ std::string CodePage::encode(std::string_view utf8, bool* lossy) const {
     }
     if (lossy) *lossy = lost;
     return writer.finish();
+}
+
+std::size_t CodePage::encodeSingle(std::string_view utf8, std::span<std::uint8_t> out) const {
+    std::size_t length = 0;
+    while (!utf8.empty() && length < out.size()) {
+        const auto byte = std::uint8_t(utf8.front());
+        if (byte < asciiBytes_.size()) {
+            out[length++] = asciiBytes_[byte];
+            utf8.remove_prefix(1);
+        } else {
+            out[length++] = singleByte(takeUtf8(utf8));
+        }
+    }
+    return length;
 }
 
 std::uint32_t page43ToPc(std::string_view host, char* destination, std::uint32_t capacity) {
