@@ -18,7 +18,7 @@ constexpr std::uint32_t LineSize = 256;  // more than any text needs: a name has
 
 // Written and published; false when the write failed.
 bool writeText(const client::TransferContext& context, services::FileObject& file, const char* text, int length) {
-    if (length < 0 || !file.write(text, static_cast<std::uint32_t>(length))) return false;
+    if (!file.write(text, static_cast<std::uint32_t>(length))) return false;
     if (context.monitorStore) context.monitorStore->recordReceiveDescription({text, static_cast<std::size_t>(length)});
     return true;
 }

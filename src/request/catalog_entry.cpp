@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstring>
 
 #include "bytes/byte_order.h"
 #include "text/double_byte.h"
@@ -58,7 +59,7 @@ public:
     void append(std::string_view piece) {
         piece = piece.substr(0, piece.find('\0'));
         text::copyCut(piece, entry_.name + length_, sizeof(entry_.name) - length_);
-        length_ += std::min(piece.size(), sizeof(entry_.name) - length_ - 1);
+        length_ += std::strlen(entry_.name + length_);
     }
     bool appendHostText(const ZXFRPCSCLIENT& client, std::string_view hostText) {
         const PcText text(client, hostText);
