@@ -49,6 +49,7 @@ private:
     GrowingRecord& out_;
     DisplayRow row_;
     std::uint32_t index_ = 0;
+    bool mayHoldNulls_ = false;  // other texts end at their first zero byte
 };
 
 ConversionResult DelimitedRecord::convert(std::string_view hostRecord) {
@@ -95,6 +96,7 @@ Outcome DelimitedRecord::convertCharacterField(const PlannedField& each, const c
         showCell(length, bytes < each.columnWidth ? each.columnWidth - bytes : 0);
     } else if (!plan.isQuoted && (rules_.type.quotes == settings::Quotes::Never || isSourceText(writer_.layout))) {
         out_.advance(length);
+        mayHoldNulls_ = true;
     } else {
         if (!putText(plan, length)) return Outcome::NoMemory;
         if (plan.isQuoted) out_.put('"');
@@ -161,7 +163,7 @@ void DelimitedRecord::finish() {
         out_.shortenTo(static_cast<std::uint32_t>(text::trimmedEnd(out_.text()).size()));
     const std::string_view lineEnd = isTuple() ? "" : "\r\n";
     out_.put(lineEnd);
-    blankOutNulls(out_.end() - out_.length(), out_.length());
+    if (mayHoldNulls_) blankOutNulls(out_.end() - out_.length(), out_.length());
 }
 
 }  // namespace

@@ -12,6 +12,7 @@ namespace record::to_pc {
 namespace {
 
 constexpr std::uint32_t IntegerText = 24;
+constexpr std::ptrdiff_t Block = 16;          // digits copied at once
 constexpr std::uint32_t LongestNumber = 255;  // bytes: a description tells the length in one
 
 std::uint32_t finish(char* text, char* end) {
@@ -139,7 +140,7 @@ private:
         negative_ = sign::isNegative(sign::highNibble(source[plan.bytes - 1]));
     }
 
-    char characters_[2 * LongestNumber + 2];
+    char characters_[2 * LongestNumber + 2 + Block];
     const char* begin_;
     char* end_;
     const char* point_;
@@ -147,14 +148,21 @@ private:
     bool negative_ = false;
 };
 
+// In blocks, for which both sides have room: a call to copy a few digits would take longer than they do.
+char* putDigits(const char* first, const char* end, char* next) {
+    std::memcpy(next, first, Block);
+    for (; end - first > Block; first += Block, next += Block) std::memcpy(next + Block, first + Block, Block);
+    return next + (end - first);
+}
+
 // Over the whole width. Leading zeros become blanks, and the sign stands before the first significant digit.
 std::uint32_t toFixedForm(const Digits& digits, char separator, char* text) {
     *text = ' ';
-    char* next = std::copy(digits.begin(), digits.point(), text + 1);
+    char* next = putDigits(digits.begin(), digits.point(), text + 1);
     const char* const whole = next;
     if (digits.hasPoint()) {
         *next++ = separator;
-        next = std::copy(digits.point(), digits.end(), next);
+        next = putDigits(digits.point(), digits.end(), next);
     }
     char* first = text + 1;
     while (first < whole && *first == '0') *first++ = ' ';
@@ -167,12 +175,12 @@ std::uint32_t toDelimitedForm(const Digits& digits, bool hasDecimals, char separ
     while (first < digits.point() && *first == '0') ++first;
     char* next = text;
     if (digits.isNegative()) *next++ = '-';
-    next = std::copy(first, digits.point(), next);
+    next = putDigits(first, digits.point(), next);
     if (!digits.hasPoint()) return finish(text, hasDecimals ? withoutTrailingZeros(text + 1, next) : next);
     const char* const end = withoutTrailingZeros(digits.point(), digits.end());
     if (next == text && end == digits.point()) return finish(text, text);  // a separator alone
     *next++ = separator;
-    return finish(text, std::copy(digits.point(), end, next));
+    return finish(text, putDigits(digits.point(), end, next));
 }
 
 std::uint32_t formatDecimal(const FieldPlan& plan, const char* source, char* text) {
