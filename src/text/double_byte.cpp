@@ -12,13 +12,6 @@ constexpr std::uint16_t Chinese = 0x04;
 constexpr std::uint16_t Japanese = 0x11;
 constexpr std::uint16_t Korean = 0x12;
 
-// No trail byte of any PC code page is a space, so a run of single-byte blanks can be taken off from the end.
-std::string_view withoutTrailingSpaces(std::string_view text) {
-    std::size_t length = text.size();
-    while (length > 0 && text[length - 1] == ' ') --length;
-    return text.substr(0, length);
-}
-
 char lowerAscii(char character) {
     return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
 }
@@ -68,8 +61,16 @@ std::string_view trimmedStart(std::string_view text, BlankPair pair) {
     return text;
 }
 
+// Fields are padded: there are many.
+std::string_view withoutSpaces(std::string_view text) {
+    constexpr std::string_view Eight = "        ";
+    while (text.ends_with(Eight)) text.remove_suffix(Eight.size());
+    while (text.ends_with(' ')) text.remove_suffix(1);
+    return text;
+}
+
 std::string_view trimmedEnd(std::string_view text, BlankPair pair) {
-    if (pair.first == 0) return withoutTrailingSpaces(text);
+    if (pair.first == 0) return withoutSpaces(text);
     std::size_t end = 0;
     for (std::size_t at = 0; at < text.size();) {
         const std::string_view rest = text.substr(at);

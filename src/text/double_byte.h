@@ -32,6 +32,8 @@ inline std::size_t characterBytes(std::string_view text) { return text.size() > 
 // Bytes of the blank at the start of the text, 0 when there is none.
 std::size_t blankBytes(std::string_view text, BlankPair pair);
 
+// Cut behind the last byte that is no space. No trail byte of any PC code page is one.
+std::string_view withoutSpaces(std::string_view text);
 std::string_view trimmedStart(std::string_view text, BlankPair pair = userBlankPair());
 // Cut at the start of the final run of blanks.
 std::string_view trimmedEnd(std::string_view text, BlankPair pair = userBlankPair());

@@ -4,8 +4,10 @@
 #include <link.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <chrono>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <thread>
@@ -15,8 +17,6 @@
 
 namespace platform {
 namespace {
-
-constexpr std::uint32_t ZeroInitialised = 0x0040;
 
 // A handle is no address of its memory, as on the real system: code that skips GlobalLock is found out here.
 struct GlobalBlock {
@@ -67,28 +67,23 @@ void* GetProcAddress(void* module, const char* name) {
 }
 
 std::int32_t LoadStringA(void* module, std::uint32_t id, char* buffer, std::int32_t size) {
-    if (!buffer || size <= 0) return 0;
-    buffer[0] = 0;
-    if (!module) return 0;
     const auto& resources = *static_cast<const PosixModule*>(module);
-    for (std::uint32_t i = 0; i < resources.count; ++i) {
-        const PosixModule::Row& row = resources.rows[i];
-        if (row.id != id) continue;
-        const std::size_t length = strnlen(row.text, static_cast<std::size_t>(size) - 1);
-        std::memcpy(buffer, row.text, length);
-        buffer[length] = 0;
-        return static_cast<std::int32_t>(length);
-    }
-    return 0;
+    const PosixModule::Row* const end = resources.rows + resources.count;
+    const PosixModule::Row* const row =
+        std::find_if(resources.rows, end, [id](const PosixModule::Row& each) { return each.id == id; });
+    const char* const text = row == end ? "" : row->text;
+    std::snprintf(buffer, static_cast<std::size_t>(size), "%s", text);
+    return static_cast<std::int32_t>(std::strlen(buffer));
 }
 
 std::uint32_t GetCurrentProcessId() { return static_cast<std::uint32_t>(getpid()); }
 
-void* GlobalAlloc(std::uint32_t flags, std::uint32_t size) {
+// As if zeros were asked for.
+void* GlobalAlloc(std::uint32_t, std::uint32_t size) {
     if (pcDesktop().refuseGlobalAlloc && pcDesktop().refuseGlobalAlloc()) return nullptr;
     auto* block = static_cast<GlobalBlock*>(std::malloc(sizeof(GlobalBlock)));
     if (!block) return nullptr;
-    block->memory = flags & ZeroInitialised ? std::calloc(size ? size : 1, 1) : std::malloc(size ? size : 1);
+    block->memory = std::calloc(1, size);
     if (block->memory) return block;
     std::free(block);
     return nullptr;
@@ -128,13 +123,8 @@ std::int32_t ShellExecuteA(std::uint32_t owner, const char* verb, const char* fi
 std::int32_t GetLocaleInfoA(std::uint32_t, std::uint32_t type, char* buffer, std::int32_t size) {
     if (type != LocaleListSeparator && type != LocaleDecimalSeparator) return 0;
     const auto& value = type == LocaleListSeparator ? pcLocale().listSeparator : pcLocale().decimalSeparator;
-    const auto needed = static_cast<std::int32_t>(strnlen(value.data(), value.size() - 1)) + 1;
-    // Size 0 asks how much room is needed.
-    if (size == 0) return needed;
-    if (!buffer || size < needed) return 0;
-    std::memcpy(buffer, value.data(), static_cast<std::size_t>(needed) - 1);
-    buffer[needed - 1] = 0;
-    return needed;
+    const int length = std::snprintf(buffer, static_cast<std::size_t>(size), "%s", value.data());
+    return length < size ? length + 1 : 0;
 }
 
 std::uint16_t GetUserDefaultLangID() { return pcLocale().languageId; }

@@ -114,11 +114,9 @@ void DelimitedRecord::showCell(std::uint32_t length, std::uint32_t padding) {
 
 // Without its trailing blanks. Nearly all texts are plain, and stand as they were converted.
 bool DelimitedRecord::putText(const FieldPlan& plan, std::uint32_t length) {
-    const char* text = out_.end();
-    std::uint32_t plain = length;
-    while (plain > 0 && text[plain - 1] == ' ') --plain;
-    if (!rules_.isPlain({text, plain})) return putSpecialText(plan.isQuoted, length);
-    out_.advance(plain);
+    const std::string_view text = text::withoutSpaces({out_.end(), length});
+    if (!rules_.isPlain(text)) return putSpecialText(plan.isQuoted, length);
+    out_.advance(static_cast<std::uint32_t>(text.size()));
     return true;
 }
 
