@@ -3,8 +3,7 @@
 # z7x_random_transfers (tools/compare) of build/native, or of the folder $Z7X_BIN, with the emulator's stand-in and the
 # providers there. Ends with 1, and with the first transfer that differs, when one does.
 #   tools/compare_libraries.sh OLD_LIBRARY NEW_LIBRARY [COUNT [SEED [OPTION...]]]
-# For the options, of that program, see its usage. It is built on request: cmake --build --preset native --target
-# z7x_random_transfers.
+# For the options, of that program, see its usage.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 program=${Z7X_BIN:-$root/build/native/bin}/z7x_random_transfers

@@ -56,10 +56,9 @@ std::uint32_t textWidth(const HostField& field, bool skipsPadNibble) {
 FileRules::FileRules(const settings::TransferSettings& snapshot, std::int32_t fileType, bool toDisplay)
     : type(settings::recordRules(fileType)),
       separator(toDisplay ? ' ' : separatorOf(type.separator, snapshot.listSeparator)),
-      listSeparator(snapshot.listSeparator),
       decimalSeparator(snapshot.decimalSeparator),
-      hexDelimiters(delimitersOf(type, listSeparator, false)),
-      numberDelimiters(delimitersOf(type, listSeparator, decimalSeparator == ',')),
+      hexDelimiters(delimitersOf(type, snapshot.listSeparator, false)),
+      numberDelimiters(delimitersOf(type, snapshot.listSeparator, decimalSeparator == ',')),
       evenPackedIsReduced(snapshot.numericWidthMode == 0) {
     for (std::uint32_t byte = 0; byte < sizeof(plain_); ++byte)
         plain_[byte] = !text::isLeadByte(static_cast<char>(byte));

@@ -31,7 +31,6 @@ struct FileRules {
 
     const settings::PcFileTypeRow& type;
     char separator;  // between fields; 0 for none
-    char listSeparator;
     char decimalSeparator;
     // In BasicSequential files a comma delimits besides the list separator, unless the field is a number and the comma
     // its decimal separator.

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstring>
 
-#include "platform/platform.h"
 #include "services/runtime.h"
 #include "text/double_byte.h"
 
@@ -53,10 +52,6 @@ void TextBuffer::trimStart() {
 }
 
 void TextBuffer::trimEnd() { keepFirst(static_cast<std::uint32_t>(trimmedEnd(view()).size())); }
-
-void TextBuffer::toUpper() {
-    if (record_.text) platform::CharUpperA(record_.text);
-}
 
 void TextBuffer::keepFirst(std::uint32_t count) {
     if (count < length()) record_.text[count] = '\0';

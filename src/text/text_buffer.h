@@ -36,7 +36,6 @@ public:
     // Blanks are the single-byte space and the double-byte blank of the user's language.
     void trimStart();
     void trimEnd();
-    void toUpper();
     void keepFirst(std::uint32_t count);
 
     services::TextRecord* record() { return &record_; }

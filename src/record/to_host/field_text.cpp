@@ -50,11 +50,21 @@ bool storeBinary(std::string_view text, const FieldPlan& plan, char* destination
     return readBinary(text, plan, plan.isFixed, number) && number.store(destination, plan.bytes);
 }
 
+// Characters that the text takes. That of a binary number has its point in addition to its width. A zoned or packed one
+// that begins with neither a blank nor "-" (or any, with the setting NoSignPosition 1) has no sign position, and is one
+// narrower.
+std::uint32_t fixedWidth(const FieldConversion& conversion, const FieldPlan& plan, std::string_view text) {
+    if (plan.type == Binary) return plan.width + (plan.decimals > 0 ? 1 : 0);
+    const char first = text.empty() ? ' ' : text[0];
+    const bool hasSignPosition =
+        first == '\0' || (services::GetSetting(conversion.settings, zhst::setting::NoSignPosition) != 1 &&
+                          (first == ' ' || first == '-'));
+    return hasSignPosition || plan.width == 0 ? plan.width : plan.width - 1;
+}
+
 ConvertedField convertFixedNumber(const FieldConversion& conversion, const FieldPlan& plan, std::string_view text,
                                   char* destination) {
-    // The text of a binary number has its point in addition to its width.
-    const std::uint32_t point = plan.type == Binary && plan.decimals > 0 ? 1 : 0;
-    const std::uint32_t width = fieldTextWidth(conversion, plan, text.empty() ? ' ' : text[0]) + point;
+    const std::uint32_t width = fixedWidth(conversion, plan, text);
     if (plan.type == Binary) {
         if (!storeBinary(text.substr(0, width), plan, destination)) return {};
     } else {
@@ -77,18 +87,7 @@ ConvertedField convertDelimitedNumber(const FileRules& rules, const FieldPlan& p
     return {plan.bytes, text.size()};
 }
 
-bool hasSignPosition(const FieldConversion& conversion, const FieldPlan& plan, char firstCharacter) {
-    if (firstCharacter == '\0' || !plan.isFixed) return true;
-    if (services::GetSetting(conversion.settings, zhst::setting::NoSignPosition) == 1) return false;
-    return firstCharacter == ' ' || firstCharacter == '-';
-}
-
 }  // namespace
-
-std::uint32_t fieldTextWidth(const FieldConversion& conversion, const FieldPlan& plan, char firstCharacter) {
-    if (plan.type != Zoned && plan.type != Packed) return plan.width;
-    return hasSignPosition(conversion, plan, firstCharacter) || plan.width == 0 ? plan.width : plan.width - 1;
-}
 
 ConvertedField convertFieldText(const FieldConversion& conversion, const FieldPlan& plan, std::string_view text,
                                 char* destination) {

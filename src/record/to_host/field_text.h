@@ -19,9 +19,4 @@ struct ConvertedField {
 ConvertedField convertFieldText(const FieldConversion& conversion, const FieldPlan& plan, std::string_view text,
                                 char* destination);
 
-// Characters of the text form of a number in a PC file, which begins with `firstCharacter`. A zoned or packed number of
-// a fixed file that begins with neither a blank nor "-" (or any, with the setting NoSignPosition 1) has no sign
-// position, and is one narrower.
-std::uint32_t fieldTextWidth(const FieldConversion& conversion, const FieldPlan& plan, char firstCharacter);
-
 }  // namespace record::to_host
