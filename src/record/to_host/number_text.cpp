@@ -64,12 +64,12 @@ void fixedText(std::string_view text, const FieldPlan& plan, std::uint32_t width
 }
 
 bool delimitedText(std::string_view text, const FieldPlan& plan, WorkingText& working) {
+    fixedText({}, plan, plan.width, working);
     text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
     const Number number(text, plan.decimalSeparator, Blank::Ends);
     // Blanks may stand between the number and the delimiter, and nothing else.
     if (text.find_first_not_of(' ', number.all.size()) != std::string_view::npos) return false;
     if (!number.isSound || number.hasMisplacedSign()) return false;
-    fixedText({}, plan, plan.width, working);
     if (working.decimals == 0) {
         const bool isWhole = number.fraction.find_first_not_of('0') == std::string_view::npos;
         return placeRight(isWhole ? number.integer : number.all, working.length, working);
