@@ -124,7 +124,8 @@ bool DelimitedRecord::putText(const FieldPlan& plan, std::uint32_t length) {
 // outside of this, DIF alone doubles those inside: a BasicSequential text with one in front of a comma cannot be read
 // back.
 bool DelimitedRecord::putSpecialText(bool isQuoted, std::uint32_t length) {
-    if (!out_.ensure(2 * length)) return false;  // every character may be a double quote
+    // Every character may be a double quote, with two around them and a zero behind.
+    if (!out_.ensure(2 * length + 3)) return false;
     char* field = out_.end();
     field[length] = '\0';
     std::size_t end = text::trimmedEnd({field, std::strlen(field)}).size();
