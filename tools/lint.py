@@ -22,6 +22,8 @@ from rooms import BESIDE, INCLUDE, LIBRARY, code_below, find
 # Other versions format and judge otherwise.
 CLANG_FORMAT = "clang-format-14"
 CLANG_TIDY = "clang-tidy-14"
+# The compiler's, about files that the linker is to optimise.
+NOT_FOR_CLANG = ("-fno-fat-lto-objects",)
 COMMANDS = Path("build/native/compile_commands.json")
 CLEAN = Path("build/lint")
 # Files of the sample host, which are sources there.
@@ -48,7 +50,7 @@ def compile_flags():
     for entry in json.loads(COMMANDS.read_text()):
         source = Path(os.path.relpath(entry["file"]))
         words = shlex.split(entry["command"])
-        flags.setdefault(source, words[1 : words.index("-o")])
+        flags.setdefault(source, [word for word in words[1 : words.index("-o")] if word not in NOT_FOR_CLANG])
     return flags
 
 

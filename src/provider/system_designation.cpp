@@ -34,7 +34,7 @@ const char* SystemDesignation::make(services::SettingsHandle settings, bool mayB
     setting[0] = '\0';
     services::GetStringSetting(settings, zhst::setting::HostSystemName, setting, sizeof(setting));
     if (mayBeQualified != mayBeQualified_ || std::strcmp(setting, setting_) != 0) {
-        std::strcpy(setting_, setting);
+        text::copyCut(setting, setting_, sizeof(setting_));
         mayBeQualified_ = mayBeQualified;
         compose(mayBeQualified ? withoutNetwork(setting) : setting);
     }

@@ -71,6 +71,7 @@ std::string descriptionLine(Random& random) {
 }  // namespace
 
 std::string alteredDescription(Random& random, std::string text) {
+    if (random.oneIn(12)) return "";
     while (random.oneIn(2)) {
         const std::size_t at = text.find('\n', random.below(text.size() + 1));
         const std::size_t place = at == std::string::npos ? 0 : at + 1;
