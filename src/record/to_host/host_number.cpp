@@ -1,5 +1,6 @@
 #include "record/to_host/host_number.h"
 
+#include <cstring>
 #include <limits>
 
 #include "bytes/byte_order.h"
@@ -19,6 +20,7 @@ class Digits {
 public:
     // False at a character that cannot stand there.
     bool read(const WorkingText& text) {
+        std::memset(digits_, 0, text.length);
         const char* const first = text.characters + (text.hasSign ? 1 : 0);
         const char* const end = text.characters + text.length;
         const char* const point = text.hasPoint() ? text.characters + text.pointAt() : end;
@@ -33,18 +35,16 @@ private:
     // Gives the place behind the last digit; null for a failure.
     std::uint8_t* readSide(const char* character, const char* end, std::uint8_t* next) {
         bool isSeen = isSeen_;
-        for (; character < end; ++character) {
-            std::uint8_t digit = 0;
+        for (; character < end; ++character, ++next) {
             // The sixteen characters from "0" on, whose low four bits are taken as they are.
             if (sign::highNibble(*character) == sign::highNibble('0')) {
                 isSeen = true;
-                digit = sign::lowNibble(*character);
+                *next = sign::lowNibble(*character);
             } else if (*character == '-' && !isSeen) {
                 isNegative_ = true;
             } else if (*character != ' ') {
                 return nullptr;
             }
-            *next++ = digit;
         }
         isSeen_ = isSeen;
         return next;
