@@ -120,7 +120,8 @@ const std::vector<RecordField>& Conversation::openFields() const {
 Answer Conversation::getField() {
     const auto& fields = openFields();
     if (fieldPosition_ >= fields.size()) return {ReturnCode::NoMoreData, {}};
-    description_ = describe(fields[fieldPosition_++].field);
+    const RecordField& field = fields[fieldPosition_++];
+    description_ = describe(field.field, field.page->number());
     return {ReturnCode::Success, description_};
 }
 

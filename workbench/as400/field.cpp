@@ -70,8 +70,8 @@ Field makeField(std::string_view name, std::string_view type, std::uint32_t size
 
 std::string_view typeName(FieldType type) { return std::ranges::find(Types, type, &TypeRow::type)->name; }
 
-std::array<std::uint8_t, DescriptionLength> describe(const Field& field) {
-    constexpr std::size_t NameAt = 3, NameLength = 30, DigitsAt = 33;
+std::array<std::uint8_t, DescriptionLength> describe(const Field& field, std::uint32_t page) {
+    constexpr std::size_t NameAt = 3, NameLength = 30, DigitsAt = 33, PageAt = 34;
     std::array<std::uint8_t, DescriptionLength> bytes{};
     bytes[0] = static_cast<std::uint8_t>(field.type);
     bytes[1] = static_cast<std::uint8_t>(field.length);
@@ -79,6 +79,9 @@ std::array<std::uint8_t, DescriptionLength> describe(const Field& field) {
     std::fill_n(bytes.begin() + NameAt, NameLength, std::uint8_t{' '});
     std::memcpy(bytes.data() + NameAt, field.name.data(), std::min(NameLength, field.name.size()));
     bytes[DigitsAt] = static_cast<std::uint8_t>(std::min(field.digits, 255u));
+    if (field.isNumber() || field.type == FieldType::Hex) return bytes;
+    bytes[PageAt] = static_cast<std::uint8_t>(page);
+    bytes[PageAt + 1] = static_cast<std::uint8_t>(page >> 8);
     return bytes;
 }
 

@@ -42,8 +42,8 @@ Field makeField(std::string_view name, std::string_view type, std::uint32_t size
 std::string_view typeName(FieldType type);
 
 inline constexpr std::size_t DescriptionLength = 40;
-// The field description sent to the PC.
-std::array<std::uint8_t, DescriptionLength> describe(const Field& field);
+// The field description sent to the PC. `page` is the host code page of the file, told with texts.
+std::array<std::uint8_t, DescriptionLength> describe(const Field& field, std::uint32_t page);
 
 std::uint32_t recordLength(std::span<const Field> fields);
 const Field* findField(std::span<const Field> fields, std::string_view name);  // case ignored

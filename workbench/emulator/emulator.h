@@ -60,8 +60,8 @@ public:
     virtual std::int32_t shellExecute(const std::string& /*file*/, const std::string& /*parameters*/) { return 33; }
 };
 
-// Null restores one that answers 1 to everything.
-void setUserInterface(UserInterface* userInterface);
+// Null restores one that answers 1 to everything. Gives the one that was set before.
+UserInterface* setUserInterface(UserInterface* userInterface);
 
 // The user asks for the next page or closes the window of the display that is open: calls the notification that
 // TextDisplayCreate was given. Nothing when there is none.
@@ -142,8 +142,10 @@ struct StoreItem {
 };
 // By four-character code ("XUGI"). Empty when never written. A value is taken only while its list is locked.
 StoreItem storeItem(std::string_view code);
-// Called with every value written, after the item took it.
-void onStoreWrite(std::function<void(std::string_view code, std::string_view value)> listener);
+// Called with every value written, after the item took it; the value stands until the item is written again. Gives the
+// listener that was set before.
+using StoreListener = std::function<void(std::string_view code, std::string_view value)>;
+StoreListener onStoreWrite(StoreListener listener);
 
 // --- The journal -------------------------------------------------------------------------------------------------
 

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "Z7XFRPCS/runtime.h"
@@ -31,7 +32,7 @@ struct Part {
 
 std::vector<Part> parts;
 std::unordered_map<std::uint32_t, StoreItem> items;
-std::function<void(std::string_view, std::string_view)> listener;
+StoreListener listener;
 std::uint32_t lockCount = 0;
 
 Part* find(ZhstStore store, ZhstStorePart handle, PartKind kind) {
@@ -113,9 +114,7 @@ StoreItem storeItem(std::string_view code) {
     return found == items.end() ? StoreItem{} : found->second;
 }
 
-void onStoreWrite(std::function<void(std::string_view, std::string_view)> newListener) {
-    listener = std::move(newListener);
-}
+StoreListener onStoreWrite(StoreListener newListener) { return std::exchange(listener, std::move(newListener)); }
 
 std::uint32_t lockedLists() { return lockCount; }
 

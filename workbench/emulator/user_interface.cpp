@@ -1,5 +1,7 @@
 #include "emulator/user_interface.h"
 
+#include <utility>
+
 #include "emulator/journal.h"
 
 namespace emulator {
@@ -9,7 +11,7 @@ UserInterface* current = nullptr;
 
 }  // namespace
 
-void setUserInterface(UserInterface* userInterface) { current = userInterface; }
+UserInterface* setUserInterface(UserInterface* userInterface) { return std::exchange(current, userInterface); }
 
 UserInterface& userInterface() {
     static UserInterface agreeable;

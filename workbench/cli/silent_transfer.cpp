@@ -1,0 +1,41 @@
+#include "silent_transfer.h"
+
+#include <stdexcept>
+#include <utility>
+
+namespace {
+
+constexpr std::int32_t Declined = 2;
+
+}  // namespace
+
+SilentTransfer::SilentTransfer(const TransferLibrary& library, ZhstSession session)
+    : library_(library), session_(session), client_(library.newClient(session)) {
+    if (client_ == nullptr) throw std::runtime_error("the library made no client");
+}
+
+SilentTransfer::~SilentTransfer() { library_.deleteClient(client_); }
+
+void SilentTransfer::run(std::uint32_t direction) {
+    messages_.clear();
+    emulator::UserInterface* const user = emulator::setUserInterface(this);
+    auto listener = emulator::onStoreWrite(onStoreWrite);
+    library_.transferFile(client_, "", direction, 1, 0);
+    emulator::onStoreWrite(std::move(listener));
+    emulator::setUserInterface(user);
+}
+
+void SilentTransfer::cancel() { library_.cancelTransfer(client_); }
+
+std::int32_t SilentTransfer::showMessage(const emulator::MessageBox& box) {
+    messages_.push_back(box);
+    return Declined;
+}
+
+void SilentTransfer::pump() {
+    if (onPump) onPump();
+}
+
+void SilentTransfer::progressCommand(std::uint32_t command) {
+    if (onProgressCommand) onProgressCommand(command);
+}
