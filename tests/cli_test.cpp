@@ -28,6 +28,7 @@ TEST_F(Cli, WrongUsageIsStatusTwoAndLeavesStandardOutputAlone) {
         {"receive A/B --oem-code-page 1", "1"},
         {"receive A/B --decimal ..", "one character"},
         {"receive A/B --where \"N = '\xE6\x97\xA5'\"", "cannot hold"},
+        {"receive A/B --answer perhaps", "replace, append, yes or no"},
         {"receive A/B --journal no/such/folder/j.txt", "no/such/folder"},
         {"send a.csv", "HOSTFILE"},
         {"send a.csv A/B --create always", "always"},

@@ -23,6 +23,17 @@ const Choices createModes = {
     {"file", value::CreateFile}, {"member", value::CreateMember}, {"replace", value::ReplaceMember}};
 const Choices authorities = {{"all", 0}, {"none", 1}, {"read", 2}, {"readwrite", 3}};
 
+// What a validator of an option says of a text that `parse` throws for; nothing of others.
+template <class Parse>
+std::string reasonAgainst(Parse parse) {
+    try {
+        parse();
+        return {};
+    } catch (const std::invalid_argument& error) {
+        return error.what();
+    }
+}
+
 // Options that stand for a setting: what is given on the command line, and only that, becomes an assignment.
 class SettingOptions {
 public:
@@ -146,7 +157,7 @@ void Parser::addSend() {
     options.number("--record-length", setting::RecordLength, "record length of a new source file, 92 when not given");
     options.choice("--create", setting::CreateMode, createModes,
                    "create the file and its member, or a member, or replace an existing member's data (when not "
-                   "given), which --answer 10 confirms");
+                   "given), which --answer replace confirms");
     options.text("--reference", setting::ReferenceFile, "file that a new file takes its fields from")
         ->type_name("LIB/FILE");
     options.choice("--authority", setting::PublicAuthority, authorities, "public authority of a new file");
@@ -184,14 +195,7 @@ void Parser::addCommon(CLI::App* app) {
                for (const std::string& text : texts) line_.sets.push_back(parseAssignment(text));
            },
            "a setting of the emulator, applied last; repeatable")
-        ->check([](const std::string& text) -> std::string {
-            try {
-                parseAssignment(text);
-                return {};
-            } catch (const std::invalid_argument& error) {
-                return error.what();
-            }
-        })
+        ->check([](const std::string& text) { return reasonAgainst([&] { parseAssignment(text); }); })
         ->type_name("ID|NAME=VALUE")
         ->type_size(1)
         ->allow_extra_args(false)
@@ -208,8 +212,11 @@ void Parser::addCommon(CLI::App* app) {
     app->add_option("--journal", line_.journalFile, "write every service call of the library to a file")
         ->type_name("FILE")
         ->group(group);
-    app->add_option("--answer", line_.answer, "answer to every message box: 10 confirms, 0 or 2 declines")
-        ->type_name("N")
+    app->add_option_function<std::string>(
+           "--answer", [this](const std::string& text) { line_.answer = questions::StandingAnswer::parse(text); },
+           "answer to every question that it fits: replace, append, yes or no; or the number of a button")
+        ->check([](const std::string& text) { return reasonAgainst([&] { questions::StandingAnswer::parse(text); }); })
+        ->type_name("WORD")
         ->group(group);
     app->add_flag("--quiet,-q", line_.quiet, "no progress and no tally; messages are still shown")->group(group);
     addPc(app);

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "questions.h"
 #include "settings.h"
 
 enum class Command { Receive, Send, Demo, Browse };
@@ -21,7 +22,7 @@ struct CommandLine {
     std::int32_t fileCount = 1;
     std::string settingsFile, journalFile;  // empty: none
     std::string providerFolder, hostData;   // empty: beside the program
-    std::optional<std::int32_t> answer;
+    std::optional<questions::StandingAnswer> answer;
     bool quiet = false;
 };
 

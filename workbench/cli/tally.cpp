@@ -110,7 +110,7 @@ Tally transferTally(const TerminalUser& user, const PcText& pcText, ZhstSession 
         case Ending::NoRecords:
             return {"failed: 0 records, " + amounts.target() + " was not written", ExitFailed};
         case Ending::Declined:
-            return {"cancelled: not confirmed (--answer 10 confirms), " + amounts.target(), ExitFailed};
+            return {"cancelled: not confirmed (--answer replace confirms), " + amounts.target(), ExitFailed};
         case Ending::Closed:
             return {stopped("cancelled: the display was closed", amounts), ExitFailed};
         case Ending::Cancelled:

@@ -16,9 +16,6 @@ namespace {
 namespace setting = zhst::setting;
 using console::Stream;
 
-constexpr std::int32_t Confirmed = 10;
-constexpr std::int32_t Declined = 2;
-
 const char* phaseWords(ZhstProgressCommand command) {
     switch (command) {
         case ZhstStarting:
@@ -89,7 +86,7 @@ std::int32_t TerminalUser::showMessage(const emulator::MessageBox& box) {
     std::cout.flush();
     printMessage(box);
     const std::int32_t pressed = answer(box);
-    if (!isQuestion(box) || pressed != Confirmed) watch_.message(box);
+    if (!isQuestion(box) || !questions::goesOn(questions::choicesOf(box), pressed)) watch_.message(box);
     bar_.show();
     return pressed;
 }
@@ -100,12 +97,9 @@ void TerminalUser::printMessage(const emulator::MessageBox& box) {
 }
 
 std::int32_t TerminalUser::answer(const emulator::MessageBox& box) {
-    if (line_.answer) return *line_.answer;
-    if (!isQuestion(box)) return 1;
-    if (!console::isTerminal(Stream::Input) || !console::isTerminal(Stream::Error)) return Declined;
-    std::cerr << "z7xfer: confirm? (y/n) " << std::flush;
-    const std::string reply = console::readLine().value_or("");
-    return !reply.empty() && (reply.front() == 'y' || reply.front() == 'Y') ? Confirmed : Declined;
+    if (isQuestion(box)) return questions::ask(questions::choicesOf(box), line_.answer);
+    constexpr std::int32_t Ok = 1;
+    return line_.answer ? line_.answer->button.value_or(Ok) : Ok;
 }
 
 bool TerminalUser::connectionDialog() {
@@ -115,8 +109,7 @@ bool TerminalUser::connectionDialog() {
                             row.number == setting::ConnectionParam250 || row.number == setting::ConnectionParam512;
         if (needed && emulator::text(session_, row.number).empty()) std::cerr << ' ' << row.name;
     }
-    const std::int32_t pressed = line_.answer.value_or(1);
-    const bool accepted = pressed != 0 && pressed != Declined;
+    const bool accepted = !line_.answer || !line_.answer->declines();
     std::cerr << (accepted ? "; trying with what there is" : "") << std::endl;
     if (!accepted) watch_.cancelled();
     return accepted;

@@ -8,6 +8,7 @@
 #include "emulator/emulator.h"
 #include "pc_text.h"
 #include "progress_bar.h"
+#include "questions.h"
 #include "text_table.h"
 #include "transfer_watch.h"
 

@@ -37,7 +37,7 @@ PcFile::Choice PcFile::askUser() const {
     MessageBox box = readyTextBox(session_);
     box.flags = Question | (appendOffered_ ? YesNoCancel : OkCancel);
     box.text = "The file " + name_ + " already exists. ";
-    box.text += appendOffered_ ? "Replace it? (No adds the new data to its end.)" : "Replace it?";
+    box.text += appendOffered_ ? "Replace it, or add the new data to its end?" : "Replace it?";
     const std::int32_t answer = userInterface().showMessage(box);
     if (answer == Ok || answer == Yes || answer == Replace) return Choice::Replace;
     return appendOffered_ && answer == No ? Choice::Append : Choice::Cancel;
