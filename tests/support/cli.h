@@ -2,27 +2,23 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
+#include <map>
+#include <optional>
 #include <string>
 
 #include "support/library.h"
 #include "support/own_folder.h"
+#include "support/run_program.h"
 
-// z7xfer as a person meets it: a process with arguments, two output streams and an exit status.
+// z7xfer as a person meets it: a process with arguments, two output streams and an exit status. It is started by the
+// operating system, without a shell, so that these tests run on Windows too: what a shell would do beyond splitting a
+// line into arguments is asked for here, the standard input with run's second argument, variables with environment_.
 class Cli : public OwnFolder {
 protected:
-    struct Outcome {
-        int status = -1;
-        std::string output, errors;
-    };
-
-    // Runs in the test's own folder, without a desktop.
-    Outcome run(const std::string& arguments) const {
-        const std::string command = "cd \"" + folder.string() + "\" && env -u DISPLAY -u WAYLAND_DISPLAY \"" +
-                                    program_.string() + "\" " + arguments + " >stdout.txt 2>stderr.txt </dev/null";
-        const int status = std::system(command.c_str());
-        return {status >= 0 && (status & 0xFF) == 0 ? status >> 8 & 0xFF : -1, read("stdout.txt"), read("stderr.txt")};
+    // Runs in the test's own folder, without a desktop. `arguments` stand as in a shell, quotes included.
+    Outcome run(const std::string& arguments, const std::string& input = {}) const {
+        return runProgram({program_, splitWords(arguments), folder, environment_, input});
     }
     // Ends with `status`, and says `text` on the error output.
     Outcome expect(int status, const std::string& arguments, const std::string& text) const {
@@ -39,4 +35,5 @@ protected:
     }
 
     const std::filesystem::path program_ = std::filesystem::absolute(binFolder()) / "z7xfer";
+    std::map<std::string, std::optional<std::string>> environment_ = {{"DISPLAY", {}}, {"WAYLAND_DISPLAY", {}}};
 };
