@@ -15,7 +15,14 @@ std::size_t lines(const std::string& text) {
 
 TEST_F(Cli, WrongUsageIsStatusTwoAndLeavesStandardOutputAlone) {
     const std::pair<const char*, const char*> cases[] = {
-        {"", "subcommand"},
+        {"", "which command"},
+        {"recieve A/B", "did you mean receive?"},
+        {"bro", "did you mean browse?"},
+        {"frobnicate", "no command frobnicate\n"},
+        {"receive A/B --oder-by C", "did you mean --order-by?"},
+        {"receive A/B --Tpye csv", "did you mean --type?"},
+        {"receive A/B --type cvs", "did you mean csv?"},
+        {"receive A/B --set HostCodePge=37", "did you mean HostCodePage?"},
         {"receive", "HOSTFILE"},
         {"receive A/B c.csv d.csv", "d.csv"},
         {"receive A/B --type excel", "excel"},
@@ -28,7 +35,7 @@ TEST_F(Cli, WrongUsageIsStatusTwoAndLeavesStandardOutputAlone) {
         {"receive A/B --oem-code-page 1", "1"},
         {"receive A/B --decimal ..", "one character"},
         {"receive A/B --where \"N = '\xE6\x97\xA5'\"", "cannot hold"},
-        {"receive A/B --answer perhaps", "replace, append, yes or no"},
+        {"receive A/B --answer perhaps", "replace, append, yes, no"},
         {"receive A/B --journal no/such/folder/j.txt", "no/such/folder"},
         {"send a.csv", "HOSTFILE"},
         {"send a.csv A/B --create always", "always"},

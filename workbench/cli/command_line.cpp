@@ -1,9 +1,12 @@
 #include "command_line.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <functional>
 #include <map>
 #include <utility>
+
+#include "suggestions.h"
 
 namespace {
 
@@ -34,6 +37,35 @@ std::string reasonAgainst(Parse parse) {
     }
 }
 
+// A validator of a few words.
+CLI::Validator oneOf(const std::vector<std::string>& names) {
+    const auto check = [names](const std::string& word) {
+        return std::find(names.begin(), names.end(), word) != names.end() ? "" : notOneOf(word, names);
+    };
+    return {check, ""};
+}
+
+// What is wrong with the arguments, and what may have been meant by those that are none.
+std::string usageMessage(const CLI::App* app, const CLI::Error& error) {
+    const std::vector<CLI::App*> commands = app->get_subcommands();
+    std::vector<std::string> known;
+    if (commands.empty()) {
+        for (const CLI::App* command : app->get_subcommands(nullptr)) known.push_back(command->get_name());
+    }
+    for (const CLI::App* command : commands) {
+        for (const CLI::Option* option : command->get_options()) {
+            for (const std::string& name : option->get_lnames()) known.push_back("--" + name);
+        }
+    }
+    std::string message = std::string("z7xfer: ") + (commands.empty() ? "which command?" : error.what());
+    const std::vector<std::string> strangers = app->remaining(true);
+    if (!strangers.empty()) {
+        if (commands.empty()) message = "z7xfer: there is no command " + strangers.front();
+        message += didYouMean(strangers.front(), known);
+    }
+    return message + "\nRun with --help for more information.\n";
+}
+
 // Options that stand for a setting: what is given on the command line, and only that, becomes an assignment.
 class SettingOptions {
 public:
@@ -55,8 +87,8 @@ public:
         const std::map<std::string, std::int32_t> values(choices.begin(), choices.end());
         app_->add_option_function<std::string>(
                 name, [this, id, values](const std::string& word) { assign(id, values.at(word)); }, help)
-            ->check(CLI::IsMember(names))
-            ->type_name("");
+            ->check(oneOf(names))
+            ->type_name(CLI::detail::generate_set(names));
     }
     void flag(const std::string& name, std::uint32_t id, const std::string& help) {
         app_->add_flag_callback(
@@ -110,6 +142,7 @@ private:
 Parser::Parser() {
     app_.set_version_flag("--version", "z7xfer " Z7X_VERSION);
     app_.require_subcommand(1);
+    app_.failure_message(usageMessage);
     app_.footer("Exit status: 0 the transfer is complete, 1 it failed or was cancelled, 2 wrong usage.");
     addReceive();
     addSend();

@@ -9,6 +9,7 @@
 
 #include "console.h"
 #include "emulator/catalogue.h"
+#include "suggestions.h"
 
 namespace questions {
 namespace {
@@ -68,7 +69,9 @@ StandingAnswer StandingAnswer::parse(const std::string& text) {
     if (error == std::errc() && last == end) return {"", button};
     const std::string word = inSmallLetters(text);
     if (std::find(Words.begin(), Words.end(), word) != Words.end()) return {word, std::nullopt};
-    throw std::invalid_argument("an answer is replace, append, yes or no, or the number of a button, not " + text);
+    std::vector<std::string> known(Words.begin(), Words.end());
+    known.emplace_back("a button's number");
+    throw std::invalid_argument(notOneOf(text, known));
 }
 
 std::optional<std::int32_t> fitting(Choices choices, std::string_view word) {

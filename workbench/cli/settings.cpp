@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "emulator/setting_rows.h"
+#include "suggestions.h"
 
 namespace {
 
@@ -44,7 +45,9 @@ const emulator::SettingRow& findSetting(std::string_view idOrName) {
     for (const emulator::SettingRow& row : emulator::settingRows) {
         if (id ? row.number == static_cast<std::uint32_t>(*id) : sameName(row.name, idOrName)) return row;
     }
-    throw std::invalid_argument("there is no setting " + std::string(idOrName));
+    std::vector<std::string> names;
+    for (const emulator::SettingRow& row : emulator::settingRows) names.emplace_back(row.name);
+    throw std::invalid_argument("there is no setting " + std::string(idOrName) + didYouMean(idOrName, names));
 }
 
 }  // namespace
