@@ -4,11 +4,14 @@
 find_program(Z7X_DLLTOOL i686-w64-mingw32-dlltool REQUIRED)
 
 function(z7x_import_library target name definitions)
-    set(file ${CMAKE_BINARY_DIR}/lib/lib${name}.dll.a)
-    file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+    set(folder ${CMAKE_BINARY_DIR}/lib)
+    set(file ${folder}/lib${name}.dll.a)
+    file(MAKE_DIRECTORY ${folder})
+    # From inside the folder: what the tool is told of where to write becomes names in the file.
     add_custom_command(
         OUTPUT ${file}
-        COMMAND ${Z7X_DLLTOOL} --kill-at --input-def ${definitions} --output-lib ${file}
+        COMMAND ${Z7X_DLLTOOL} --kill-at --input-def ${definitions} --output-lib lib${name}.dll.a
+        WORKING_DIRECTORY ${folder}
         DEPENDS ${definitions}
         COMMENT "Making the import library of ${name}"
         VERBATIM)
