@@ -44,8 +44,9 @@ compile() {
     source=$(echo "$work"/sqlite3-*/)
     mkdir -p "$work/made" "$result/include" "$result/lib"
     (cd "$work/made" && "$source/configure" --disable-tcl && make sqlite3.c) >"$work/log" 2>&1 || { cat "$work/log" >&2; return 1; }
-    i686-w64-mingw32-gcc-posix -O2 -msse2 -mfpmath=sse -DSQLITE_SECURE_DELETE -DSQLITE_ENABLE_MATH_FUNCTIONS \
-        -DSQLITE_LIKE_DOESNT_MATCH_BLOBS -DSQLITE_SOUNDEX -DSQLITE_MAX_VARIABLE_NUMBER=250000 -DSQLITE_OMIT_LOAD_EXTENSION \
+    i686-w64-mingw32-gcc-posix -O2 -msse2 -mfpmath=sse -DSQLITE_SECURE_DELETE -DSQLITE_ENABLE_COLUMN_METADATA \
+        -DSQLITE_ENABLE_MATH_FUNCTIONS -DSQLITE_LIKE_DOESNT_MATCH_BLOBS -DSQLITE_SOUNDEX \
+        -DSQLITE_MAX_VARIABLE_NUMBER=250000 -DSQLITE_OMIT_LOAD_EXTENSION \
         -c "$work/made/sqlite3.c" -o "$work/made/sqlite3.o"
     cp "$work/made/sqlite3.h" "$result/include/"
     # Whole or not at all: its being there says that it is done.
