@@ -46,6 +46,9 @@ def converse(command, dialogue):
 replace = ["send", "c.csv", "QGPL/CUST", "--description", "c.fdf", "--host-data", "my.db"]
 receive = ["receive", "QGPL/CUST", "c.txt", "--set", "ExistingFileAction=0"]
 question = "replace or no? [no] "
+screen = ["receive", "WORLD/COUNTRY", "--output", "screen"]
+wide = ["receive", "QGPL/CUST", "--output", "screen"]
+page, done = "next page, ", "move, q: done"
 Cases = [
     (replace, [(question, "r\n")], 0, ["already exists", "complete: 10 records"], []),
     (replace, [(question, "maybe\n"), (question, "Yes\n")], 0, ["complete: 10 records"], []),
@@ -55,6 +58,10 @@ Cases = [
     (replace + ["--answer", "REPLACE"], [], 0, ["complete: 10 records"], [question]),
     (receive, [], 0, ["complete: 10 records"], ["?"]),
     (receive, [("replace, append or no? [no] ", "a\n")], 0, ["complete: 10 records"], []),
+    (["demo"], [(page, " "), (done, "q")], 0, ["complete: 23 records", ("LAST  ", 2)], []),
+    (screen, [(page, "\n"), (page, "q")], 0, ["closed after 42 records, the screen", ("CODE  ", 2)], ["complete"]),
+    (screen, [(page, "\x03")], 1, ["cancelled after 21 records"], []),
+    (wide, [(done, ">"), ("PHONE", "\x1b[D"), ("STREET", "\r")], 0, ["complete: 10 records"], ["next page"]),
     (receive + ["--answer", "yes"], [("replace, append or no? [no] ", "n\n")], 1, ["not confirmed"], []),
 ]
 
@@ -71,7 +78,9 @@ def main():
         converse([program, "receive", "QGPL/CUST", "c.csv", "--describe", "*.fdf"], [])
         for arguments, dialogue, status, present, absent in Cases:
             ended, shown, left = converse([program] + arguments, list(dialogue))
-            wrong = [f"{text!r} was not shown" for text in present if text not in shown]
+            wrong = [f"{text!r} was not shown" for text in present if isinstance(text, str) and text not in shown]
+            wrong += [f"{each[0]!r} was not shown {each[1]} times" for each in present
+                      if isinstance(each, tuple) and shown.count(each[0]) != each[1]]
             wrong += [f"{text!r} was shown" for text in absent if text in shown]
             wrong += [f"{awaited!r} was not asked" for awaited, _ in left]
             if ended != status:

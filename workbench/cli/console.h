@@ -9,7 +9,9 @@ namespace console {
 enum class Stream { Input, Output, Error };
 
 bool isTerminal(Stream stream);
-int columns();  // of the terminal on standard error; 80 when it does not say
+// Of the terminal on standard error; 80 and 24 when it does not say.
+int columns();
+int rows();
 
 // From here on the first interrupt (Ctrl-C, or a polite end) only sets a flag; the second one ends the process.
 void catchInterrupts();
@@ -17,5 +19,11 @@ bool interrupted();
 
 // Waits for a line of standard input, without its end. Nothing at the end of the input and when interrupted.
 std::optional<std::string> readLine();
+
+// Waits for a key, which is not shown. An arrow is one of the names below, others are their characters. Nothing at the
+// end of the input and when interrupted.
+std::optional<std::string> readKey();
+inline constexpr const char* RightKey = "\x1b[C";
+inline constexpr const char* LeftKey = "\x1b[D";
 
 }  // namespace console

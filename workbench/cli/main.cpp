@@ -68,6 +68,7 @@ void checkLength(const emulator::Clauses& clauses, const std::string& hostFiles)
 ZhstSession openSession(const CommandLine& line, const PcText& pcText) {
     const ZhstSession session = emulator::newSession();
     apply(session, defaultSettings(), pcText);
+    if (Pager::isWanted()) emulator::set(session, zhst::setting::DisplayRowsPerPage, Pager::rowsPerPage());
     applyCommandLine(session, line, pcText);
     emulator::Clauses clauses = line.clauses;
     for (std::string* clause :

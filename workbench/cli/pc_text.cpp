@@ -83,6 +83,25 @@ std::size_t cellWidth(std::string_view text) {
     return cells;
 }
 
+std::string cellsOf(std::string_view text, std::size_t first, std::size_t count) {
+    std::string visible;
+    std::size_t cell = 0;
+    const std::size_t end = first + count;
+    while (!text.empty() && cell < end) {
+        const std::string_view before = text;
+        takeCharacter(text);
+        const std::string_view character = before.substr(0, before.size() - text.size());
+        const std::size_t behind = cell + cellWidth(character);
+        if (cell >= first && behind <= end) {
+            visible += character;
+        } else if (behind > first) {
+            visible += ' ';
+        }
+        cell = behind;
+    }
+    return visible;
+}
+
 std::string withoutControls(std::string_view text) {
     std::string visible;
     while (!text.empty()) {

@@ -22,5 +22,8 @@ private:
 // Cells of a terminal that a UTF-8 text takes: 2 for an ideograph, 0 for a combining mark.
 std::size_t cellWidth(std::string_view text);
 
+// What stands in `count` cells of a text from the cell `first` on; of a wide character that is cut, a blank.
+std::string cellsOf(std::string_view text, std::size_t first, std::size_t count);
+
 // What is not a visible character stands as a full stop, so that data cannot command the terminal.
 std::string withoutControls(std::string_view text);

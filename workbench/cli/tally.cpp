@@ -112,7 +112,7 @@ Tally transferTally(const TerminalUser& user, const PcText& pcText, ZhstSession 
         case Ending::Declined:
             return {"cancelled: not confirmed (--answer replace confirms), " + amounts.target(), ExitFailed};
         case Ending::Closed:
-            return {stopped("cancelled: the display was closed", amounts), ExitFailed};
+            return {stopped("closed", amounts), ExitComplete};
         case Ending::Cancelled:
             return {stopped("cancelled", amounts), ExitFailed};
         case Ending::NotKept:

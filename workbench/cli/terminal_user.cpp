@@ -67,8 +67,8 @@ TerminalUser::TerminalUser(const CommandLine& line, const PcText& pcText, ZhstSe
       pcText_(pcText),
       session_(session),
       bar_(false),
-      table_(std::cout),
-      pagesAwaited_(console::isTerminal(Stream::Input) && console::isTerminal(Stream::Output)) {
+      table_(std::cout, Pager::isWanted()),
+      pager_(table_) {
     emulator::onStoreWrite([this](std::string_view code, std::string_view value) { storeWritten(code, value); });
 }
 
@@ -83,6 +83,7 @@ void TerminalUser::storeWritten(std::string_view code, std::string_view value) {
 std::int32_t TerminalUser::showMessage(const emulator::MessageBox& box) {
     obeyInterrupt();
     bar_.hide();
+    pager_.writeRest();
     std::cout.flush();
     printMessage(box);
     const std::int32_t pressed = answer(box);
@@ -137,31 +138,13 @@ void TerminalUser::obeyInterrupt() {
 }
 
 void TerminalUser::turnPage() {
-    if (display_ == Display::Ended) {
-        emulator::closeDisplay();
-    } else if (display_ == Display::PageFull) {
-        if (pagesAwaited_) {
-            askForPage();
-        } else {
-            emulator::requestNextPage();
-        }
-    }
-}
-
-void TerminalUser::askForPage() {
-    std::cerr << withoutControls(pcText_.toTerminal(displayStatus_)) << " [Enter: next page, q: close] " << std::flush;
-    const std::optional<std::string> reply = console::readLine();
-    if (console::interrupted()) {
-        std::cerr << std::endl;
-        obeyInterrupt();
-    } else if (reply && !reply->empty() && (reply->front() == 'q' || reply->front() == 'Q')) {
-        watch_.displayClosed();
-        emulator::closeDisplay();
-    } else {
-        pagesAwaited_ = reply.has_value();  // nobody is left to ask when the input has ended
-        table_.startPage();
-        emulator::requestNextPage();
-    }
+    const bool isLast = display_ == Display::Ended;
+    if (!isLast && display_ != Display::PageFull) return;
+    const bool left = Pager::isWanted() && pager_.show(isLast) == Pager::Wish::Leave;
+    obeyInterrupt();
+    if (display_ == Display::None || watch_.isCancelled()) return;
+    if (left && !isLast) watch_.displayClosed();
+    isLast || left ? emulator::closeDisplay() : emulator::requestNextPage();
 }
 
 // --- Progress dialog ---------------------------------------------------------------------------------------------
@@ -222,7 +205,6 @@ void TerminalUser::displayCell(std::uint32_t, std::uint32_t column, const std::s
 
 void TerminalUser::displayStatus(const std::string& text) {
     table_.finishRow();
-    displayStatus_ = text;
     // The title is the status while rows arrive; every other text asks the user for something.
     display_ = text == displayTitle_ ? Display::Filling : Display::PageFull;
     if (display_ == Display::PageFull) std::cout.flush();
@@ -236,6 +218,7 @@ void TerminalUser::displayEnd() {
 
 void TerminalUser::displayDestroyed() {
     table_.finishRow();
+    pager_.writeRest();
     std::cout.flush();
     display_ = Display::None;
 }

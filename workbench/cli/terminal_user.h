@@ -6,6 +6,7 @@
 
 #include "command_line.h"
 #include "emulator/emulator.h"
+#include "pager.h"
 #include "pc_text.h"
 #include "progress_bar.h"
 #include "questions.h"
@@ -53,7 +54,6 @@ private:
     std::int32_t answer(const emulator::MessageBox& box);
     void obeyInterrupt();
     void turnPage();
-    void askForPage();
 
     const CommandLine& line_;
     const PcText& pcText_;
@@ -62,9 +62,9 @@ private:
     TransferWatch watch_;
     ProgressBar bar_;
     TextTable table_;
+    Pager pager_;
     Display display_ = Display::None;
-    bool pagesAwaited_;  // the user asks for every page
-    std::string displayTitle_, displayStatus_;
+    std::string displayTitle_;
     bool sending_ = false;
     std::uint64_t appendedBehind_ = 0;
 };

@@ -1,6 +1,8 @@
 #include "console.h"
 
+#include <poll.h>
 #include <sys/ioctl.h>
+#include <termios.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -25,14 +27,66 @@ int descriptor(Stream stream) {
     return STDERR_FILENO;
 }
 
+// Of whichever stream is one: data or messages may go elsewhere.
+winsize terminalSize() {
+    winsize size{};
+    for (const int stream : {STDERR_FILENO, STDOUT_FILENO, STDIN_FILENO}) {
+        if (ioctl(stream, TIOCGWINSZ, &size) == 0) return size;
+    }
+    return {};
+}
+
+// A terminal that gives keys as they are pressed, until the end of the life.
+class KeyByKey {
+public:
+    KeyByKey() : was_(), changed_(tcgetattr(STDIN_FILENO, &was_) == 0) {
+        termios raw = was_;
+        raw.c_lflag &= ~static_cast<tcflag_t>(ICANON | ECHO);
+        raw.c_cc[VMIN] = 1;
+        raw.c_cc[VTIME] = 0;
+        if (changed_) tcsetattr(STDIN_FILENO, TCSANOW, &raw);
+    }
+    KeyByKey(const KeyByKey&) = delete;
+    KeyByKey& operator=(const KeyByKey&) = delete;
+    ~KeyByKey() {
+        if (changed_) tcsetattr(STDIN_FILENO, TCSANOW, &was_);
+    }
+
+private:
+    termios was_;
+    bool changed_;
+};
+
+// Nothing at the end of the input and when interrupted.
+std::optional<char> readByte() {
+    for (;;) {
+        if (interrupted()) return std::nullopt;
+        char byte = 0;
+        const ssize_t count = read(STDIN_FILENO, &byte, 1);
+        if (count < 0 && errno == EINTR) continue;
+        if (count <= 0) return std::nullopt;
+        return byte;
+    }
+}
+
+// Whether more of a key has come already: an arrow sends three bytes at once.
+bool isByteWaiting() {
+    pollfd input{STDIN_FILENO, POLLIN, 0};
+    return poll(&input, 1, 50) == 1 && (input.revents & POLLIN) != 0;
+}
+
 }  // namespace
 
 bool isTerminal(Stream stream) { return isatty(descriptor(stream)) == 1; }
 
 int columns() {
-    winsize size{};
-    if (ioctl(STDERR_FILENO, TIOCGWINSZ, &size) != 0 || size.ws_col == 0) return 80;
-    return size.ws_col;
+    const winsize size = terminalSize();
+    return size.ws_col == 0 ? 80 : size.ws_col;
+}
+
+int rows() {
+    const winsize size = terminalSize();
+    return size.ws_row == 0 ? 24 : size.ws_row;
 }
 
 void catchInterrupts() {
@@ -48,15 +102,22 @@ bool interrupted() { return interruptSeen != 0; }
 
 std::optional<std::string> readLine() {
     std::string line;
-    for (;;) {
-        if (interrupted()) return std::nullopt;
-        char byte = 0;
-        const ssize_t count = read(STDIN_FILENO, &byte, 1);
-        if (count < 0 && errno == EINTR) continue;
-        if (count <= 0) return std::nullopt;
-        if (byte == '\n') return line;
-        line += byte;
+    while (const std::optional<char> byte = readByte()) {
+        if (*byte == '\n') return line;
+        line += *byte;
     }
+    return std::nullopt;
+}
+
+std::optional<std::string> readKey() {
+    const KeyByKey terminal;
+    const std::optional<char> first = readByte();
+    if (!first) return std::nullopt;
+    std::string key(1, *first);
+    while (key.front() == '\x1b' && key.size() < 3 && isByteWaiting()) {
+        if (const std::optional<char> next = readByte()) key += *next;
+    }
+    return key;
 }
 
 }  // namespace console

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <conio.h>
+
 #include <iostream>
 
 namespace console {
@@ -27,6 +29,15 @@ HANDLE handleOf(Stream stream) {
     return GetStdHandle(STD_ERROR_HANDLE);
 }
 
+// Of whichever stream is a console: data or messages may go elsewhere.
+std::optional<SMALL_RECT> visiblePart() {
+    CONSOLE_SCREEN_BUFFER_INFO info;
+    for (const Stream stream : {Stream::Error, Stream::Output}) {
+        if (GetConsoleScreenBufferInfo(handleOf(stream), &info)) return info.srWindow;
+    }
+    return std::nullopt;
+}
+
 }  // namespace
 
 // Only a real console has a mode; the null device is a character device too.
@@ -36,9 +47,13 @@ bool isTerminal(Stream stream) {
 }
 
 int columns() {
-    CONSOLE_SCREEN_BUFFER_INFO info;
-    if (!GetConsoleScreenBufferInfo(handleOf(Stream::Error), &info)) return 80;
-    return info.srWindow.Right - info.srWindow.Left + 1;
+    const std::optional<SMALL_RECT> window = visiblePart();
+    return window ? window->Right - window->Left + 1 : 80;
+}
+
+int rows() {
+    const std::optional<SMALL_RECT> window = visiblePart();
+    return window ? window->Bottom - window->Top + 1 : 24;
 }
 
 void catchInterrupts() { SetConsoleCtrlHandler(&noteInterrupt, TRUE); }
@@ -50,6 +65,19 @@ std::optional<std::string> readLine() {
     if (interrupted() || !std::getline(std::cin, line) || interrupted()) return std::nullopt;
     if (!line.empty() && line.back() == '\r') line.pop_back();
     return line;
+}
+
+std::optional<std::string> readKey() {
+    constexpr int Extended[] = {0x00, 0xE0}, Left = 0x4B, Right = 0x4D, CtrlC = 0x03;
+    const int key = _getch();
+    if (key == Extended[0] || key == Extended[1]) {
+        const int arrow = _getch();
+        return arrow == Right ? RightKey : arrow == Left ? LeftKey : "";
+    }
+    // Read so, an interrupt is a key.
+    if (key == CtrlC) InterlockedExchange(&interruptSeen, 1);
+    if (interrupted() || key == EOF) return std::nullopt;
+    return std::string(1, static_cast<char>(key));
 }
 
 }  // namespace console
