@@ -2,20 +2,22 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "Z7XFRPCS/types.h"
+#include "emulator/file_trouble.h"
+#include "emulator/written_file.h"
 
 namespace emulator {
 
-// What a file object keeps of its file. It is read and written in large pieces. Bytes written are gathered here; what
-// the operating system refuses then is told when they go out, at the latest when the file is closed. Every failure is
+// What a file object keeps of its file, which is read and written in large pieces. What the operating system refuses is
 // told to the user once: at once by an opening, a read, a write or a close, by errorState() after the operations that
 // have no answer of their own (the size, reading the whole file).
 class PcFile {
 public:
-    explicit PcFile(ZhstSession session) : session_(session) {}
+    explicit PcFile(ZhstSession session) : session_(session), trouble_(std::make_shared<FileTrouble>(session)) {}
     ~PcFile() { close(); }
     PcFile(const PcFile&) = delete;
     PcFile& operator=(const PcFile&) = delete;
@@ -42,27 +44,22 @@ public:
 private:
     enum class Choice { Replace, Append, Cancel };
 
+    Choice choose() const;
     Choice askUser() const;
-    bool openStream(const char* mode, const char* doing);
     void beginReading();
-    bool flush();
-    bool fail(const char* doing, const std::string& reason);
-    bool failNow(const char* doing, const std::string& reason);
-    void tell();
+    bool fail(const char* doing, int error) { return trouble_->tell(name_, doing, systemReason(error)); }
     std::string path() const;
 
     ZhstSession session_;
     std::string name_;
     std::uint32_t existingFileAction_ = 0;
     bool appendOffered_ = true;
-    std::FILE* stream_ = nullptr;
-    bool writing_ = false;
-    std::vector<char> piece_;  // of a file read: the stream's buffer; of one written: the bytes that wait
-    std::size_t pendingLength_ = 0;
-    std::uint64_t place_ = 0;  // of a file read, while it has places
+    std::shared_ptr<FileTrouble> trouble_;
+    std::unique_ptr<WrittenFile> written_;
+    std::FILE* read_ = nullptr;
+    std::vector<char> piece_;  // the buffer of the stream that is read
+    std::uint64_t place_ = 0;  // of that, while it has places
     bool hasPlaces_ = false;
-    std::string failure_;  // empty: no error
-    bool told_ = false;
 };
 
 }  // namespace emulator

@@ -25,5 +25,7 @@ void closeModule(ZhstModule module);
 
 // Opens a path that nativePath gave, as std::fopen does.
 std::FILE* openNative(const std::string& nativePath, const char* mode);
+// For writing from its start, with what is in it; an empty file is made when there is none.
+std::FILE* openNativeAsItIs(const std::string& nativePath);
 
 }  // namespace emulator

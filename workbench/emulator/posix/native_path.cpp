@@ -1,3 +1,5 @@
+#include <fcntl.h>
+
 #include <cstdio>
 #include <filesystem>
 #include <string>
@@ -94,5 +96,11 @@ std::string nativePath(std::string_view pcName) {
 }
 
 std::FILE* openNative(const std::string& nativePath, const char* mode) { return std::fopen(nativePath.c_str(), mode); }
+
+std::FILE* openNativeAsItIs(const std::string& nativePath) {
+    constexpr mode_t EverybodyButTheMask = 0666;
+    const int file = open(nativePath.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, EverybodyButTheMask);
+    return file < 0 ? nullptr : fdopen(file, "wb");
+}
 
 }  // namespace emulator

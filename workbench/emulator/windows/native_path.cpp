@@ -1,3 +1,6 @@
+#include <fcntl.h>
+#include <io.h>
+#include <sys/stat.h>
 #include <windows.h>
 
 #include <cwchar>
@@ -32,6 +35,11 @@ std::string nativePath(std::string_view pcName) {
 
 std::FILE* openNative(const std::string& nativePath, const char* mode) {
     return _wfopen(files::path(nativePath).c_str(), files::path(mode).c_str());
+}
+
+std::FILE* openNativeAsItIs(const std::string& nativePath) {
+    const int file = _wopen(files::path(nativePath).c_str(), _O_WRONLY | _O_CREAT | _O_BINARY, _S_IREAD | _S_IWRITE);
+    return file < 0 ? nullptr : _fdopen(file, "wb");
 }
 
 }  // namespace emulator
