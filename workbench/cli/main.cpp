@@ -98,7 +98,10 @@ Tally runCommand(const TransferLibrary& library, ZXFRPCSCLIENT* client, const Co
         return !settingsRefused;
     });
     const bool sending = line.command == Command::Send;
+    // The user of the terminal releases them.
+    if (!sending) emulator::holdFiles();
     library.transferFile(client, line.settingsFile.c_str(), sending ? ToHost : ToPc, 1, 0);
+    emulator::forgetHeldFiles();
     emulator::setSettingsFileReader(nullptr);
     if (settingsRefused) return {"failed before any record, the settings file was refused", ExitFailed};
     return transferTally(user, pcText, session, sending);

@@ -1,7 +1,6 @@
 #include "tally.h"
 
 #include <cstdio>
-#include <filesystem>
 #include <optional>
 
 namespace {
@@ -23,10 +22,12 @@ public:
     // The emulator writes files in pieces, and a disk may fill up behind records that it had taken.
     bool arePartlyLost() const {
         const std::optional<std::uint64_t> inFile = bytes();
-        return !sending_ && inFile && any() && *inFile < user_.watch().bytesOfRecords();
+        return !sending_ && toFile() && any() && (!inFile || *inFile < user_.watch().bytesOfRecords());
     }
     std::string lost() const {
-        return "only " + counted(*bytes(), "byte") + " of " + records() + " are in " + target();
+        const std::optional<std::uint64_t> inFile = bytes();
+        if (!inFile) return "none of " + records() + " are in " + target() + ", which is what it was";
+        return "only " + counted(*inFile, "byte") + " of " + records() + " are in " + target();
     }
 
     // "249 records, 12,345 bytes, countries.csv"; the bytes only where they are known.
@@ -52,26 +53,13 @@ private:
 
     std::optional<std::uint64_t> bytes() const {
         if (sending_) return bytesRead();
-        if (!toFile()) return std::nullopt;
-        const std::string file = emulator::text(session_, setting::PcFileName);
-        if (file == "-") return streamedBytes();
-        std::error_code error;
-        const auto size = std::filesystem::file_size(emulator::nativePath(file), error);
-        if (error || size < user_.appendedBehind()) return std::nullopt;
-        return size - user_.appendedBehind();
+        return toFile() ? emulator::bytesWritten(emulator::text(session_, setting::PcFileName)) : std::nullopt;
     }
 
     // As far as the file was read and done with: nothing is known of a read that was not.
     std::optional<std::uint64_t> bytesRead() const {
         const auto position = static_cast<std::uint32_t>(number(setting::ProgressCount));
         return position == 0 && any() ? std::nullopt : std::optional<std::uint64_t>(position);
-    }
-
-    // The heading of a DIF file passes unseen.
-    std::optional<std::uint64_t> streamedBytes() const {
-        const bool dif =
-            number(setting::ReceiveFileType) == ZhstDif || number(setting::ReceiveOutput) == value::ToSpreadsheet;
-        return dif ? std::nullopt : std::optional(user_.watch().bytesWritten());
     }
 
     const TerminalUser& user_;

@@ -75,7 +75,10 @@ TerminalUser::TerminalUser(const CommandLine& line, const PcText& pcText, ZhstSe
 void TerminalUser::storeWritten(std::string_view code, std::string_view value) {
     const std::uint64_t before = watch_.recordsSeen();
     watch_.storeWritten(code, value);
-    if (!sending_ && watch_.recordsSeen() != before) bar_.advance(watch_.recordsSeen(), ProgressBar::Unit::Records);
+    if (sending_ || watch_.recordsSeen() == before) return;
+    // The store hears of a record before the file does.
+    emulator::releaseFilesWithNextWrite();
+    bar_.advance(watch_.recordsSeen(), ProgressBar::Unit::Records);
 }
 
 // --- Messages ----------------------------------------------------------------------------------------------------
@@ -159,16 +162,12 @@ void TerminalUser::progressCreated(std::uint32_t direction, std::uint32_t) {
     sending_ = direction == ZhstToHost;
     bar_ = ProgressBar(barWanted());
     bar_.begin();
-    if (!sending_ && emulator::number(session_, setting::ExistingFileAction) == zhst::value::Append) {
-        std::error_code none;
-        const auto size =
-            std::filesystem::file_size(emulator::nativePath(emulator::text(session_, setting::PcFileName)), none);
-        appendedBehind_ = none ? 0 : size;
-    }
 }
 
 void TerminalUser::progressCommand(std::uint32_t command) {
     watch_.progressCommand(command);
+    // A receive of no records makes an empty file.
+    if (!sending_ && command == ZhstAllDataTransferred) emulator::releaseFiles();
     if (const char* words = phaseWords(static_cast<ZhstProgressCommand>(command))) bar_.phase(words);
 }
 

@@ -23,8 +23,6 @@ public:
     void onCancel(std::function<void()> cancel) { cancel_ = std::move(cancel); }
 
     const TransferWatch& watch() const { return watch_; }
-    // Size of the PC file before the transfer, when the transfer appends to it.
-    std::uint64_t appendedBehind() const { return appendedBehind_; }
 
     std::int32_t showMessage(const emulator::MessageBox& box) override;
     bool connectionDialog() override;
@@ -66,5 +64,4 @@ private:
     Display display_ = Display::None;
     std::string displayTitle_;
     bool sending_ = false;
-    std::uint64_t appendedBehind_ = 0;
 };

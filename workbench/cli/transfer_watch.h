@@ -37,9 +37,8 @@ public:
     // Records in the PC file, on the display or accepted by the host. jobRecords is the setting JobRecordsReceived: the
     // number of the record that a receive fetched last or was about to fetch.
     std::uint64_t records(std::uint64_t jobRecords) const;
-    // Bytes written to the PC file, but for what stands before a DIF file's first record.
-    std::uint64_t bytesWritten() const { return bytesWritten_; }
-    // Bytes of the records that went to the PC file, but for the last one, whose writing may have failed.
+    // Bytes of the records that went to the PC file, but for the last one, whose writing may have failed, and for what
+    // stands before a DIF file's first record.
     std::uint64_t bytesOfRecords() const { return bytesOfRecords_; }
     std::uint32_t messages() const { return errors_; }
 

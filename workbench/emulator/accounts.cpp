@@ -4,6 +4,7 @@
 #include "emulator/display.h"
 #include "emulator/emulator.h"
 #include "emulator/file_object.h"
+#include "emulator/held_files.h"
 #include "emulator/journal.h"
 #include "emulator/memory.h"
 #include "emulator/messages.h"
@@ -37,6 +38,7 @@ void reset() {
     resetDialogs();
     resetDisplays();
     resetFileObjects();
+    resetHeldFiles();
     resetMessages();
     resetPathServices();
     resetStore();

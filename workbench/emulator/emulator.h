@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -133,6 +134,23 @@ void runCleanup(ZhstSession session, std::uint32_t slot);
 // A path of the operating system's for a PC file name in the PC's ANSI code page (either separator, optional drive
 // letter, any case, relative to the directory that the path services were given).
 std::string nativePath(std::string_view pcName);
+
+// --- PC files that are written -----------------------------------------------------------------------------------
+
+// A receive opens its PC file, and writes a description beside it and the heading of a DIF file, before it knows of a
+// single record. While files are held, all that file objects write waits in memory: a file that exists stays as it is,
+// behind the file object's end too, and one that was made goes again unless it is released.
+void holdFiles();
+// The next write is the first that counts: files are released when it has succeeded.
+void releaseFilesWithNextWrite();
+// What waits is written, and files are written as usual from here on. Failures are told as those of a file object are.
+void releaseFiles();
+// What waits is forgotten, and files are written as usual from here on.
+void forgetHeldFiles();
+
+// What was written to the file of this name, or to the standard output ("-"), since files were held last: bytes,
+// without those that were in the file before. Nothing when it was left as it was.
+std::optional<std::uint64_t> bytesWritten(const std::string& pcName);
 
 // --- The named store ---------------------------------------------------------------------------------------------
 

@@ -6,6 +6,7 @@
 
 #include "Z7XFRPCS/runtime.h"
 #include "emulator/emulator.h"
+#include "emulator/held_files.h"
 #include "emulator/messages.h"
 #include "emulator/platform_side.h"
 #include "emulator/user_interface.h"
@@ -97,7 +98,7 @@ bool PcFile::write(const void* bytes, std::uint32_t length) {
 }
 
 void PcFile::close() {
-    if (const auto file = std::move(written_)) file->close();
+    if (written_) closeFile(std::move(written_));
     if (read_) std::fclose(std::exchange(read_, nullptr));
 }
 

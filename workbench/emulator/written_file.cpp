@@ -8,6 +8,7 @@
 
 #include "emulator/emulator.h"
 #include "emulator/faults.h"
+#include "emulator/held_files.h"
 #include "emulator/platform_side.h"
 
 namespace emulator {
@@ -53,12 +54,13 @@ bool WrittenFile::write(const void* bytes, std::uint32_t length) {
     if (length > piece_.size() - pending_ && !makeRoom(length)) return false;
     if (length > 0) std::memcpy(piece_.data() + pending_, bytes, length);
     pending_ += length;
+    noteWrite();
     return true;
 }
 
 bool WrittenFile::makeRoom(std::uint32_t length) {
-    if (!flush()) return false;
-    if (length > piece_.size()) piece_.resize(length);
+    if (!filesAreHeld() && !flush()) return false;
+    if (length > piece_.size() - pending_) piece_.resize(pending_ + std::max<std::size_t>(length, PieceSize));
     return true;
 }
 
@@ -105,6 +107,7 @@ void WrittenFile::close() {
     std::FILE* stream = std::exchange(stream_, nullptr);
     const bool closed = stream == stdout ? std::fflush(stream) == 0 : std::fclose(stream) == 0;
     if (!closed) fail(errno);
+    if (!failed_ || written_ > 0) accountFor(name_, written_);
     if (failed_) removeMade();
 }
 

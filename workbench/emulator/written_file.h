@@ -14,7 +14,7 @@ namespace emulator {
 // A PC file that is being written. Bytes are gathered into large pieces. The file stays what it was until the first
 // piece goes out, and also when that one cannot be written; it is then replaced in its place, so that its owner, its
 // mode and the links to it stay. Of a later piece that cannot be written nothing is kept: the file ends where a write
-// ended. Pipes and devices only take what is written.
+// ended. Pipes and devices only take what is written. While files are held (emulator.h) no piece goes out.
 class WrittenFile {
 public:
     enum class Existing { Replaced, AppendedTo };
