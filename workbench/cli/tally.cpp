@@ -26,7 +26,7 @@ public:
     }
     std::string lost() const {
         const std::optional<std::uint64_t> inFile = bytes();
-        if (!inFile) return "none of " + records() + " are in " + target() + ", which is what it was";
+        if (!inFile) return "none of " + records() + " are in " + target() + ", which was left as it was";
         return "only " + counted(*inFile, "byte") + " of " + records() + " are in " + target();
     }
 
