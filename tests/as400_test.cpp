@@ -23,7 +23,10 @@ protected:
         host = connect(Dialect::Text);
     }
     std::unique_ptr<Conversation> connect(Dialect dialect) const {
-        return std::make_unique<Conversation>(ConversationSetup{file, dialect});
+        ConversationSetup setup{file, dialect};
+        setup.recordsAppend = [this] { return recordsAppend; };
+        setup.sendIsWhole = [this] { return sendIsWhole; };
+        return std::make_unique<Conversation>(std::move(setup));
     }
     void plain(const std::string& sql) const { Database(file).execute(sql); }
 
@@ -68,6 +71,7 @@ protected:
     }
 
     std::string file = path("sample.db");
+    bool recordsAppend = false, sendIsWhole = true;
     std::unique_ptr<Conversation> host;
     std::array<std::uint8_t, 4096> buffer{};
     std::string last;
@@ -318,37 +322,55 @@ TEST_F(SampleHost, EveryMemberComesBackAsItWasSent) {
     }
 }
 
-TEST_F(SampleHost, WhatIsKeptAndWhatIsUndone) {
+TEST_F(SampleHost, SendIsKeptWholeOrNotAtAll) {
     const std::string good = HostRecord().zoned(1, 5).text("a", 30), bad = HostRecord().hex("F0F0F0F040").text("a", 30);
-    const auto put = [&](int number) {
-        EXPECT_EQ(send("REPLACE KEY,TEXT into QGPL/EMPTY "),
-                  "0400 IWS2023 Member EMPTY of file QGPL/EMPTY already exists; its records will be replaced.");
-        for (int i = 0; i < number; ++i) EXPECT_EQ(call(Function::PutData, good), "0000");
-    };
+    const std::string request = "REPLACE KEY,TEXT into QGPL/EMPTY ";
+    const std::string exists = "IWS2023 Member EMPTY of file QGPL/EMPTY already exists; its records will be replaced.";
     const auto kept = [&] { return records("SELECT KEY FROM QGPL/EMPTY").size(); };
-    const auto keptAfter = [&](Function end) { return call(end) == "0000" ? kept() : 99; };
-    put(2);
-    EXPECT_EQ(fields(), "KEY 3 5.0, TEXT 2 30, ");
-    EXPECT_EQ(keptAfter(Function::EndRequest), 2u);
-    put(0);  // declined by the user, or nothing to send
-    EXPECT_EQ(keptAfter(Function::EndRequest), 2u);
-    put(3);  // the PC found a bad record of its own
-    EXPECT_EQ(keptAfter(Function::EndData), 3u);
-    put(1);
-    EXPECT_EQ(call(Function::PutData, bad), "3100 HSF2001 Field KEY: decimal data error. Record 2.");
-    EXPECT_EQ(call(Function::PutData, good).substr(0, 4), "3100");
-    EXPECT_EQ(keptAfter(Function::EndRequest), 3u);
-    put(1);
-    EXPECT_EQ(call(Function::PutData, good + "x"), "2026 HSF2021 Record of 36 bytes, file QGPL/EMPTY takes 35.");
-    EXPECT_EQ(keptAfter(Function::EndRequest), 3u);
-    for (const Function broken : {Function::Reset, Function::SendRequest}) {
-        put(1);
-        call(broken);
-        EXPECT_EQ(kept(), 3u);
+    const struct {
+        bool append, whole;
+        std::size_t records;  // that are sent
+        Function end;
+        std::string answer;
+        std::size_t kept;
+    } cases[] = {
+        {false, true, 2, Function::EndRequest, "0000", 2},
+        {false, true, 0, Function::EndRequest, "0000", 2},   // nothing to send
+        {false, false, 0, Function::EndRequest, "0000", 2},  // declined
+        {false, false, 1, Function::EndRequest, "3101 HSF2022 Not all records have come; none of them is kept.", 2},
+        {false, true, 1, Function::EndData, "3101 HSF2022 Not all records have come; none of them is kept.", 2},
+        {false, true, 1, Function::Reset, "0000", 2},
+        {true, true, 1, Function::EndRequest, "0000", 3},
+        {true, false, 1, Function::EndRequest, "3101 HSF2022 Not all records have come; none of them is kept.", 3},
+        {false, true, 1, Function::SendRequest, "0000", 3},  // another request, of nothing
+        {false, true, 1, Function::EndRequest, "0000", 1},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(testing::Message() << row.records << " records, end " << static_cast<int>(row.end));
+        recordsAppend = row.append;
+        sendIsWhole = row.whole;
+        EXPECT_EQ(send(request), row.append ? "0000" : "0400 " + exists);
+        EXPECT_EQ(fields(), "KEY 3 5.0, TEXT 2 30, ");
+        for (std::size_t i = 0; i < row.records; ++i) EXPECT_EQ(call(Function::PutData, good), "0000");
+        EXPECT_EQ(call(row.end, row.end == Function::SendRequest ? "OPTIONS " : ""), row.answer);
+        EXPECT_EQ(kept(), row.kept);
     }
-    put(1);
-    host = connect(Dialect::Text);
-    EXPECT_EQ(kept(), 3u);
+    const std::pair<std::string, const char*> refusals[] = {
+        {bad, "3100 HSF2001 Field KEY: decimal data error. Record 2."},
+        {good + "x", "2026 HSF2021 Record of 36 bytes, file QGPL/EMPTY takes 35."}};
+    sendIsWhole = true;
+    for (const auto& [record, answer] : refusals) {
+        send(request);
+        EXPECT_EQ(call(Function::PutData, good), "0000");
+        EXPECT_EQ(call(Function::PutData, record), answer);
+        EXPECT_EQ(call(Function::PutData, good).substr(0, 4), "3100");
+        EXPECT_EQ(call(Function::EndRequest).substr(0, 4), "3101");
+        EXPECT_EQ(kept(), 1u);
+    }
+    send(request);
+    call(Function::PutData, good);
+    host = connect(Dialect::Text);  // a lost conversation
+    EXPECT_EQ(kept(), 1u);
 }
 
 TEST_F(SampleHost, FilesAreCreatedAsAsked) {
@@ -356,9 +378,9 @@ TEST_F(SampleHost, FilesAreCreatedAsAsked) {
         {"* into QGPL/QNEW(PGM1) CRTFILE(YES) FILETYPE(SOURCE) RCDLEN(72) PUBAUT(ALL)", "0000", "SRCDTA 2 60, "},
         {"* into QGPL/QNEW(PGM2) CRTFILE(NO)", "0000", "SRCDTA 2 60, "},
         {"* into QGPL/QNEW(PGM1) CRTFILE(NO)",
-         "0400 IWS2023 Member PGM1 of file QGPL/QNEW already exists; its records will be replaced.", "SRCDTA 2 60, "},
-        {"* into QGPL/QNEW(PGM1) CRTFILE(YES) FILETYPE(SOURCE) RCDLEN(92) PUBAUT(ALL)",
-         "0400 IWS2036 File QGPL/QNEW already exists.", "SRCDTA 2 60, "},
+         "3000 HSF1043 Member PGM1 of file QGPL/QNEW already exists and is not created.", ""},
+        {"* into QGPL/QNEW(PGM3) CRTFILE(YES) FILETYPE(SOURCE) RCDLEN(92) PUBAUT(ALL)",
+         "3000 HSF1042 File QGPL/QNEW already exists and is not created.", ""},
         {"NAME,BAL into TESTLIB/NEW1 CRTFILE(YES) FILETYPE(DATA) REFFILE(QGPL/CUST) PUBAUT(READ) FILETEXT('A (new) "
          "file's text')",
          "0000", "NAME 2 25, BAL 4 6.2, "},

@@ -55,8 +55,9 @@ Answer Conversation::dispatch(Function function, std::span<std::uint8_t> buffer,
         case Function::PutData:
             return putData(buffer.first(length));
         case Function::EndRequest:
+            return endRequest();
         case Function::EndData:
-            return end();
+            return endData();
         case Function::Reset:
             work_.emplace<std::monostate>();
             options_ = {};
@@ -100,9 +101,10 @@ void Conversation::readOptions(std::string_view request, std::span<const std::ui
 }
 
 Answer Conversation::replace(std::string_view request) {
-    const auto& upload = work_.emplace<Upload>(*database_, *catalogue_, request, options_, setup_.hostPage);
-    if (upload.notice().empty()) return {};
-    return refuse(ReturnCode::TargetExists, upload.notice());
+    const Existing existing = setup_.recordsAppend() ? Existing::AppendedTo : Existing::Replaced;
+    const auto& upload = work_.emplace<Upload>(*database_, *catalogue_, request, options_, existing, setup_.hostPage);
+    const std::string notice = upload.notice();
+    return notice.empty() ? Answer{} : refuse(ReturnCode::TargetExists, notice);
 }
 
 Answer Conversation::extract(std::string_view request) {
@@ -146,14 +148,21 @@ Answer Conversation::putData(std::span<const std::uint8_t> record) {
     return {};
 }
 
-Answer Conversation::end() {
+// The same at every end of a send that the PC has not found fault with itself, be it cancelled or complete.
+Answer Conversation::endRequest() { return endUpload(setup_.sendIsWhole()); }
+
+// Of a send: the PC has refused a record of its own, or goes away.
+Answer Conversation::endData() { return endUpload(false); }
+
+Answer Conversation::endUpload(bool whole) {
     struct Discard {
         Work& work;
         // NOLINTNEXTLINE(bugprone-exception-escape): the destructors it runs end their work without throwing.
         ~Discard() { work.emplace<std::monostate>(); }
     } discard{work_};
-    if (auto* upload = std::get_if<Upload>(&work_)) upload->finish();
-    return {};
+    auto* upload = std::get_if<Upload>(&work_);
+    if (!upload || (whole && upload->finish()) || upload->recordCount() == 0) return {};
+    return refuse(ReturnCode::NothingKept, "HSF2022 Not all records have come; none of them is kept.");
 }
 
 }  // namespace as400

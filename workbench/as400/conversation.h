@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -39,6 +40,10 @@ struct ConversationSetup {
     Dialect dialect = Dialect::Text;
     std::uint32_t pcPage = 0;     // code page of request texts; 0: UTF-8, or 1252 where it is none
     std::uint32_t hostPage = 37;  // of lists and plain tables
+
+    // What the PC knows of a send, and the protocol has no words for.
+    std::function<bool()> recordsAppend = [] { return false; };  // asked with its request: behind those of the member
+    std::function<bool()> sendIsWhole = [] { return true; };     // asked with the end of its request: all records came
 };
 
 struct Answer {
@@ -66,7 +71,9 @@ private:
     Answer getField();
     Answer getData(std::span<std::uint8_t> buffer);
     Answer putData(std::span<const std::uint8_t> record);
-    Answer end();
+    Answer endRequest();
+    Answer endData();
+    Answer endUpload(bool whole);
     const std::vector<RecordField>& openFields() const;
     void openDatabase();
     Answer refuse(ReturnCode code, std::string_view message);

@@ -9,7 +9,7 @@ namespace as400 {
 
 enum class ReturnCode : std::uint16_t {
     Success = 0,
-    TargetExists = 0x0400,  // with IWS2036 or IWS2023; the request stays open
+    TargetExists = 0x0400,  // with IWS2023: the member exists; the request stays open
     NoMoreData = 0x1FFF,
     UnknownFunction = 0x2000,
     LengthInvalid = 0x2001,  // of a request or record
@@ -19,6 +19,7 @@ enum class ReturnCode : std::uint16_t {
     RecordMisfit = 0x2026,    // a record of another length than the file's
     RequestRefused = 0x3000,  // the message says what is wrong with the request
     DataRefused = 0x3100,     // the message says what is wrong with a record
+    NothingKept = 0x3101,     // the end of a request whose records did not all come
 };
 
 // Thrown anywhere below a conversation, which turns it into an answer.

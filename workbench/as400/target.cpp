@@ -81,9 +81,13 @@ HostFile createFile(Catalogue& catalogue, const ReplaceRequest& request, std::ui
     return file;
 }
 
+// A member that is to be new.
 HostMember createMember(Catalogue& catalogue, const ReplaceRequest& request, const HostFile& file) {
     if (file.isPlain()) refuseRequest("HSF1037 Table " + file.name + " has no members of its own.");
     const std::string name = requireName(request.target.member.empty() ? file.name : request.target.member);
+    if (catalogue.member(file, name)) {
+        refuseRequest("HSF1043 Member " + name + " of file " + file.label() + " already exists and is not created.");
+    }
     return catalogue.createMember(file, name, request.memberText);
 }
 
@@ -91,21 +95,16 @@ HostMember createMember(Catalogue& catalogue, const ReplaceRequest& request, con
 
 Target openTarget(Catalogue& catalogue, const ReplaceRequest& request, std::uint32_t newFilePage) {
     const FileReference& reference = request.target;
-    const auto existing = catalogue.file(reference.library, reference.file);
-    if (!existing && request.createFile) {
+    if (request.createFile) {
+        if (const auto existing = catalogue.file(reference.library, reference.file)) {
+            refuseRequest("HSF1042 File " + existing->label() + " already exists and is not created.");
+        }
         const HostFile file = createFile(catalogue, request, newFilePage);
-        return {file, createMember(catalogue, request, file), ""};
+        return {file, createMember(catalogue, request, file), Target::New};
     }
-    const HostFile file = existing ? *existing : requireFile(catalogue, reference);
-    const auto member = catalogue.member(file, reference.member);
-    const std::string fileNotice = "IWS2036 File " + file.label() + " already exists.";
-    if (!member && request.createMember) {
-        return {file, createMember(catalogue, request, file), request.createFile ? fileNotice : ""};
-    }
-    const HostMember found = member ? *member : requireMember(catalogue, file, reference.member);
-    const std::string memberNotice =
-        "IWS2023 Member " + found.name + " of file " + file.label() + " already exists; its records will be replaced.";
-    return {file, found, request.createFile ? fileNotice : memberNotice};
+    const HostFile file = requireFile(catalogue, reference);
+    if (request.createMember) return {file, createMember(catalogue, request, file), Target::New};
+    return {file, requireMember(catalogue, file, reference.member), Target::Existing};
 }
 
 }  // namespace as400

@@ -10,14 +10,15 @@
 namespace as400 {
 
 struct Target {
+    enum Age { New, Existing };
     HostFile file;
     HostMember member;
-    std::string notice;  // IWS2036 (the file exists) or IWS2023 (the member exists) with its text; empty for a new one
+    Age age = New;  // of the member
 };
 
 // What a request says of the kind of target:
-//   CRTFILE(YES)               file and member are created where they are missing
-//   CRTFILE(NO) CRTMBR(YES)    the member is created where it is missing
+//   CRTFILE(YES)               file and member are created; a file that exists is refused
+//   CRTFILE(NO) CRTMBR(YES)    the member is created; one that exists is refused
 //   neither                    both must exist
 // A new file has the fields of its reference file; without one, the named fields of a file of the same name in any
 // library; without that, character fields of 50 bytes. A new source file has the three fields of every source file.

@@ -14,12 +14,18 @@ constexpr double HighestSequence = 9999.99;
 }  // namespace
 
 Upload::Upload(Database& database, Catalogue& catalogue, std::string_view request, const RequestOptions& options,
-               std::uint32_t newFilePage)
-    : database_(database), options_(options), transaction_(database) {
+               Existing existing, std::uint32_t newFilePage)
+    : database_(database), options_(options), existing_(existing), transaction_(database) {
     const ReplaceRequest replace = parseReplace(request);
     target_ = openTarget(catalogue, replace, newFilePage);
     chooseFields(replace.fields);
     insert_.emplace(database, insertStatement());
+}
+
+std::string Upload::notice() const {
+    if (target_.age == Target::New || existing_ == Existing::AppendedTo) return {};
+    return "IWS2023 Member " + target_.member.name + " of file " + target_.file.label() +
+           " already exists; its records will be replaced.";
 }
 
 void Upload::chooseFields(const std::vector<std::string>& names) {
@@ -63,7 +69,7 @@ void Upload::put(std::span<const std::uint8_t> record) {
     }
     ++recordCount_;
     try {
-        if (recordCount_ == 1) emptyMember();
+        if (recordCount_ == 1) prepareMember();
         insert(record);
     } catch (const std::exception& error) {
         refused_ = true;
@@ -71,7 +77,15 @@ void Upload::put(std::span<const std::uint8_t> record) {
     }
 }
 
-void Upload::emptyMember() { database_.execute("DELETE FROM " + quotedName(target_.member.table)); }
+void Upload::prepareMember() {
+    const std::string table = quotedName(target_.member.table);
+    if (existing_ == Existing::Replaced) {
+        database_.execute("DELETE FROM " + table);
+    } else if (target_.file.isSource()) {
+        Statement last(database_, "SELECT MAX(SRCSEQ) FROM " + table);
+        if (last.step()) lastSequence_ = sqlite3_column_double(last.handle(), 0);
+    }
+}
 
 void Upload::insert(std::span<const std::uint8_t> record) {
     for (std::size_t i = 0; i < fields_.size(); ++i) {
@@ -81,15 +95,17 @@ void Upload::insert(std::span<const std::uint8_t> record) {
     }
     const int sequence = static_cast<int>(fields_.size() + 1);
     if (sqlite3_bind_parameter_count(insert_->handle()) >= sequence) {
-        insert_->bind(sequence, std::min(double(recordCount_), HighestSequence));
+        insert_->bind(sequence, std::min(lastSequence_ + recordCount_, HighestSequence));
     }
     insert_->step();
     insert_->reset();
 }
 
-void Upload::finish() {
+bool Upload::finish() {
     insert_.reset();  // a statement in use would keep the transaction from ending
-    if (!refused_) transaction_.commit();
+    if (refused_) return false;
+    transaction_.commit();
+    return true;
 }
 
 }  // namespace as400

@@ -57,12 +57,12 @@ Answer Conversations::answer(const Call& call) {
     }
     const auto found = open_.find(handle);
     if (found == open_.end()) return refuse(ReturnCode::UnknownConversation, "HSF3010 Conversation not known.");
-    Answer result = found->second->perform(function, buffer, call.length);
-    if (closes(call.function) && result.data.empty()) {
-        open_.erase(found);
-        handle = 0;
-    }
-    return result;
+    const Answer result = found->second->perform(function, buffer, call.length);
+    if (!closes(call.function)) return result;
+    // What the answer points to goes too.
+    open_.erase(found);
+    handle = 0;
+    return {result.code, {}};
 }
 
 std::uint32_t Clients::create(std::uint32_t session) {

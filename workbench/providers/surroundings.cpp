@@ -42,6 +42,8 @@ as400::ConversationSetup surroundings(as400::Dialect dialect) {
     setup.dialect = dialect;
     setup.pcPage = environmentNumber("Z7X_PC_CODE_PAGE", 0);
     setup.hostPage = environmentNumber("Z7X_HOST_CODE_PAGE", 37);
+    setup.recordsAppend = [] { return environment("Z7X_SEND_APPENDS") == "1"; };
+    setup.sendIsWhole = [] { return environment("Z7X_SEND_IS_WHOLE") != "0"; };
     return setup;
 }
 
