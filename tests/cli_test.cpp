@@ -131,18 +131,6 @@ TEST_F(Cli, FailuresCarryTheirMessageAndStatusOne) {
     }
 }
 
-TEST_F(Cli, RefusedRecordLeavesThoseInFrontOfIt) {
-    fs::copy_file(fs::path(binFolder()) / "sample.db", path("my.db"));
-    run("receive QGPL/CUST c.csv --describe '*.fdf'");
-    std::string bytes = read("c.csv");
-    bytes.insert(bytes.find("100003") + 1, "x");
-    writeFile(path("c.csv"), bytes);
-    const Outcome sent =
-        expect(1, "send c.csv 'QGPL/CUST(NEW)' --description c.fdf --create member --host-data my.db", "Record 3: ");
-    EXPECT_EQ(lastLine(sent.errors), "z7xfer: failed after 2 records, c.csv to QGPL/CUST(NEW)");
-    expect(0, "receive 'QGPL/CUST(NEW)' new.csv --host-data my.db", "complete: 2 records");
-}
-
 TEST_F(Cli, SettingsFileIsBehindTheCommandLine) {
     writeFile(path("wide.set"), "# types\n\nReceiveFileType = 5\r\npcfilename=from-file.txt\n");
     writeFile(path("bad.set"), "120=5\nReceiveFileType=wide\n");

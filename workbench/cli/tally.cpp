@@ -18,6 +18,7 @@ public:
 
     std::string records() const { return counted(records_, "record"); }
     bool any() const { return records_ > 0; }
+    bool areKept() const { return !user_.watch().isEndRefused(); }
 
     // The emulator writes files in pieces, and a disk may fill up behind records that it had taken.
     bool arePartlyLost() const {
@@ -80,7 +81,8 @@ std::string silentReason(const TransferWatch& watch, ZhstSession session) {
 }
 
 std::string stopped(const std::string& how, const Amounts& amounts) {
-    return how + (amounts.any() ? " after " + amounts.all() : " before any record, " + amounts.target());
+    if (!amounts.any()) return how + " before any record, " + amounts.target();
+    return how + " after " + amounts.all() + (amounts.areKept() ? "" : "; the host kept none of them");
 }
 
 }  // namespace
@@ -104,7 +106,7 @@ Tally transferTally(const TerminalUser& user, const PcText& pcText, ZhstSession 
         case Ending::Cancelled:
             return {stopped("cancelled", amounts), ExitFailed};
         case Ending::NotKept:
-            return {"failed: the host did not keep what was sent, " + amounts.all(), ExitFailed};
+            return {stopped("failed", amounts), ExitFailed};
         case Ending::FailedAfter:
             if (amounts.arePartlyLost()) break;
             return {"failed: " + amounts.all() + "; see the message above", ExitFailed};

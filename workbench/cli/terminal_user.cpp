@@ -35,6 +35,10 @@ const char* phaseWords(ZhstProgressCommand command) {
     }
 }
 
+// The request of a send that was cancelled ends like that of one that is complete, so the sample host is told beside
+// it.
+void tellHostWhetherWhole(bool whole) { process::setEnvironment("Z7X_SEND_IS_WHOLE", whole ? "1" : "0"); }
+
 // The lines of a text, every one behind the first indented.
 std::string indented(std::string_view text) {
     text = text.substr(0, text.find_last_not_of("\r\n ") + 1);
@@ -160,15 +164,23 @@ bool TerminalUser::barWanted() const {
 
 void TerminalUser::progressCreated(std::uint32_t direction, std::uint32_t) {
     sending_ = direction == ZhstToHost;
+    if (sending_) tellHostWhetherWhole(false);
     bar_ = ProgressBar(barWanted());
     bar_.begin();
 }
 
 void TerminalUser::progressCommand(std::uint32_t command) {
     watch_.progressCommand(command);
-    // A receive of no records makes an empty file.
-    if (!sending_ && command == ZhstAllDataTransferred) emulator::releaseFiles();
+    if (command == ZhstAllDataTransferred) allDataTransferred();
     if (const char* words = phaseWords(static_cast<ZhstProgressCommand>(command))) bar_.phase(words);
+}
+
+// Before the library ends the request, in whatever way the transfer ends.
+void TerminalUser::allDataTransferred() {
+    if (!sending_)
+        emulator::releaseFiles();  // of no records comes an empty file
+    else if (watch_.messages() == 0)
+        tellHostWhetherWhole(true);
 }
 
 void TerminalUser::progressTotal(std::uint32_t total, std::uint32_t unit) {

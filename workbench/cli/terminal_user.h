@@ -50,6 +50,7 @@ private:
     void storeWritten(std::string_view code, std::string_view value);
     void printMessage(const emulator::MessageBox& box);
     std::int32_t answer(const emulator::MessageBox& box);
+    void allDataTransferred();
     void obeyInterrupt();
     void turnPage();
 

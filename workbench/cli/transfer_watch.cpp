@@ -39,7 +39,8 @@ void TransferWatch::storeWritten(std::string_view code, std::string_view value) 
         const bool accepted = result == TF_SUCCESS || result == TF_COMPLETED;
         if (function == TF_PUT_DATA && accepted) ++recordsSent_;
         // The library does not judge the end of a request; a host that rolls a send back says so here.
-        if (function == TF_END_REQUEST && recordsSent_ > 0) endRefused_ = !accepted && result != TF_NO_MORE_DATA;
+        const bool ends = function == TF_END_REQUEST || function == TF_END_DATA;
+        if (ends && recordsSent_ > 0 && !accepted && result != TF_NO_MORE_DATA) endRefused_ = true;
         // Before the data phase the end of data is that of the record count or of the field list.
         if (function == TF_GET_DATA && result == TF_NO_MORE_DATA && dataBegun_) dataEnded_ = true;
     }
@@ -79,11 +80,11 @@ void TransferWatch::cancelled() {
 }
 
 Ending TransferWatch::ending() const {
+    if (dataEnded_ && endRefused_) return Ending::NotKept;
     if (errors_ > 0 && !cancelledFirst_) {
         if (dataEnded_) return Ending::FailedAfter;
         return noRecords_ && errors_ == 1 ? Ending::NoRecords : Ending::Failed;
     }
-    if (dataEnded_ && endRefused_) return Ending::NotKept;
     if (dataEnded_) return errors_ > 0 ? Ending::FailedAfter : Ending::Complete;
     if (cancelled_) return Ending::Cancelled;
     if (displayClosed_) return Ending::Closed;

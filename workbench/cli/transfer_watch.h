@@ -30,6 +30,8 @@ public:
     void cancelled();
 
     bool isCancelled() const { return cancelled_; }
+    // The host said at the end that it keeps nothing of what was sent.
+    bool isEndRefused() const { return endRefused_; }
     // Records that went by so far, for a progress.
     std::uint64_t recordsSeen() const { return recordsSent_ + recordsWritten_; }
 

@@ -87,7 +87,12 @@ PcFile::Choice PcFile::choose() const {
 
 std::int32_t PcFile::read(void* buffer, std::uint32_t maximum) {
     if (!read_) return fail("read", EBADF), -1;
-    const std::size_t count = std::fread(buffer, 1, maximum, read_);
+    std::size_t count = std::fread(buffer, 1, maximum, read_);
+    // A signal in the wait for a pipe is no end of its data.
+    while (count < maximum && std::ferror(read_) && errno == EINTR) {
+        std::clearerr(read_);
+        count += std::fread(static_cast<char*>(buffer) + count, 1, maximum - count, read_);
+    }
     if (count == 0 && std::ferror(read_)) return fail("read", errno), -1;
     place_ += count;
     return static_cast<std::int32_t>(count);
