@@ -28,7 +28,11 @@ TEST_F(Cli, WrongUsageIsStatusTwoAndLeavesStandardOutputAlone) {
         {"receive A/B --type excel", "excel"},
         {"receive A/B --set NoSuchSetting=1", "NoSuchSetting"},
         {"receive A/B --set 9999=1", "9999"},
-        {"receive A/B --set ReceiveFileType=csv", "ReceiveFileType"},
+        {"receive A/B --set ReceiveFileType=wide", "csv, random"},
+        {"receive A/B --set TransportType=10", "emulator, appc13"},
+        {"receive A/B --set RecordProgress=2", "no, yes"},
+        {"send a.csv A/B --file-text ffffffffffffffffffffffffffffffffffffffffffffffffffff", "a transfer takes 50"},
+        {"settings Datum", "125 DateFormat"},
         {"receive A/B --set 120", "ID=VALUE"},
         {"receive A/B --settings nowhere.txt", "nowhere.txt"},
         {"receive A/B --ansi-code-page 1", "code page 1"},
@@ -122,7 +126,6 @@ TEST_F(Cli, FailuresCarryTheirMessageAndStatusOne) {
         {"receive WORLD/COUNTRY x.dif --type dif --set 176=2", "z7xfer: message 4682: "},
         {"receive WORLD/NOSUCH x.csv", "z7xfer: message "},
         {"receive WORLD/COUNTRY no/folder/x.csv", "z7xfer: message 0: "},
-        {"receive WORLD/COUNTRY x.csv --set TransportType=10", "no reason was given"},
         {"send nowhere.csv QGPL/CUST", "z7xfer: message 0: "},
         {"receive WORLD/COUNTRY x.csv --set 40= --answer 0", "HostSystemName"}};
     for (const auto& [arguments, text] : cases) {
@@ -132,7 +135,7 @@ TEST_F(Cli, FailuresCarryTheirMessageAndStatusOne) {
 }
 
 TEST_F(Cli, SettingsFileIsBehindTheCommandLine) {
-    writeFile(path("wide.set"), "# types\n\nReceiveFileType = 5\r\npcfilename=from-file.txt\n");
+    writeFile(path("wide.set"), "# types\n\nReceiveFileType = Tab\r\npcfilename=from-file.txt\n");
     writeFile(path("bad.set"), "120=5\nReceiveFileType=wide\n");
     ASSERT_EQ(run("receive WORLD/COUNTRY tab.txt --type tab").status, 0);
     ASSERT_EQ(run("receive WORLD/COUNTRY text.txt --type text").status, 0);
@@ -148,7 +151,26 @@ TEST_F(Cli, SettingsFileIsBehindTheCommandLine) {
         EXPECT_EQ(run(std::string("receive WORLD/COUNTRY --settings wide.set") + row.options).status, 0);
         EXPECT_TRUE(read(row.file) == row.expected) << row.options;
     }
-    expect(1, "receive WORLD/COUNTRY x.csv --settings bad.set", "bad.set:2: ReceiveFileType takes a number");
+    expect(1, "receive WORLD/COUNTRY x.csv --settings bad.set",
+           "bad.set:2: ReceiveFileType: wide is not one of text, basic");
+}
+
+TEST_F(Cli, SettingsAreListedWithTheirWords) {
+    const Outcome all = run("settings");
+    EXPECT_EQ(all.status, 0);
+    EXPECT_EQ(lines(all.output), 2u * 55u) << "two lines a setting";
+    const std::pair<const char*, const char*> cases[] = {{"dateformat", "  4 iso           yyyy-mm-dd\n"},
+                                                         {"125", "default  iso\n"},
+                                                         {"119", "  6 dif "},
+                                                         {"Ignore", "no, yes"},
+                                                         {"HostSystemName", "default  SAMPLE\n"},
+                                                         {"filetext", "at most 50 characters"},
+                                                         {"LastReturnCode", "by the library"},
+                                                         {"date", " 127 DateSeparator  "}};
+    for (const auto& [name, text] : cases) {
+        const std::string output = run(std::string("settings ") + name).output;
+        EXPECT_NE(output.find(text), std::string::npos) << name << "\n" << output;
+    }
 }
 
 TEST_F(Cli, BrowseListsOneEntryALine) {

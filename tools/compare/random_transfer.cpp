@@ -336,8 +336,8 @@ void RandomTransfer::sayResults() {
     transcript_.say("left", emulator::allocations().liveBlocks, open.files, open.progressDialogs, open.textDisplays,
                     open.modules, open.watches, open.lockedLists, scripted::liveClients());
     for (const auto& row : emulator::settingRows)
-        row.kind == emulator::SettingKind::Int ? transcript_.say(row.name, number(row.number))
-                                               : transcript_.say(row.name, text(row.number));
+        row.kind == emulator::SettingKind::Text ? transcript_.say(row.name, text(row.number))
+                                                : transcript_.say(row.name, number(row.number));
     for (const files::path& path : allFiles()) transcript_.say("file", path.string(), contentsOf(path));
 }
 

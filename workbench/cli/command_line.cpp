@@ -1,11 +1,10 @@
 #include "command_line.h"
 
 #include <CLI/CLI.hpp>
-#include <algorithm>
 #include <functional>
-#include <map>
-#include <utility>
+#include <stdexcept>
 
+#include "emulator/setting_rows.h"
 #include "suggestions.h"
 
 namespace {
@@ -13,22 +12,8 @@ namespace {
 namespace setting = zhst::setting;
 namespace value = zhst::value;
 
-using Choices = std::vector<std::pair<std::string, std::int32_t>>;
-
-const Choices fileTypes = {
-#define PC_FILE_TYPE(number, name, shortName, command, form, separator, quotes, hex) {shortName, number},
-    ZHST_PC_FILE_TYPES(PC_FILE_TYPE)
-#undef PC_FILE_TYPE
-};
-const Choices outputs = {
-    {"file", value::ToPcFile}, {"screen", value::ToDisplay}, {"spreadsheet", value::ToSpreadsheet}};
-const Choices createModes = {
-    {"file", value::CreateFile}, {"member", value::CreateMember}, {"replace", value::ReplaceMember}};
-const Choices authorities = {{"all", 0}, {"none", 1}, {"read", 2}, {"readwrite", 3}};
-
-// What a validator of an option says of a text that `parse` throws for; nothing of others.
-template <class Parse>
-std::string reasonAgainst(Parse parse) {
+// What a check of the parser answers: nothing when `parse` takes the text, else the reason that it throws.
+std::string reasonAgainst(const std::function<void()>& parse) {
     try {
         parse();
         return {};
@@ -37,12 +22,12 @@ std::string reasonAgainst(Parse parse) {
     }
 }
 
-// A validator of a few words.
-CLI::Validator oneOf(const std::vector<std::string>& names) {
-    const auto check = [names](const std::string& word) {
-        return std::find(names.begin(), names.end(), word) != names.end() ? "" : notOneOf(word, names);
-    };
-    return {check, ""};
+// "{file,member,replace}"
+std::string words(std::uint32_t setting) {
+    std::string list;
+    for (const emulator::SettingValueRow& row : emulator::valuesOf(settingRow(setting)))
+        list += (list.empty() ? "{" : ",") + std::string(row.word);
+    return list + "}";
 }
 
 // What is wrong with the arguments, and what may have been meant by those that are none.
@@ -81,14 +66,12 @@ public:
             ->check(CLI::NonNegativeNumber)
             ->type_name("N");
     }
-    void choice(const std::string& name, std::uint32_t id, const Choices& choices, const std::string& help) {
-        std::vector<std::string> names;
-        for (const auto& [word, value] : choices) names.push_back(word);
-        const std::map<std::string, std::int32_t> values(choices.begin(), choices.end());
+    // By the words of the setting's table.
+    void choice(const std::string& name, std::uint32_t id, const std::string& help) {
         app_->add_option_function<std::string>(
-                name, [this, id, values](const std::string& word) { assign(id, values.at(word)); }, help)
-            ->check(oneOf(names))
-            ->type_name(CLI::detail::generate_set(names));
+                name, [this, id](const std::string& word) { assignments_->push_back(parseValue(id, word)); }, help)
+            ->check([id](const std::string& word) { return reasonAgainst([&] { parseValue(id, word); }); })
+            ->type_name(words(id));
     }
     void flag(const std::string& name, std::uint32_t id, const std::string& help) {
         app_->add_flag_callback(
@@ -127,6 +110,7 @@ private:
     void addSend();
     void addDemo();
     void addBrowse();
+    void addSettings();
     void addCommon(CLI::App* app);
     void addPc(CLI::App* app);
     // The options keep their place: what they captured is this object's.
@@ -148,6 +132,7 @@ Parser::Parser() {
     addSend();
     addDemo();
     addBrowse();
+    addSettings();
     addCommon(&app_);
 }
 
@@ -163,8 +148,8 @@ void Parser::addReceive() {
     options.text("HOSTFILE", setting::HostFileName, "LIB/FILE(MBR); several in one argument: \"LIB/A LIB/B\"")
         ->required();
     options.text("PCFILE", setting::PcFileName, "PC file to write; - or none is standard output");
-    options.choice("--type", setting::ReceiveFileType, fileTypes, "PC file type, csv when not given");
-    options.choice("--output", setting::ReceiveOutput, outputs, "where the records go, file when not given");
+    options.choice("--type", setting::ReceiveFileType, "PC file type, csv when not given");
+    options.choice("--output", setting::ReceiveOutput, "where the records go, file when not given");
     app->add_option("--columns", line_.clauses.select, "the columns wanted, all when not given");
     app->add_option("--where", line_.clauses.where, "condition that the records meet");
     app->add_option("--join", line_.clauses.join, "condition that relates several files, as t1.A = t2.B");
@@ -182,18 +167,18 @@ void Parser::addSend() {
     SettingOptions& options = settingOptions(app);
     options.text("PCFILE", setting::PcFileName, "PC file to read")->required();
     options.text("HOSTFILE", setting::HostFileName, "LIB/FILE(MBR)")->required();
-    options.choice("--type", setting::SendFileType, fileTypes,
+    options.choice("--type", setting::SendFileType,
                    "PC file type, csv when not given; that of the description has the last word");
     options.description("--description", setting::UseDescriptionFile, setting::SendDescriptionFile,
                         "description of the PC file, beside it; a data file needs one");
     options.flag("--source", setting::HostFileType, "the host file is a source file");
     options.number("--record-length", setting::RecordLength, "record length of a new source file, 92 when not given");
-    options.choice("--create", setting::CreateMode, createModes,
+    options.choice("--create", setting::CreateMode,
                    "create the file and its member, or a member, or replace an existing member's data (when not "
                    "given), which --answer replace confirms");
     options.text("--reference", setting::ReferenceFile, "file that a new file takes its fields from")
         ->type_name("LIB/FILE");
-    options.choice("--authority", setting::PublicAuthority, authorities, "public authority of a new file");
+    options.choice("--authority", setting::PublicAuthority, "public authority of a new file");
     options.text("--file-text", setting::FileText, "text of a new file");
     options.text("--member-text", setting::MemberText, "text of a new member");
     options.number("--start-record", setting::StartRecord, "first record of the PC file that is sent, from 1");
@@ -220,6 +205,13 @@ void Parser::addBrowse() {
     addCommon(app);
 }
 
+void Parser::addSettings() {
+    CLI::App* app = command("settings", Command::Settings, "List the settings of the emulator and their values");
+    app->add_option("NAME", line_.filter, "a setting's name or number, or part of a name; all when not given")
+        ->check([](const std::string& name) { return reasonAgainst([&] { settingsLike(name); }); })
+        ->type_name("");
+}
+
 void Parser::addCommon(CLI::App* app) {
     const std::string group = "Common options";
     app->add_option_function<std::vector<std::string>>(
@@ -227,7 +219,7 @@ void Parser::addCommon(CLI::App* app) {
            [this](const std::vector<std::string>& texts) {
                for (const std::string& text : texts) line_.sets.push_back(parseAssignment(text));
            },
-           "a setting of the emulator, applied last; repeatable")
+           "a setting of the emulator, applied last; repeatable; z7xfer settings lists them")
         ->check([](const std::string& text) { return reasonAgainst([&] { parseAssignment(text); }); })
         ->type_name("ID|NAME=VALUE")
         ->type_size(1)

@@ -8,7 +8,7 @@
 #include "questions.h"
 #include "settings.h"
 
-enum class Command { Receive, Send, Demo, Browse };
+enum class Command { Receive, Send, Demo, Browse, Settings };
 
 // What the user asked for.
 struct CommandLine {
@@ -17,7 +17,7 @@ struct CommandLine {
     std::vector<Assignment> sets;     // --set, which has the last word
     emulator::Clauses clauses;
     emulator::PcSetup pc = emulator::usualPc();
-    std::string filter;  // of browse
+    std::string filter;  // of browse; of settings, a name or a part of one
     bool fields = false;
     std::int32_t fileCount = 1;
     std::string settingsFile, journalFile;  // empty: none

@@ -7,6 +7,7 @@
 #include "command_line.h"
 #include "console.h"
 #include "process.h"
+#include "settings_page.h"
 #include "tally.h"
 #include "terminal_user.h"
 #include "transfer_library.h"
@@ -148,6 +149,10 @@ int main(int argc, char** argv) {
     const std::optional<CommandLine> line = parseCommandLine(argc, argv, &exitStatus);
     if (!line) return exitStatus;
     try {
+        if (line->command == Command::Settings) {
+            printSettings(std::cout, line->filter);
+            return ExitComplete;
+        }
         return transfer(*line);
     } catch (const std::invalid_argument& error) {
         std::cerr << "z7xfer: " << error.what() << std::endl;

@@ -7,13 +7,9 @@
 #include <optional>
 #include <stdexcept>
 
-#include "emulator/setting_rows.h"
 #include "suggestions.h"
 
 namespace {
-
-namespace setting = zhst::setting;
-namespace value = zhst::value;
 
 std::string_view trimmed(std::string_view text) {
     constexpr std::string_view blanks = " \t\r";
@@ -22,9 +18,10 @@ std::string_view trimmed(std::string_view text) {
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-bool sameName(std::string_view left, std::string_view right) {
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); });
+std::string lowered(std::string_view text) {
+    std::string result(text);
+    std::ranges::transform(result, result.begin(), [](unsigned char c) { return std::tolower(c); });
+    return result;
 }
 
 // Decimal or, behind 0x, hexadecimal; the high bit of a hexadecimal number is the sign.
@@ -40,29 +37,78 @@ std::optional<std::int32_t> parseNumber(std::string_view text) {
     return hexadecimal ? static_cast<std::int32_t>(bits) : value;
 }
 
-const emulator::SettingRow& findSetting(std::string_view idOrName) {
-    const std::optional<std::int32_t> id = parseNumber(idOrName);
-    for (const emulator::SettingRow& row : emulator::settingRows) {
-        if (id ? row.number == static_cast<std::uint32_t>(*id) : sameName(row.name, idOrName)) return row;
-    }
+const emulator::SettingRow* exactSetting(std::string_view numberOrName) {
+    const std::optional<std::int32_t> number = parseNumber(numberOrName);
+    const auto row = std::ranges::find_if(emulator::settingRows, [&](const emulator::SettingRow& each) {
+        return number ? each.number == static_cast<std::uint32_t>(*number)
+                      : lowered(each.name) == lowered(numberOrName);
+    });
+    return row == std::end(emulator::settingRows) ? nullptr : row;
+}
+
+[[noreturn]] void refuseSetting(std::string_view numberOrName) {
     std::vector<std::string> names;
-    for (const emulator::SettingRow& row : emulator::settingRows) names.emplace_back(row.name);
-    throw std::invalid_argument("there is no setting " + std::string(idOrName) + didYouMean(idOrName, names));
+    std::string list;
+    for (const emulator::SettingRow& row : emulator::settingRows) {
+        names.emplace_back(row.name);
+        list += (list.empty() ? "" : ", ") + std::to_string(row.number) + ' ' + row.name;
+    }
+    throw std::invalid_argument("there is no setting " + std::string(numberOrName) + didYouMean(numberOrName, names) +
+                                "\nThere are " + list + '.');
+}
+
+[[noreturn]] void refuseValue(const emulator::SettingRow& setting, std::string_view value) {
+    std::vector<std::string> words;
+    for (const emulator::SettingValueRow& row : emulator::valuesOf(setting)) words.emplace_back(row.word);
+    if (setting.kind == emulator::SettingKind::Number) words.emplace_back("a number");
+    throw std::invalid_argument(std::string(setting.name) + ": " + notOneOf(value, words));
+}
+
+std::optional<std::int32_t> valueOf(const emulator::SettingRow& setting, std::string_view text) {
+    for (const emulator::SettingValueRow& row : emulator::valuesOf(setting))
+        if (row.word == lowered(text)) return row.value;
+    const std::optional<std::int32_t> number = parseNumber(text);
+    const bool anyGoes = setting.kind == emulator::SettingKind::Number;
+    return number && (anyGoes || emulator::valueRow(setting, *number)) ? number : std::nullopt;
+}
+
+void checkLength(const emulator::SettingRow& setting, std::string_view text) {
+    if (setting.longest == 0 || text.size() <= setting.longest) return;
+    throw std::invalid_argument(std::string(setting.name) + " has " + std::to_string(text.size()) +
+                                " characters; a transfer takes " + std::to_string(setting.longest));
 }
 
 }  // namespace
+
+const emulator::SettingRow& settingRow(std::uint32_t number) { return findSetting(std::to_string(number)); }
+
+const emulator::SettingRow& findSetting(std::string_view numberOrName) {
+    if (const emulator::SettingRow* row = exactSetting(numberOrName)) return *row;
+    refuseSetting(numberOrName);
+}
+
+std::vector<const emulator::SettingRow*> settingsLike(std::string_view part) {
+    if (const emulator::SettingRow* row = exactSetting(part)) return {row};
+    std::vector<const emulator::SettingRow*> rows;
+    for (const emulator::SettingRow& row : emulator::settingRows)
+        if (lowered(row.name).find(lowered(part)) != std::string::npos) rows.push_back(&row);
+    if (rows.empty()) refuseSetting(part);
+    return rows;
+}
+
+Assignment parseValue(std::uint32_t setting, std::string_view value) {
+    const emulator::SettingRow& row = settingRow(setting);
+    if (row.kind == emulator::SettingKind::Text) return {row.number, std::string(value)};
+    if (const std::optional<std::int32_t> number = valueOf(row, trimmed(value))) return {row.number, *number};
+    refuseValue(row, value);
+}
 
 Assignment parseAssignment(std::string_view text) {
     const std::size_t equals = text.find('=');
     if (equals == std::string_view::npos) {
         throw std::invalid_argument("a setting is written ID=VALUE or NAME=VALUE, not " + std::string(text));
     }
-    const emulator::SettingRow& row = findSetting(trimmed(text.substr(0, equals)));
-    const std::string_view value = text.substr(equals + 1);
-    if (row.kind == emulator::SettingKind::Text) return {row.number, std::string(value)};
-    const std::optional<std::int32_t> number = parseNumber(trimmed(value));
-    if (!number) throw std::invalid_argument(std::string(row.name) + " takes a number, not " + std::string(value));
-    return {row.number, *number};
+    return parseValue(findSetting(trimmed(text.substr(0, equals))).number, text.substr(equals + 1));
 }
 
 std::vector<Assignment> readSettingsFile(const std::string& file) {
@@ -87,35 +133,15 @@ void apply(ZhstSession session, const std::vector<Assignment>& assignments, cons
         if (const auto* number = std::get_if<std::int32_t>(&assignment.value)) {
             emulator::set(session, assignment.id, *number);
         } else {
-            emulator::set(session, assignment.id, pcText.toPc(std::get<std::string>(assignment.value)));
+            const std::string text = pcText.toPc(std::get<std::string>(assignment.value));
+            checkLength(settingRow(assignment.id), text);
+            emulator::set(session, assignment.id, text);
         }
     }
 }
 
 std::vector<Assignment> defaultSettings() {
-    return {
-        {setting::HostSystemName, "SAMPLE"},
-        {setting::ConnectionParam248, "sample"},
-        {setting::ConnectionParam250, "sample"},
-        {setting::ConnectionParam512, "sample"},
-        {setting::TransportType, 9},
-        {setting::RouterKind, value::RouterIbm},
-        {setting::HostCodePage, 37},
-        {setting::PcFileName, "-"},
-        {setting::SendFileType, ZhstCommaSeparated},
-        {setting::ReceiveFileType, ZhstCommaSeparated},
-        {setting::ReceiveOutput, value::ToPcFile},
-        {setting::ExistingFileAction, value::Replace},
-        // A file that is there is only replaced after a question; the other modes go on without one.
-        {setting::CreateMode, value::ReplaceMember},
-        {setting::RecordLength, 92},  // a source line of 80 characters with its sequence number and date
-        {setting::StartRecord, 1},
-        {setting::IgnoreDecimalErrors, 0},   // a damaged number is told, not replaced
-        {setting::DecimalSeparatorMode, 8},  // that of the PC's locale
-        {setting::TimeFormat, 4},            // ISO
-        {setting::TimeSeparator, 1},         // ':'
-        {setting::DateFormat, 4},            // ISO
-        {setting::DateSeparator, 3},         // '-'
-        {setting::DisplayRowsPerPage, 20},
-    };
+    std::vector<Assignment> settings;
+    for (const SettingDefault& each : settingDefaults) settings.push_back(parseValue(each.setting, each.value));
+    return settings;
 }
