@@ -75,7 +75,7 @@ const HostColumn* HostLayout::find(std::string_view name) const {
 ZhstSession copyOfSession(ZhstSession session) {
     const ZhstSession copy = emulator::newSession();
     for (const emulator::SettingRow& row : emulator::settingRows) {
-        if (row.kind == emulator::SettingKind::Int)
+        if (row.kind != emulator::SettingKind::Text)
             emulator::set(copy, row.number, emulator::number(session, row.number));
         else
             emulator::set(copy, row.number, emulator::text(session, row.number));

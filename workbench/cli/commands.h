@@ -1,0 +1,20 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <string>
+
+#include "command_line.h"
+
+// What each command takes. A parser fills `line`, which outlives the program's parser `program`.
+void addReceive(CLI::App& program, CommandLine& line);
+void addSend(CLI::App& program, CommandLine& line);
+void addDemo(CLI::App& program, CommandLine& line);
+void addBrowse(CLI::App& program, CommandLine& line);
+void addSettings(CLI::App& program, CommandLine& line);
+
+// A command of this name, which is `line`'s when it is given.
+CLI::App* addCommand(CLI::App& program, CommandLine& line, const std::string& name, Command which,
+                     const std::string& help);
+
+// What every command and the program itself take.
+void addCommon(CLI::App& app, CommandLine& line);

@@ -1,0 +1,64 @@
+#include "commands.h"
+#include "setting_options.h"
+
+namespace {
+
+void addPc(CLI::App& app, CommandLine& line) {
+    const std::string group = "The PC";
+    const auto character = [&](const std::string& name, char* place, const std::string& help) {
+        app.add_option_function<std::string>(
+               name, [place](const std::string& value) { *place = value.front(); }, help)
+            ->check([](const std::string& value) {
+                return value.size() == 1 ? std::string() : std::string("must be one character");
+            })
+            ->type_name("C")
+            ->group(group);
+    };
+    app.add_option("--ansi-code-page", line.pc.ansiCodePage, "code page of its texts, 1252 when not given")
+        ->type_name("N")
+        ->group(group);
+    app.add_option("--oem-code-page", line.pc.oemCodePage, "code page of its oldest programs, 850 when not given")
+        ->type_name("N")
+        ->group(group);
+    app.add_option("--language-id", line.pc.languageId, "language of its user, 0x409 (English) when not given")
+        ->type_name("N")
+        ->group(group);
+    character("--decimal", &line.pc.decimalSeparator,
+              "decimal separator, . when not given; for csv with a decimal comma give --list-separator too");
+    character("--list-separator", &line.pc.listSeparator, "separator of comma-separated files, a comma when not given");
+}
+
+}  // namespace
+
+void addCommon(CLI::App& app, CommandLine& line) {
+    const std::string group = "Common options";
+    app.add_option_function<std::vector<std::string>>(
+           "--set",
+           [&line](const std::vector<std::string>& texts) {
+               for (const std::string& text : texts) line.sets.push_back(parseAssignment(text));
+           },
+           "a setting of the emulator, applied last; repeatable; z7xfer settings lists them")
+        ->check([](const std::string& text) { return reasonAgainst([&] { parseAssignment(text); }); })
+        ->type_name("ID|NAME=VALUE")
+        ->type_size(1)
+        ->allow_extra_args(false)
+        ->group(group);
+    app.add_option("--settings", line.settingsFile, "file of such settings, a line each, # before comments")
+        ->check(CLI::ExistingFile)
+        ->group(group);
+    app.add_option("--providers", line.providerFolder, "folder of the provider libraries")
+        ->check(CLI::ExistingDirectory)
+        ->group(group);
+    app.add_option("--host-data", line.hostData, "database of the sample host")->check(CLI::ExistingFile)->group(group);
+    app.add_option("--journal", line.journalFile, "write every service call of the library to a file")
+        ->type_name("FILE")
+        ->group(group);
+    app.add_option_function<std::string>(
+           "--answer", [&line](const std::string& text) { line.answer = questions::StandingAnswer::parse(text); },
+           "answer to every question that it fits: replace, append, yes or no; or the number of a button")
+        ->check([](const std::string& text) { return reasonAgainst([&] { questions::StandingAnswer::parse(text); }); })
+        ->type_name("WORD")
+        ->group(group);
+    app.add_flag("--quiet,-q", line.quiet, "no progress and no tally; messages are still shown")->group(group);
+    addPc(app, line);
+}

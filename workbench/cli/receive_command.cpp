@@ -1,0 +1,24 @@
+#include "commands.h"
+#include "setting_options.h"
+
+namespace setting = zhst::setting;
+
+void addReceive(CLI::App& program, CommandLine& line) {
+    CLI::App* app = addCommand(program, line, "receive", Command::Receive, "Receive records of host files");
+    SettingOptions options(*app, line.options);
+    options.text("HOSTFILE", setting::HostFileName, "LIB/FILE(MBR); several in one argument: \"LIB/A LIB/B\"")
+        ->required();
+    options.text("PCFILE", setting::PcFileName, "PC file to write; - or none is standard output");
+    options.choice("--type", setting::ReceiveFileType, "PC file type, csv when not given");
+    options.choice("--output", setting::ReceiveOutput, "where the records go, file when not given");
+    app->add_option("--columns", line.clauses.select, "the columns wanted, all when not given");
+    app->add_option("--where", line.clauses.where, "condition that the records meet");
+    app->add_option("--join", line.clauses.join, "condition that relates several files, as t1.A = t2.B");
+    app->add_option("--group-by", line.clauses.groupBy, "columns of the groups");
+    app->add_option("--having", line.clauses.having, "condition that the groups meet");
+    app->add_option("--order-by", line.clauses.orderBy, "columns to sort by");
+    options.flag("--count", setting::RecordProgress, "count the records first, for a progress in percent");
+    options.description("--describe", setting::WriteDescriptionFile, setting::ReceiveDescriptionFile,
+                        "write a description of the PC file, beside it; *.fdf takes its name, a path stands as it is");
+    addCommon(*app, line);
+}

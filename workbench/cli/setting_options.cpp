@@ -1,0 +1,74 @@
+#include "setting_options.h"
+
+#include <stdexcept>
+
+#include "emulator/setting_rows.h"
+
+namespace {
+
+// "{file,member,replace}"
+std::string words(std::uint32_t setting) {
+    std::string list;
+    for (const emulator::SettingValueRow& row : emulator::valuesOf(settingRow(setting)))
+        list += (list.empty() ? "{" : ",") + std::string(row.word);
+    return list + "}";
+}
+
+}  // namespace
+
+std::string reasonAgainst(const std::function<void()>& parse) {
+    try {
+        parse();
+        return {};
+    } catch (const std::invalid_argument& error) {
+        return error.what();
+    }
+}
+
+CLI::Option* SettingOptions::text(const std::string& name, std::uint32_t id, const std::string& help) {
+    return app_.add_option_function<std::string>(
+        name,
+        [list = &assignments_, id](const std::string& value) {
+            list->push_back({id, value});
+        },
+        help);
+}
+
+void SettingOptions::number(const std::string& name, std::uint32_t id, const std::string& help) {
+    app_.add_option_function<std::int32_t>(
+            name,
+            [list = &assignments_, id](const std::int32_t& value) {
+                list->push_back({id, value});
+            },
+            help)
+        ->check(CLI::NonNegativeNumber)
+        ->type_name("N");
+}
+
+void SettingOptions::choice(const std::string& name, std::uint32_t id, const std::string& help) {
+    app_.add_option_function<std::string>(
+            name, [list = &assignments_, id](const std::string& word) { list->push_back(parseValue(id, word)); }, help)
+        ->check([id](const std::string& word) { return reasonAgainst([&] { parseValue(id, word); }); })
+        ->type_name(words(id));
+}
+
+void SettingOptions::flag(const std::string& name, std::uint32_t id, const std::string& help) {
+    app_.add_flag_callback(
+        name,
+        [list = &assignments_, id] {
+            list->push_back({id, 1});
+        },
+        help);
+}
+
+void SettingOptions::description(const std::string& name, std::uint32_t wanted, std::uint32_t id,
+                                 const std::string& help) {
+    app_.add_option_function<std::string>(
+            name,
+            [list = &assignments_, wanted, id](const std::string& value) {
+                list->push_back({wanted, 1});
+                list->push_back({id, value});
+            },
+            help)
+        ->type_name("NAME");
+}
