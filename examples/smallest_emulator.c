@@ -160,7 +160,7 @@ typedef struct Message {
 } Message;
 
 static const Message messages[] = {
-#define MESSAGE(number, name, inserts) {number, #name, inserts},
+#define MESSAGE(number, name, inserts, ...) {number, #name, inserts},
     ZHST_MESSAGES(MESSAGE)
 #undef MESSAGE
 };
@@ -301,15 +301,18 @@ typedef struct File {
     char name[PATH_SIZE];
 } File;
 
-static void ZHST_CALL fileClose(File* file) {
+static File* fileOf(ZhstFileObject* object) { return (File*)object; }
+
+static void ZHST_CALL fileClose(ZhstFileObject* object) {
+    File* const file = fileOf(object);
     if (file->stream && fclose(file->stream) != 0) file->failed = 1;
     file->stream = NULL;
 }
 
-static void ZHST_CALL fileDestroy(File* file, uint32_t one) {
+static void ZHST_CALL fileDestroy(ZhstFileObject* object, uint32_t one) {
     (void)one;
-    fileClose(file);
-    free(file);
+    fileClose(object);
+    free(fileOf(object));
 }
 
 static uint32_t openFile(File* file, const char* mode) {
@@ -319,84 +322,93 @@ static uint32_t openFile(File* file, const char* mode) {
     return !file->failed;
 }
 
-static uint32_t ZHST_CALL fileOpenForReading(File* file) { return openFile(file, "rb"); }
+static uint32_t ZHST_CALL fileOpenForReading(ZhstFileObject* object) { return openFile(fileOf(object), "rb"); }
 
 /* What is there already is replaced. */
-static uint32_t ZHST_CALL fileOpenForWriting(File* file) { return openFile(file, "wb"); }
+static uint32_t ZHST_CALL fileOpenForWriting(ZhstFileObject* object) { return openFile(fileOf(object), "wb"); }
 
-static int32_t ZHST_CALL fileRead(File* file, void* buffer, uint32_t maximum) {
-    return (int32_t)fread(buffer, 1, maximum, file->stream);
+static int32_t ZHST_CALL fileRead(ZhstFileObject* object, void* buffer, uint32_t maximum) {
+    return (int32_t)fread(buffer, 1, maximum, fileOf(object)->stream);
 }
 
-static uint32_t ZHST_CALL fileWrite(File* file, const void* bytes, uint32_t length) {
+static uint32_t ZHST_CALL fileWrite(ZhstFileObject* object, const void* bytes, uint32_t length) {
+    File* const file = fileOf(object);
     if (fwrite(bytes, 1, length, file->stream) == length) return 1;
     file->failed = 1;
     return 0;
 }
 
-static uint32_t ZHST_CALL fileErrorState(File* file) {
+static uint32_t ZHST_CALL fileErrorState(ZhstFileObject* object) {
+    const File* const file = fileOf(object);
     if (file->failed) fprintf(stderr, "%s: reading or writing failed\n", file->name);
     return (uint32_t)file->failed;
 }
 
-static void ZHST_CALL fileSetName(File* file, const char* name) { snprintf(file->name, sizeof file->name, "%s", name); }
-
-static uint32_t ZHST_CALL fileSize(File* file) {
-    const long position = ftell(file->stream);
-    long size;
-    fseek(file->stream, 0, SEEK_END);
-    size = ftell(file->stream);
-    fseek(file->stream, position, SEEK_SET);
-    return (uint32_t)size;
+static void ZHST_CALL fileSetName(ZhstFileObject* object, const char* name) {
+    snprintf(fileOf(object)->name, PATH_SIZE, "%s", name);
 }
 
-static void* ZHST_CALL fileReadWhole(File* file) {
-    const uint32_t size = fileSize(file);
-    void* const block = malloc(size);
-    rewind(file->stream);
-    if (block && fread(block, 1, size, file->stream) != size) file->failed = 1;
+static uint32_t ZHST_CALL filePosition(ZhstFileObject* object) { return (uint32_t)ftell(fileOf(object)->stream); }
+
+static void ZHST_CALL fileSetPosition(ZhstFileObject* object, uint32_t position, uint32_t zero) {
+    (void)zero;
+    fseek(fileOf(object)->stream, (long)position, SEEK_SET);
+}
+
+/* Of a file that is open, or of one that is not: a PC file description is asked for its size and then read whole. */
+static uint32_t ZHST_CALL fileSize(ZhstFileObject* object) {
+    File* const file = fileOf(object);
+    const int wasOpen = file->stream != NULL;
+    uint32_t position, size;
+    if (!wasOpen && !openFile(file, "rb")) return 0;
+    position = filePosition(object);
+    fseek(file->stream, 0, SEEK_END);
+    size = filePosition(object);
+    fileSetPosition(object, position, 0);
+    if (!wasOpen) fileClose(object);
+    return size;
+}
+
+static void* ZHST_CALL fileReadWhole(ZhstFileObject* object) {
+    const uint32_t size = fileSize(object);
+    void* const block = zhstAllocateObject(size, 0);
+    File* const file = fileOf(object);
+    if (block && openFile(file, "rb") && fread(block, 1, size, file->stream) != size) file->failed = 1;
+    fileClose(object);
     return block;
 }
 
-static void ZHST_CALL fileOpenedName(File* file, char* buffer) { strcpy(buffer, file->name); }
-
-static void ZHST_CALL fileSetPosition(File* file, uint32_t position, uint32_t zero) {
-    (void)zero;
-    fseek(file->stream, (long)position, SEEK_SET);
-}
-
-static uint32_t ZHST_CALL filePosition(File* file) { return (uint32_t)ftell(file->stream); }
+static void ZHST_CALL fileOpenedName(ZhstFileObject* object, char* buffer) { strcpy(buffer, fileOf(object)->name); }
 
 /* Type flag, open flags, existing-file action and option say how an emulator of many settings opens a file. */
-static void ZHST_CALL fileSetNothing(File* file, uint32_t value) { (void)file, (void)value; }
+static void ZHST_CALL fileSetNothing(ZhstFileObject* object, uint32_t value) { (void)object, (void)value; }
 
-#define OPERATION(function) (void*)(uintptr_t)(function)
-static void* const fileOperations[] = {
-    [ZhstFileDestroy] = OPERATION(fileDestroy),
-    [ZhstFileOpenForReading] = OPERATION(fileOpenForReading),
-    [ZhstFileOpenForWriting] = OPERATION(fileOpenForWriting),
-    [ZhstFileRead] = OPERATION(fileRead),
-    [ZhstFileWrite] = OPERATION(fileWrite),
-    [ZhstFileClose] = OPERATION(fileClose),
-    [ZhstFileErrorState] = OPERATION(fileErrorState),
-    [ZhstFileSetName] = OPERATION(fileSetName),
-    [ZhstFileSetTypeFlag] = OPERATION(fileSetNothing),
-    [ZhstFileSetOpenFlags] = OPERATION(fileSetNothing),
-    [ZhstFileSetExistingAction] = OPERATION(fileSetNothing),
-    [ZhstFileSetOption] = OPERATION(fileSetNothing),
-    [ZhstFileSize] = OPERATION(fileSize),
-    [ZhstFileReadWhole] = OPERATION(fileReadWhole),
-    [ZhstFileOpenedName] = OPERATION(fileOpenedName),
-    [ZhstFileSetPosition] = OPERATION(fileSetPosition),
-    [ZhstFilePosition] = OPERATION(filePosition),
-    [ZhstFilePrepareNew] = OPERATION(fileSetNothing),
+static const ZhstFileOperations fileOperations = {
+    .destroy = fileDestroy,
+    .openForReading = fileOpenForReading,
+    .openForWriting = fileOpenForWriting,
+    .read = fileRead,
+    .write = fileWrite,
+    .close = fileClose,
+    .errorState = fileErrorState,
+    .setName = fileSetName,
+    .setTypeFlag = fileSetNothing,
+    .setOpenFlags = fileSetNothing,
+    .setExistingAction = fileSetNothing,
+    .setOption = fileSetNothing,
+    .size = fileSize,
+    .readWhole = fileReadWhole,
+    .openedName = fileOpenedName,
+    .setPosition = fileSetPosition,
+    .position = filePosition,
+    .prepareNew = fileSetNothing,
 };
 
 ZhstFileObject* ZHST_CALL zhstCreateFileObject(ZhstSession session) {
     File* const file = calloc(1, sizeof(File));
     (void)session;
     if (!file) return NULL;
-    file->object.operations = fileOperations;
+    file->object.operations = &fileOperations;
     return &file->object;
 }
 
@@ -436,11 +448,11 @@ static void ZHST_CALL pathSetCurrentDirectory(ZhstPathServices* services, const 
     (void)services, (void)path;
 }
 
-static void* const pathOperations[] = {
-    [ZhstPathFileExists] = OPERATION(pathFileExists),
-    [ZhstPathBaseName] = OPERATION(pathBaseName),
-    [ZhstPathDirectoryPart] = OPERATION(pathDirectoryPart),
-    [ZhstPathSetCurrentDirectory] = OPERATION(pathSetCurrentDirectory),
+static const ZhstPathOperations pathOperations = {
+    .fileExists = pathFileExists,
+    .baseName = pathBaseName,
+    .directoryPart = pathDirectoryPart,
+    .setCurrentDirectory = pathSetCurrentDirectory,
 };
 
 static uint32_t ZHST_CALL codePageIsDoubleByte(ZhstCodePageServices* services, int32_t hostCodePage) {
@@ -448,11 +460,11 @@ static uint32_t ZHST_CALL codePageIsDoubleByte(ZhstCodePageServices* services, i
     return 0;
 }
 
-static void* const codePageOperations[] = {[ZhstCodePageIsDoubleByte] = OPERATION(codePageIsDoubleByte)};
+static const ZhstCodePageOperations codePageOperations = {.isDoubleByte = codePageIsDoubleByte};
 
 void* ZHST_CALL zhstGetSessionObject(ZhstSession session, uint32_t kind) {
-    static ZhstPathServices paths = {pathOperations};
-    static ZhstCodePageServices codePages = {codePageOperations};
+    static ZhstPathServices paths = {&pathOperations};
+    static ZhstCodePageServices codePages = {&codePageOperations};
     (void)session;
     switch (kind) {
         case ZhstPathServicesKind:
@@ -464,10 +476,17 @@ void* ZHST_CALL zhstGetSessionObject(ZhstSession session, uint32_t kind) {
     }
 }
 
-/* Entries 35 and 36 convert for host code pages of one kind; entry 91 fetches what the user wants to be selected and
-   ordered. All may be absent: then whole files are received. */
+/* What the user wants to be selected and ordered: nothing, so that whole files are received. Without this entry the
+   library would compose no query. */
+static void ZHST_CALL getTransferClauses(ZhstSession session, ZhstTextRecord* selectList, ZhstTextRecord* selection,
+                                         ZhstTextRecord* orderBy, ZhstTextRecord* groupBy, ZhstTextRecord* having,
+                                         ZhstTextRecord* join) {
+    (void)session, (void)selectList, (void)selection, (void)orderBy, (void)groupBy, (void)having, (void)join;
+}
+
+/* The two other entries convert texts of host code page 43, and may be absent. */
 const ZhstSessionServices* ZHST_CALL zhstGetSessionServices(ZhstSession session) {
-    static const ZhstSessionServices services;
+    static const ZhstSessionServices services = {.getTransferClauses = getTransferClauses};
     (void)session;
     return &services;
 }

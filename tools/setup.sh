@@ -33,7 +33,7 @@ install_packages() {
 
 APT_OPTIONS=()
 BUILD_PACKAGES=(g++ cmake ninja-build libcli11-dev libsqlite3-dev libicu-dev tzdata)
-TEST_PACKAGES=(libgtest-dev python3)
+TEST_PACKAGES=(libgtest-dev python3 clang)
 # Of one version: another formats and judges otherwise.
 LINT_PACKAGES=(clang-format-14 clang-tidy-14)
 # The last two: SQLite is made from its source package.

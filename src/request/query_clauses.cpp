@@ -13,9 +13,9 @@ struct Clauses {
     text::TextBuffer selection, join, groupBy, having, orderBy;
 
     // All but the select list, which the snapshot has.
-    void fetch(const ZXFRPCSCLIENT& client, ZhstGetTransferClauses entry) {
-        entry(client.session, nullptr, selection.record(), orderBy.record(), groupBy.record(), having.record(),
-              join.record());
+    void fetch(const ZXFRPCSCLIENT& client) {
+        client.sessionServices->getTransferClauses(client.session, nullptr, selection.record(), orderBy.record(),
+                                                   groupBy.record(), having.record(), join.record());
         for (text::TextBuffer* clause : {&selection, &groupBy, &having, &orderBy}) {
             clause->trimStart();
             clause->trimEnd();
@@ -66,11 +66,10 @@ bool composeQueryClauses(ZXFRPCSCLIENT& client, bool stopAfterWhere, bool groupi
         return false;
     }
     // An entry that the session lacks is skipped, like every absent one: the request stays what it was.
-    const auto entry = client.sessionServices ? client.sessionServices->getTransferClauses() : nullptr;
-    if (!entry) return true;
+    if (!client.sessionServices || !client.sessionServices->getTransferClauses) return true;
     text::TextBuffer& request = *client.requestText;
     Clauses clauses;
-    clauses.fetch(client, entry);
+    clauses.fetch(client);
     const std::uint32_t start = groupingOnly ? request.length() : 0;
     if (!groupingOnly) {
         request.assign(" FROM ");

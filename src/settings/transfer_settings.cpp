@@ -33,7 +33,7 @@ TransferSettings::TransferSettings(services::SessionHandle owner)
       selectList(services::Owned<text::TextBuffer>::make()) {
     readIntegers();
     readStrings();
-    const auto clauses = sessionServices ? sessionServices->getTransferClauses() : nullptr;
+    const auto clauses = sessionServices ? sessionServices->getTransferClauses : nullptr;
     if (clauses && selectList) clauses(session, selectList->record(), nullptr, nullptr, nullptr, nullptr, nullptr);
     listSeparator = firstOfLocale(platform::LocaleListSeparator);
     numericWidthMode = services::GetSetting(settings, id::NumericWidthMode);

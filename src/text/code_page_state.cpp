@@ -90,7 +90,7 @@ std::uint32_t CodePageState::hostToPcText(const char* source, char* destination,
     if (dbcsTablesLoaded_) return dbcsHostToPc(length, destination);
     if (isCodePage43_) {
         // An entry that the session lacks is skipped, like every absent one; the text stays as it is.
-        const auto convert = sessionServices_ ? sessionServices_->hostTextToPc() : nullptr;
+        const auto convert = sessionServices_ ? sessionServices_->hostTextToPc : nullptr;
         if (!convert) return 0;
         // What the shorter text leaves of the field becomes blanks; the host's bytes copied above would show there.
         const std::uint32_t converted =
@@ -110,7 +110,7 @@ std::uint32_t CodePageState::pcToHostText(const char* source, char* destination,
                                           std::uint32_t destinationLength) const {
     if (dbcsTablesLoaded_) return dbcsPcToHost(std::min(length, destinationLength), source, destination);
     if (isCodePage43_) {
-        const auto convert = sessionServices_ ? sessionServices_->pcTextToHost() : nullptr;
+        const auto convert = sessionServices_ ? sessionServices_->pcTextToHost : nullptr;
         if (convert) convert(textServicesHandle_, source, length, destination, destinationLength, 1, 2);
         return 0;
     }

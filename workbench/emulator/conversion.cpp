@@ -60,7 +60,7 @@ const std::vector<std::uint8_t>& keptCodeTable(std::uint32_t kind, const codepag
     return entry->second;
 }
 
-std::uint32_t ZHST_CALL isDoubleByte(void*, std::int32_t number) {
+std::uint32_t ZHST_CALL isDoubleByte(ZhstCodePageServices*, std::int32_t number) {
     const codepages::CodePage* page = hostCodePage(number);
     return journalled::Call("CodePageServices.isDoubleByte", number).result(page && page->isDoubleByte() ? 1u : 0u);
 }
@@ -75,11 +75,7 @@ const ConversionTables* conversionTables(Session& session) {
     return tables.usable ? &tables : nullptr;
 }
 
-void* const* codePageServicesTable() {
-    static void* operations[ZhstCodePageIsDoubleByte + 1] = {};
-    operations[ZhstCodePageIsDoubleByte] = reinterpret_cast<void*>(&isDoubleByte);
-    return operations;
-}
+constinit const ZhstCodePageOperations codePageOperations = {{}, isDoubleByte};
 
 }  // namespace emulator
 

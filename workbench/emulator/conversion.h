@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "Z7XFRPCS/objects.h"
 #include "emulator/sessions.h"
 
 namespace emulator {
@@ -10,6 +11,6 @@ namespace emulator {
 const ConversionTables* conversionTables(Session& session);
 
 // The code-page services (kind 7).
-void* const* codePageServicesTable();
+extern const ZhstCodePageOperations codePageOperations;
 
 }  // namespace emulator

@@ -1,6 +1,6 @@
 #include "emulator/file_object.h"
 
-#include <array>
+#include <algorithm>
 #include <cstring>
 
 #include "Z7XFRPCS/objects.h"
@@ -16,75 +16,76 @@ namespace {
 using journalled::Call;
 
 struct FileObject {
-    void* const* operations;
+    ZhstFileObject head;
     PcFile file;
 };
 
 std::uint32_t liveObjects = 0;
 
-PcFile& fileOf(void* object) { return static_cast<FileObject*>(object)->file; }
+FileObject* wholeOf(ZhstFileObject* object) { return reinterpret_cast<FileObject*>(object); }
+PcFile& fileOf(ZhstFileObject* object) { return wholeOf(object)->file; }
 
-void ZHST_CALL destroy(void* object, std::uint32_t one) {
+void ZHST_CALL destroy(ZhstFileObject* object, std::uint32_t one) {
     Call("FileObject.destroy", one);
-    delete static_cast<FileObject*>(object);
+    delete wholeOf(object);
     if (liveObjects > 0) --liveObjects;
 }
 
-std::uint32_t ZHST_CALL openForReading(void* object) {
+std::uint32_t ZHST_CALL openForReading(ZhstFileObject* object) {
     const Call call("FileObject.openForReading");
     return call.result(fileOf(object).openForReading() ? 1u : 0u);
 }
 
-std::uint32_t ZHST_CALL openForWriting(void* object) {
+std::uint32_t ZHST_CALL openForWriting(ZhstFileObject* object) {
     const Call call("FileObject.openForWriting");
     return call.result(fileOf(object).openForWriting() ? 1u : 0u);
 }
 
-std::int32_t ZHST_CALL read(void* object, void* buffer, std::uint32_t maximum) {
+std::int32_t ZHST_CALL read(ZhstFileObject* object, void* buffer, std::uint32_t maximum) {
     const std::int32_t count = fileOf(object).read(buffer, maximum);
     const std::size_t filled = count > 0 ? static_cast<std::size_t>(count) : 0;
     return Call("FileObject.read", journalled::Bytes{buffer, filled}, maximum).result(count);
 }
 
-std::uint32_t ZHST_CALL write(void* object, const void* bytes, std::uint32_t length) {
+std::uint32_t ZHST_CALL write(ZhstFileObject* object, const void* bytes, std::uint32_t length) {
     const Call call("FileObject.write", journalled::Bytes{bytes, length}, length);
     return call.result(fileOf(object).write(bytes, length) ? 1u : 0u);
 }
 
-void ZHST_CALL close(void* object) {
+void ZHST_CALL close(ZhstFileObject* object) {
     const Call call("FileObject.close");
     fileOf(object).close();
 }
 
-std::uint32_t ZHST_CALL errorState(void* object) {
+std::uint32_t ZHST_CALL errorState(ZhstFileObject* object) {
     const Call call("FileObject.errorState");
     return call.result(fileOf(object).errorState() ? 1u : 0u);
 }
 
-void ZHST_CALL setName(void* object, const char* name) {
+void ZHST_CALL setName(ZhstFileObject* object, const char* name) {
     Call("FileObject.setName", name);
     fileOf(object).setName(name);
 }
 
 // Text and binary files are written alike: whoever writes text brings its line ends.
-void ZHST_CALL setTypeFlag(void*, std::uint32_t flag) { Call("FileObject.setTypeFlag", flag); }
-void ZHST_CALL setOpenFlags(void*, std::uint32_t flags) { Call("FileObject.setOpenFlags", flags); }
-void ZHST_CALL setOption(void*, std::uint32_t option) { Call("FileObject.setOption", option); }
+void ZHST_CALL setTypeFlag(ZhstFileObject*, std::uint32_t flag) { Call("FileObject.setTypeFlag", flag); }
+void ZHST_CALL setOpenFlags(ZhstFileObject*, std::uint32_t flags) { Call("FileObject.setOpenFlags", flags); }
+void ZHST_CALL setOption(ZhstFileObject*, std::uint32_t option) { Call("FileObject.setOption", option); }
 
-void ZHST_CALL setExistingFileAction(void* object, std::uint32_t action) {
+void ZHST_CALL setExistingFileAction(ZhstFileObject* object, std::uint32_t action) {
     Call("FileObject.setExistingFileAction", action);
     fileOf(object).setExistingFileAction(action);
 }
 
-std::uint32_t ZHST_CALL size(void* object) { return Call("FileObject.size").result(fileOf(object).size()); }
+std::uint32_t ZHST_CALL size(ZhstFileObject* object) { return Call("FileObject.size").result(fileOf(object).size()); }
 
-void* ZHST_CALL readWhole(void* object) {
+void* ZHST_CALL readWhole(ZhstFileObject* object) {
     void* block = fileOf(object).readWhole();
     Call("FileObject.readWhole").result(journalled::Address{block});
     return block;
 }
 
-void ZHST_CALL openedName(void* object, char* buffer) {
+void ZHST_CALL openedName(ZhstFileObject* object, char* buffer) {
     constexpr std::size_t Capacity = 1025;
     const std::string& name = fileOf(object).name();
     const std::size_t length = std::min(name.size(), Capacity - 1);
@@ -93,53 +94,47 @@ void ZHST_CALL openedName(void* object, char* buffer) {
     Call("FileObject.openedName", static_cast<const char*>(buffer));
 }
 
-void ZHST_CALL setPosition(void* object, std::uint32_t position, std::uint32_t origin) {
+void ZHST_CALL setPosition(ZhstFileObject* object, std::uint32_t position, std::uint32_t origin) {
     Call("FileObject.setPosition", position, origin);
     fileOf(object).setPosition(position);
 }
 
-std::uint32_t ZHST_CALL position(void* object) { return Call("FileObject.position").result(fileOf(object).position()); }
+std::uint32_t ZHST_CALL position(ZhstFileObject* object) {
+    return Call("FileObject.position").result(fileOf(object).position());
+}
 
-void ZHST_CALL prepareNewFile(void* object, std::uint32_t zero) {
+void ZHST_CALL prepareNewFile(ZhstFileObject* object, std::uint32_t zero) {
     Call("FileObject.prepareNewFile", zero);
     fileOf(object).offerNoAppend();
 }
 
-template <class Operation>
-void* slot(Operation operation) {
-    return reinterpret_cast<void*>(operation);
-}
-
-constexpr std::size_t SlotCount = ZhstFilePrepareNew + 1;
-
-std::array<void*, SlotCount> makeSlots() {
-    std::array<void*, SlotCount> slots{};
-    slots[ZhstFileDestroy] = slot(&destroy);
-    slots[ZhstFileOpenForReading] = slot(&openForReading);
-    slots[ZhstFileOpenForWriting] = slot(&openForWriting);
-    slots[ZhstFileRead] = slot(&read);
-    slots[ZhstFileWrite] = slot(&write);
-    slots[ZhstFileClose] = slot(&close);
-    slots[ZhstFileErrorState] = slot(&errorState);
-    slots[ZhstFileSetName] = slot(&setName);
-    slots[ZhstFileSetTypeFlag] = slot(&setTypeFlag);
-    slots[ZhstFileSetOpenFlags] = slot(&setOpenFlags);
-    slots[ZhstFileSetExistingAction] = slot(&setExistingFileAction);
-    slots[ZhstFileSetOption] = slot(&setOption);
-    slots[ZhstFileSize] = slot(&size);
-    slots[ZhstFileReadWhole] = slot(&readWhole);
-    slots[ZhstFileOpenedName] = slot(&openedName);
-    slots[ZhstFileSetPosition] = slot(&setPosition);
-    slots[ZhstFilePosition] = slot(&position);
-    slots[ZhstFilePrepareNew] = slot(&prepareNewFile);
-    return slots;
-}
+constexpr ZhstFileOperations operations = [] {
+    ZhstFileOperations table = {};
+    table.destroy = destroy;
+    table.openForReading = openForReading;
+    table.openForWriting = openForWriting;
+    table.read = read;
+    table.write = write;
+    table.close = close;
+    table.errorState = errorState;
+    table.setName = setName;
+    table.setTypeFlag = setTypeFlag;
+    table.setOpenFlags = setOpenFlags;
+    table.setExistingAction = setExistingFileAction;
+    table.setOption = setOption;
+    table.size = size;
+    table.readWhole = readWhole;
+    table.openedName = openedName;
+    table.setPosition = setPosition;
+    table.position = position;
+    table.prepareNew = prepareNewFile;
+    return table;
+}();
 
 ZhstFileObject* create(ZhstSession session) {
-    static const std::array<void*, SlotCount> slots = makeSlots();
     if (faults().refuseFileObject) return nullptr;
     ++liveObjects;
-    return reinterpret_cast<ZhstFileObject*>(new FileObject{slots.data(), PcFile(session)});
+    return &(new FileObject{{&operations}, PcFile(session)})->head;
 }
 
 }  // namespace

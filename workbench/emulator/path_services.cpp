@@ -1,7 +1,6 @@
 #include "emulator/path_services.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
@@ -43,22 +42,22 @@ void fill(char* buffer, const char* text, std::size_t length) {
 
 bool isAbsolute(const char* path) { return *path == '\\' || *path == '/' || (*path && path[1] == ':'); }
 
-std::uint32_t ZHST_CALL fileExists(void*, const char* name, std::uint32_t flag) {
+std::uint32_t ZHST_CALL fileExists(ZhstPathServices*, const char* name, std::uint32_t flag) {
     return journalled::Call("PathServices.fileExists", name, flag).result(findLibrary(name) ? 1u : 0u);
 }
 
-void ZHST_CALL baseName(void*, const char* name, char* buffer) {
+void ZHST_CALL baseName(ZhstPathServices*, const char* name, char* buffer) {
     const char* file = name + directoryLength(name);
     fill(buffer, file, baseEnd(file));
     journalled::Call("PathServices.baseName", name, static_cast<const char*>(buffer));
 }
 
-void ZHST_CALL directoryPart(void*, const char* name, char* buffer) {
+void ZHST_CALL directoryPart(ZhstPathServices*, const char* name, char* buffer) {
     fill(buffer, name, directoryLength(name));
     journalled::Call("PathServices.directoryPart", name, static_cast<const char*>(buffer));
 }
 
-void ZHST_CALL setCurrentDirectory(void*, const char* path) {
+void ZHST_CALL setCurrentDirectory(ZhstPathServices*, const char* path) {
     journalled::Call("PathServices.setCurrentDirectory", path);
     if (!path || !*path) return;
     std::string changed = isAbsolute(path) || directory.empty() ? std::string(path) : directory + path;
@@ -66,24 +65,16 @@ void ZHST_CALL setCurrentDirectory(void*, const char* path) {
     directory = changed;
 }
 
-template <class Operation>
-void* slot(Operation operation) {
-    return reinterpret_cast<void*>(operation);
-}
-
 }  // namespace
 
-void* const* pathServicesTable() {
-    static const std::array<void*, ZhstPathSetCurrentDirectory + 1> slots = [] {
-        std::array<void*, ZhstPathSetCurrentDirectory + 1> table{};
-        table[ZhstPathFileExists] = slot(&fileExists);
-        table[ZhstPathBaseName] = slot(&baseName);
-        table[ZhstPathDirectoryPart] = slot(&directoryPart);
-        table[ZhstPathSetCurrentDirectory] = slot(&setCurrentDirectory);
-        return table;
-    }();
-    return slots.data();
-}
+constinit const ZhstPathOperations pathOperations = [] {
+    ZhstPathOperations table = {};
+    table.fileExists = fileExists;
+    table.baseName = baseName;
+    table.directoryPart = directoryPart;
+    table.setCurrentDirectory = setCurrentDirectory;
+    return table;
+}();
 
 const std::string& currentDirectory() { return directory; }
 void resetPathServices() { directory.clear(); }

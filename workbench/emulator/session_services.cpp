@@ -81,25 +81,23 @@ std::uint32_t ZHST_CALL pcTextToHost(ZhstTextServices services, const void* sour
     return call.result(toHost(findSession(services, SessionPart::TextServices), source, length, destination, capacity));
 }
 
-ZhstSessionServices completeTable() {
-    ZhstSessionServices table = {};
-    table.entries[ZhstHostTextToPcEntry] = reinterpret_cast<void*>(&hostTextToPc);
-    table.entries[ZhstPcTextToHostEntry] = reinterpret_cast<void*>(&pcTextToHost);
-    table.entries[ZhstGetTransferClausesEntry] = reinterpret_cast<void*>(&getTransferClauses);
-    return table;
-}
-
 const ZhstSessionServices* servicesOf(const Session* session) {
-    static const ZhstSessionServices complete = completeTable();
-    static const ZhstSessionServices absent = {};
+    static constexpr ZhstSessionServices absent = {};
+    static constexpr ZhstSessionServices complete = [] {
+        ZhstSessionServices table = {};
+        table.hostTextToPc = hostTextToPc;
+        table.pcTextToHost = pcTextToHost;
+        table.getTransferClauses = getTransferClauses;
+        return table;
+    }();
     if (!session) return nullptr;
     return session->clauses.absent ? &absent : &complete;
 }
 
 void* objectOf(Session* session, std::uint32_t kind) {
     if (!session) return nullptr;
-    session->pathServices.operations = pathServicesTable();
-    session->codePageServices.operations = codePageServicesTable();
+    session->pathServices.operations = &pathOperations;
+    session->codePageServices.operations = &codePageOperations;
     if (kind == ZhstPathServicesKind) return &session->pathServices;
     if (kind == ZhstCodePageServicesKind) return &session->codePageServices;
     return nullptr;

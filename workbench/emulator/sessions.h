@@ -8,6 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "Z7XFRPCS/objects.h"
 #include "Z7XFRPCS/session.h"
 #include "emulator/emulator.h"
 
@@ -28,11 +29,6 @@ enum class SessionPart : std::uint32_t {
 struct Watch {
     std::uint32_t id;
     ZhstSettingWatch watch;
-};
-
-// An object that other libraries call through its table.
-struct SlotObject {
-    void* const* operations = nullptr;
 };
 
 // Single-byte conversion between the session's host page and the PC page, made when first needed.
@@ -58,7 +54,8 @@ struct Session {
     Clauses clauses;
     bool commandFailed = false;
     ConversionTables conversion;
-    SlotObject pathServices, codePageServices;
+    ZhstPathServices pathServices = {};
+    ZhstCodePageServices codePageServices = {};
 
     std::uint32_t handle(SessionPart part) const { return index * 10 + static_cast<std::uint32_t>(part); }
 };
