@@ -171,7 +171,7 @@ TEST_F(Emulator, CatalogueTextsFitTheirReadersAndMakeMessages) {
         zhstShowMessage(session, 0, zhstMessageId(table, index), 0x30, 1, 0);
         EXPECT_NE(user.messages.back().text, absent) << table << ',' << index;
     };
-#define EXPECT_TEXT(table, index, name, inserts) expectFits(table, index), expectMessage(table, index);
+#define EXPECT_TEXT(table, index, ...) expectFits(table, index), expectMessage(table, index);
     ZHST_TEXTS(EXPECT_TEXT)
 #define EXPECT_CODE(place, code) expectFits(7, place), expectFits(7, code);
     ZHST_TRANSFER_CODES(EXPECT_CODE)

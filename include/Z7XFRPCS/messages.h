@@ -7,90 +7,132 @@
    emulator's; inserts are given by a letter each: t a text, n a number. This is the only place where these numbers
    stand; library, stand-in, journal and documentation all read it. */
 
-/* Messages: number, name, inserts. Their help topic has the same number where the library names no other. */
-#define ZHST_MESSAGES(X)                      \
-    X(4001, OutOfMemory, "")                  \
-    X(4266, RouterNotLoaded, "")              \
-    X(4269, RouterIsReplacement, "t")         \
-    X(4315, TransferCancelled, "")            \
-    X(4400, LibraryNotFound, "t")             \
-    X(4402, OwnProviderNotLoaded, "")         \
-    X(4403, EmulatorEntryMissing, "")         \
-    X(4405, BufferNotAllocated, "")           \
-    X(4406, ErrorWithContext, "tnt")          \
-    X(4407, RouterNotRunning, "")             \
-    X(4408, ErrorWithHostText, "ntt")         \
-    X(4410, RecordTooLong, "")                \
-    X(4411, DescriptionEmpty, "t")            \
-    X(4412, DescriptionNotUsed, "")           \
-    X(4416, TextAlone, "t")                   \
-    X(4417, DescriptionFileType, "t")         \
-    X(4418, FieldWithoutLength, "t")          \
-    X(4419, DescriptionHeader, "t")           \
-    X(4420, DescriptionFieldEarly, "t")       \
-    X(4421, DescriptionNoFields, "t")         \
-    X(4422, DescriptionTwoFields, "t")        \
-    X(4423, DescriptionOptions, "t")          \
-    X(4424, DescriptionTimeFormat, "t")       \
-    X(4425, DescriptionTimeSeparator, "t")    \
-    X(4426, DescriptionDateFormat, "t")       \
-    X(4427, DescriptionDateSeparator, "t")    \
-    X(4428, DescriptionDecimalSeparator, "t") \
-    X(4429, DescriptionSecondFileType, "t")   \
-    X(4430, DescriptionSecondHeader, "t")     \
-    X(4431, DescriptionSecondOptions, "t")    \
-    X(4432, TransferFunctionNotStarted, "")   \
-    X(4433, SeparatorsAlike, "")              \
-    X(4436, DisplayNotBegun, "")              \
-    X(4593, IbmProviderNotLoaded, "")         \
-    X(4594, IbmEntryMissing, "")              \
-    X(4601, SourceOfSeveralFields, "")        \
-    X(4607, BadDifValue, "")                  \
-    X(4658, AppcProviderNotLoaded, "t")       \
-    X(4659, AppcEntryMissing, "t")            \
-    X(4679, SpreadsheetNotStarted, "tnt")     \
-    X(4682, DifNotAppended, "")               \
-    X(4697, As400EntryMissingOtherKind, "")   \
-    X(4704, As400EntryMissing, "")
-
-/* Texts: table, index, name, inserts. Those of table 7 up to 405 say what was being done when an error occurred. */
-#define ZHST_TEXTS(X)                 \
-    X(7, 88, SendingTextRecord, "")   \
-    X(7, 400, SendingRequest, "")     \
-    X(7, 401, ListingCatalogue, "")   \
-    X(7, 404, SendingRecord, "")      \
-    X(7, 405, CountingRecords, "")    \
-    X(7, 416, NoRecords, "")          \
-    X(7, 418, DisplayTitle, "")       \
-    X(7, 432, DisplayMore, "")        \
-    X(7, 434, DisplayName, "")        \
-    X(7, 439, BadNumber, "nn")        \
-    X(7, 440, HostRecordTooShort, "") \
-    X(7, 443, LengthLabel, "")        \
-    X(7, 444, TypeLabel, "")          \
-    X(7, 445, DemoField1, "")         \
-    X(7, 446, DemoLibrary1, "")       \
-    X(7, 447, DemoFile1, "")          \
-    X(7, 448, DemoMember1, "")        \
-    X(7, 449, DemoField2, "")         \
-    X(7, 450, DemoField3, "")         \
-    X(7, 451, DemoField4, "")         \
-    X(7, 452, DemoField5, "")         \
-    X(7, 453, DemoField6, "")         \
-    X(7, 454, DemoLibrary2, "")       \
-    X(7, 455, DemoLibrary3, "")       \
-    X(7, 456, DemoFile2, "")          \
-    X(7, 457, DemoFile3, "")          \
-    X(7, 458, DemoMember2, "")        \
-    X(7, 459, DemoMember3, "")        \
-    X(17, 4, ReplaceHostFile, "t")    \
-    X(22, 202, RouterReplacement, "")
+/* Messages: number, name, inserts, when one is shown and what follows. Flags are 0x30 and the help topic is the
+   message's number, where the row says nothing else; what the user answers is not looked at. All are shown only when
+   IsMessageEnabled says so. */
+#define ZHST_MESSAGES(X)                                                                                               \
+    X(4001, OutOfMemory, "", "There is no memory for something that is needed; what was going on ends.")               \
+    X(4266, RouterNotLoaded, "", "E32APPC.DLL is there and cannot be loaded; the transfer does not start.")            \
+    X(4269, RouterIsReplacement, "t",                                                                                  \
+      "E32APPC.DLL is the emulator's replacement of a router; %1 is text 202 of table 22. The transfer does not "      \
+      "start.")                                                                                                        \
+    X(4315, TransferCancelled, "",                                                                                     \
+      "Never shown: asked for by pcsCancelTransfer, so that the session takes note of it.")                            \
+    X(4400, LibraryNotFound, "t", "The library %1 is not to be found; the transfer does not start.")                   \
+    X(4402, OwnProviderNotLoaded, "",                                                                                  \
+      "ZEHNTFW.DLL or AS4XFER.DLL is there and cannot be loaded; the transfer does not start.")                        \
+    X(4403, EmulatorEntryMissing, "", "ZEHNTFW.DLL lacks an entry; the transfer does not start.")                      \
+    X(4405, BufferNotAllocated, "", "There is no memory for the shared buffer; the transfer does not start.")          \
+    X(4406, ErrorWithContext, "tnt",                                                                                   \
+      "An exchange has failed and the host says nothing: %1 is what was being done, %2 the return code, %3 its text. " \
+      "Also the gate of every other report of a failed exchange. The transfer or listing ends.")                       \
+    X(4407, RouterNotRunning, "", "The router does not run, or cannot be asked; the transfer does not start.")         \
+    X(4408, ErrorWithHostText, "ntt",                                                                                  \
+      "An exchange has failed: %1 is the return code, %2 its text, %3 the host's message. Its help is that of the "    \
+      "code. The transfer or listing ends.")                                                                           \
+    X(4410, RecordTooLong, "",                                                                                         \
+      "A line or tuple of the PC file is longer than 4095 bytes; the transfer ends with the record before it.")        \
+    X(4411, DescriptionEmpty, "t", "The PC file description %1 has no bytes; nothing is sent.")                        \
+    X(4412, DescriptionNotUsed, "",                                                                                    \
+      "A transfer to a data file wants a PC file description, and UseDescriptionFile is not 1; nothing is sent.")      \
+    X(4416, TextAlone, "t",                                                                                            \
+      "A text alone: the host's message behind 0x3000 and 0x3100; with the code's help, the text of a provider's own " \
+      "code; the sentence of a transfer that was not completed. The transfer ends.")                                   \
+    X(4417, DescriptionFileType, "t",                                                                                  \
+      "The PC file description %1 has a PCFT line without a code that can be sent; nothing is sent.")                  \
+    X(4418, FieldWithoutLength, "t",                                                                                   \
+      "The numeric host field %1 (ten characters of its name) has length 0; the transfer ends.")                       \
+    X(4419, DescriptionHeader, "t", "The first line of %1 does not say PCFDF; nothing is sent.")                       \
+    X(4420, DescriptionFieldEarly, "t",                                                                                \
+      "The PC file description %1 has a PCFL line in front of its PCFT line; nothing is sent.")                        \
+    X(4421, DescriptionNoFields, "t", "The PC file description %1 has no PCFL line; nothing is sent.")                 \
+    X(4422, DescriptionTwoFields, "t", "The PC file description %1 has PCFL twice in a line; nothing is sent.")        \
+    X(4423, DescriptionOptions, "t",                                                                                   \
+      "The PC file description %1 has PCFO elsewhere than at the start of a line; nothing is sent.")                   \
+    X(4424, DescriptionTimeFormat, "t", "Option 1 of the PCFO line of %1 has no code; nothing is sent.")               \
+    X(4425, DescriptionTimeSeparator, "t", "The same of option 2.")                                                    \
+    X(4426, DescriptionDateFormat, "t", "The same of option 3.")                                                       \
+    X(4427, DescriptionDateSeparator, "t", "The same of option 4.")                                                    \
+    X(4428, DescriptionDecimalSeparator, "t", "The same of option 5, where an asterisk is no code but allowed.")       \
+    X(4429, DescriptionSecondFileType, "t", "The PC file description %1 has a second PCFT line; nothing is sent.")     \
+    X(4430, DescriptionSecondHeader, "t", "The PC file description %1 has a second PCFDF line; nothing is sent.")      \
+    X(4431, DescriptionSecondOptions, "t", "The PC file description %1 has a second PCFO line; nothing is sent.")      \
+    X(4432, TransferFunctionNotStarted, "", "An exchange has come back as 0x9999; the transfer ends.")                 \
+    X(4433, SeparatorsAlike, "",                                                                                       \
+      "From the host: the file type is CommaSeparated, decimal and list separator are commas; nothing is asked for.")  \
+    X(4436, DisplayNotBegun, "", "The text display is not there or cannot begin; the transfer ends.")                  \
+    X(4593, IbmProviderNotLoaded, "", "E32TFW.DLL is there and cannot be loaded; the transfer does not start.")        \
+    X(4594, IbmEntryMissing, "", "E32TFW.DLL lacks EHNTF_STF; the transfer does not start.")                           \
+    X(4601, SourceOfSeveralFields, "",                                                                                 \
+      "A source file is sent to a host file of several fields that is not created; nothing is sent.")                  \
+    X(4607, BadDifValue, "",                                                                                           \
+      "A value of a DIF file lacks the head or the end that its field wants; the transfer ends with the record "       \
+      "before.")                                                                                                       \
+    X(4658, AppcProviderNotLoaded, "t",                                                                                \
+      "%1, ZTFWAPPC.DLL, is there and cannot be loaded; the transfer does not start.")                                 \
+    X(4659, AppcEntryMissing, "t", "%1, ZTFWAPPC.DLL, lacks an entry; the transfer does not start.")                   \
+    X(4679, SpreadsheetNotStarted, "tnt",                                                                              \
+      "The spreadsheet program cannot be started: %1 is the file, which is complete, %2 the system's number, %3 a "    \
+      "blank.")                                                                                                        \
+    X(4682, DifNotAppended, "", "From the host: a DIF file is to be appended to; nothing is asked for.")               \
+    X(4697, As400EntryMissingOtherKind, "",                                                                            \
+      "AS4XFER.DLL lacks an entry, and RouterKind is 30; the transfer does not start.")                                \
+    X(4704, As400EntryMissing, "", "AS4XFER.DLL lacks an entry; the transfer does not start.")
 
 /* Help topics that are not the number of their message: number, name. */
 #define ZHST_HELP_TOPICS(X) \
     X(124, Transfer)        \
     X(206, ReplaceHostFile) \
     X(4254, ReturnCode)
+
+enum ZhstHelpTopic {
+#define ZHST_HELP_TOPIC(number, name) ZhstHelp##name = number,
+    ZHST_HELP_TOPICS(ZHST_HELP_TOPIC)
+#undef ZHST_HELP_TOPIC
+};
+
+/* Texts: table, index, name, inserts, then, of those that make a box of their own, its flags, its help topic and the
+   answer that goes on (0: the answer is not looked at), then what the text is for. Those of table 7 up to 405 say what
+   was being done when an error occurred. */
+#define ZHST_TEXTS(X)                                                                                                \
+    X(7, 88, SendingTextRecord, "", 0, 0, 0,                                                                         \
+      "What was being done: %1 of message 4406 when a record of a text-like file is refused.")                       \
+    X(7, 400, SendingRequest, "", 0, 0, 0, "The same when a request is refused.")                                    \
+    X(7, 401, ListingCatalogue, "", 0, 0, 0, "The same when an entry of a listing is refused.")                      \
+    X(7, 404, SendingRecord, "", 0, 0, 0, "The same when a record of types 3 and 4 is refused.")                     \
+    X(7, 405, CountingRecords, "", 0, 0, 0, "The same when the count is refused.")                                   \
+    X(7, 416, NoRecords, "", 0x30, ZhstHelpTransfer, 0,                                                              \
+      "From the host: the records were counted, and there are none; shown when messages in general are enabled. No " \
+      "PC file is opened.")                                                                                          \
+    X(7, 418, DisplayTitle, "", 0, 0, 0, "Title of the text display, and its status while rows come.")               \
+    X(7, 432, DisplayMore, "", 0, 0, 0, "Status of the text display while a full page waits.")                       \
+    X(7, 434, DisplayName, "", 0, 0, 0, "Shown in place of the PC file's name when the output is the display.")      \
+    X(7, 439, BadNumber, "nn", 0x30, ZhstHelpTransfer, 0,                                                            \
+      "Field %2 of record %1 has a text that its host field cannot store; always shown. The transfer ends with the " \
+      "record before.")                                                                                              \
+    X(7, 440, HostRecordTooShort, "", 0x30, ZhstHelpTransfer, 0,                                                     \
+      "The host record has no room for its fields; always shown. The transfer ends with the record before.")         \
+    X(7, 443, LengthLabel, "", 0, 0, 0, "In a field listing, in front of the length.")                               \
+    X(7, 444, TypeLabel, "", 0, 0, 0, "In a field listing, in front of the type.")                                   \
+    X(7, 445, DemoField1, "", 0, 0, 0, "Field 1 of the demonstration's catalogue.")                                  \
+    X(7, 446, DemoLibrary1, "", 0, 0, 0, "Library 1 of the demonstration's catalogue.")                              \
+    X(7, 447, DemoFile1, "", 0, 0, 0, "File 1 of the demonstration's catalogue.")                                    \
+    X(7, 448, DemoMember1, "", 0, 0, 0, "Member 1 of the demonstration's catalogue.")                                \
+    X(7, 449, DemoField2, "", 0, 0, 0, "Field 2 of the demonstration's catalogue.")                                  \
+    X(7, 450, DemoField3, "", 0, 0, 0, "Field 3 of the demonstration's catalogue.")                                  \
+    X(7, 451, DemoField4, "", 0, 0, 0, "Field 4 of the demonstration's catalogue.")                                  \
+    X(7, 452, DemoField5, "", 0, 0, 0, "Field 5 of the demonstration's catalogue.")                                  \
+    X(7, 453, DemoField6, "", 0, 0, 0, "Field 6 of the demonstration's catalogue.")                                  \
+    X(7, 454, DemoLibrary2, "", 0, 0, 0, "Library 2 of the demonstration's catalogue.")                              \
+    X(7, 455, DemoLibrary3, "", 0, 0, 0, "Library 3 of the demonstration's catalogue.")                              \
+    X(7, 456, DemoFile2, "", 0, 0, 0, "File 2 of the demonstration's catalogue.")                                    \
+    X(7, 457, DemoFile3, "", 0, 0, 0, "File 3 of the demonstration's catalogue.")                                    \
+    X(7, 458, DemoMember2, "", 0, 0, 0, "Member 2 of the demonstration's catalogue.")                                \
+    X(7, 459, DemoMember3, "", 0, 0, 0, "Member 3 of the demonstration's catalogue.")                                \
+    X(17, 4, ReplaceHostFile, "t", 0x28, ZhstHelpReplaceHostFile, 10,                                                \
+      "The host file %1 exists and CreateMode is 2: whether to replace it; always shown. Any other answer ends the " \
+      "transfer before a record is sent.")                                                                           \
+    X(22, 202, RouterReplacement, "", 0, 0, 0, "%1 of message 4269.")
 
 /* The tables in which the texts of return codes stand. */
 enum ZhstErrorTable {
@@ -175,7 +217,7 @@ enum ZhstErrorTable {
     X(0x00F5, 1250)
 
 enum ZhstMessage {
-#define ZHST_MESSAGE_NUMBER(number, name, inserts) ZhstMessage##name = number,
+#define ZHST_MESSAGE_NUMBER(number, name, inserts, use) ZhstMessage##name = number,
     ZHST_MESSAGES(ZHST_MESSAGE_NUMBER)
 #undef ZHST_MESSAGE_NUMBER
 };
@@ -183,20 +225,24 @@ enum ZhstMessage {
 #ifdef __cplusplus
 namespace zhst {
 
-/* A text of the catalogue: what LoadMessageText and MessageId take. */
+/* A text of the catalogue: what LoadMessageText and MessageId take; and the box that it makes, if it makes one. */
 struct CatalogueText {
     uint32_t table;
     uint32_t index;
+    uint32_t flags = 0;
+    uint32_t help = 0;
+    int32_t goesOn = 0;  // the answer that does
 };
 
 namespace message {
-#define ZHST_MESSAGE_NUMBER(number, name, inserts) inline constexpr uint32_t name = number;
+#define ZHST_MESSAGE_NUMBER(number, name, inserts, use) inline constexpr uint32_t name = number;
 ZHST_MESSAGES(ZHST_MESSAGE_NUMBER)
 #undef ZHST_MESSAGE_NUMBER
 }  // namespace message
 
 namespace text {
-#define ZHST_TEXT_PLACE(table, index, name, inserts) inline constexpr CatalogueText name = {table, index};
+#define ZHST_TEXT_PLACE(table, index, name, inserts, flags, help, goesOn, use) \
+    inline constexpr CatalogueText name = {table, index, flags, help, goesOn};
 ZHST_TEXTS(ZHST_TEXT_PLACE)
 #undef ZHST_TEXT_PLACE
 }  // namespace text

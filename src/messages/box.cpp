@@ -11,7 +11,9 @@ std::int32_t showWith(Service service, const Owner& owner, const Box& box, Inser
 
 }  // namespace
 
-Box boxOf(zhst::CatalogueText text) { return Box(services::MessageId(text.table, text.index)); }
+Box boxOf(zhst::CatalogueText text) {
+    return Box(services::MessageId(text.table, text.index)).withHelp(text.help).withFlags(text.flags);
+}
 
 bool isEnabled(const Owner& owner, std::uint32_t message) {
     return services::IsMessageEnabled(owner.settings, message) != 0;

@@ -43,7 +43,7 @@ struct Box {
     std::uint32_t flags = ExclamationAndOk;
 };
 
-// The message that a text of the catalogue makes.
+// The message that a text of the catalogue makes, with the flags and the help topic of its row.
 Box boxOf(zhst::CatalogueText text);
 
 bool isEnabled(const Owner& owner, std::uint32_t message);

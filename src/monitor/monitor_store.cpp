@@ -9,23 +9,26 @@
 namespace monitor {
 namespace {
 
-// Names, of four characters each; those of the items in the order of MonitorStore::Item.
+// Names, of four characters each.
 constexpr char TransferNode[] = "XFR4";
 constexpr char ReceiveList[] = "X4RP";
 constexpr char SendList[] = "X4SP";
 
-constexpr const char* ReceiveItems[] = {"XDTI", "XDCI", "XDRI", "XDDI", "XDSI", "XDFI", "XDAI", "XDEI", "XDGI"};
-constexpr const char* SendItems[] = {"XUTI", "XUCI", "XURI", "XUDI", "XUSI", "XUFI", "XUAI", "XUEI", "XUGI"};
+constexpr const char* ReceiveItems[] = {
+#define RECEIVE_CODE(receive, send, name, value) receive,
+    ZHST_MONITOR_ITEMS(RECEIVE_CODE)
+#undef RECEIVE_CODE
+};
+constexpr const char* SendItems[] = {
+#define SEND_CODE(receive, send, name, value) send,
+    ZHST_MONITOR_ITEMS(SEND_CODE)
+#undef SEND_CODE
+};
 
 std::uint32_t codeOf(const char* name) { return static_cast<std::uint32_t>(bytes::highFirstSigned(name, 4)); }
 
-constexpr std::uint32_t RequestHeader = 47;
-constexpr std::uint32_t DesignationOffset = 6;
-constexpr std::uint32_t DesignationLength = 40;
-constexpr std::uint32_t ResultHeader = 13;
+constexpr std::uint32_t DesignationLength = ZhstMonitorRequestData - ZhstMonitorRequestDesignation - 1;
 constexpr std::uint32_t Trailer = 2;
-static_assert(DesignationOffset + DesignationLength + 1 == RequestHeader);
-static_assert(RequestHeader + Trailer == 49 && ResultHeader + Trailer == 15);
 
 }  // namespace
 
@@ -88,14 +91,14 @@ void MonitorStore::writeBuilt(const List& list, Item item, std::uint32_t size, F
 void MonitorStore::recordRequest(std::uint32_t function, std::uint32_t reserved, std::string_view data,
                                  const char* designation) {
     const auto length = static_cast<std::uint32_t>(data.size());
-    writeBuilt(send_, Exchange, RequestHeader + length + Trailer, [&](char* record) {
+    writeBuilt(send_, Exchange, ZhstMonitorRequestData + length + Trailer, [&](char* record) {
         const auto system = std::string_view(designation ? designation : "").substr(0, DesignationLength);
-        record[0] = static_cast<char>(function);
-        record[1] = static_cast<char>(reserved);
+        record[ZhstMonitorRequestFunction] = static_cast<char>(function);
+        record[ZhstMonitorRequestReserved] = static_cast<char>(reserved);
         // A terminating zero counts as data here, although it is not sent.
-        bytes::putLowFirst32(record + 2, length + 1);
-        std::copy(system.begin(), system.end(), record + DesignationOffset);
-        std::copy(data.begin(), data.end(), record + RequestHeader);
+        bytes::putLowFirst32(record + ZhstMonitorRequestLength, length + 1);
+        std::copy(system.begin(), system.end(), record + ZhstMonitorRequestDesignation);
+        std::copy(data.begin(), data.end(), record + ZhstMonitorRequestData);
     });
 }
 
@@ -105,12 +108,12 @@ void MonitorStore::recordResult(std::uint32_t function, std::uint16_t returnCode
     const bool withoutData = function == TF_RESET || (function == TF_SEND_REQUEST && returnCode == TF_SUCCESS);
     if (withoutData) data = {};
     const auto length = static_cast<std::uint32_t>(data.size());
-    writeBuilt(receive_, Exchange, ResultHeader + length + Trailer, [&](char* record) {
-        record[0] = static_cast<char>(function);
-        bytes::putLowFirst32(record + 1, returnCode);
-        bytes::putLowFirst32(record + 5, detailCode);
-        bytes::putLowFirst32(record + 9, length);
-        std::copy(data.begin(), data.end(), record + ResultHeader);
+    writeBuilt(receive_, Exchange, ZhstMonitorResultData + length + Trailer, [&](char* record) {
+        record[ZhstMonitorResultFunction] = static_cast<char>(function);
+        bytes::putLowFirst32(record + ZhstMonitorResultReturnCode, returnCode);
+        bytes::putLowFirst32(record + ZhstMonitorResultDetailCode, detailCode);
+        bytes::putLowFirst32(record + ZhstMonitorResultLength, length);
+        std::copy(data.begin(), data.end(), record + ZhstMonitorResultData);
     });
 }
 

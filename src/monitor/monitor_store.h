@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "Z7XFRPCS/monitor.h"
 #include "services/owned.h"
 #include "services/runtime.h"
 
@@ -11,13 +12,7 @@ namespace monitor {
 // Publishes what a transfer exchanges into the emulator's named store "ZHST", for a monitoring tool to follow. Written
 // only; no transfer depends on it: what cannot be opened, locked or built is left out without a word.
 //
-// The store holds the node XFR4 with the lists X4RP (transfers from the host, and results) and X4SP (transfers to the
-// host, and requests). Each write replaces the item's previous value.
-//
-// Request (XUGI), 49 + n bytes:  0 function (1), 1 reserved (1), 2 n + 1 (4, little-endian), 6 designation (41, zero
-// filled), 47 the n bytes of the shared buffer, 47 + n two zeros.
-// Result (XDGI), 15 + m bytes:   0 function (1), 1 return code (4), 5 detail code (4), 9 m (4), 13 the m bytes
-// returned, 13 + m two zeros. m is 0 for a reset, and for a request that succeeded.
+// What stands where in it is said in Z7XFRPCS/monitor.h.
 class MonitorStore {
 public:
     MonitorStore();
@@ -47,8 +42,12 @@ public:
 private:
     // The items of both lists mean the same in their direction; those without a name here belong to the store's layout,
     // but are never written.
-    enum Item : std::uint32_t { Field, Statement, Unused2, Description, Unused4, Record, Unused6, Unused7, Exchange };
-    static constexpr std::uint32_t ItemsPerList = 9;
+    enum Item : std::uint32_t {
+#define MONITOR_ITEM(receive, send, name, value) name,
+        ZHST_MONITOR_ITEMS(MONITOR_ITEM)
+#undef MONITOR_ITEM
+            ItemsPerList
+    };
 
     struct List {
         services::StorePartHandle handle = 0;

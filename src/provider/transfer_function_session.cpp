@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "Z7XFRPCS/exports.h"
 #include "Z7XFRPCS/settings.h"
 #include "platform/platform.h"
 #include "provider/result_judge.h"
@@ -11,8 +12,11 @@ namespace {
 
 namespace id = zhst::setting;
 
-constexpr std::uint32_t WatchedSettings[] = {id::TransportType, id::RouterKind, id::ConnectionChanging,
-                                             id::ConvertToOem, id::HostCodePage};
+constexpr std::uint32_t WatchedSettings[] = {
+#define WATCHED_SETTING(name, effect) id::name,
+    ZHST_WATCHED_SETTINGS(WATCHED_SETTING)
+#undef WATCHED_SETTING
+};
 
 constexpr std::uint32_t TraceIsBinary = 1;
 constexpr std::uint32_t TraceOption = 1;

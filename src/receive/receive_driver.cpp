@@ -176,9 +176,7 @@ bool ReceiveRun::countRecords() {
 bool ReceiveRun::tellNoRecords() {
     const messages::HiddenDialog hidden(client_.progressDialog);
     if (messages::isEnabled(owner(), messages::Box::InGeneral))
-        messages::show(
-            owner(),
-            messages::boxOf(zhst::text::NoRecords).gatedBy(messages::Box::NoGate).withHelp(zhst::help::Transfer));
+        messages::show(owner(), messages::boxOf(zhst::text::NoRecords).gatedBy(messages::Box::NoGate));
     return false;
 }
 

@@ -15,9 +15,7 @@ void tellFieldWithoutLength(const ZXFRPCSCLIENT& client, const record::HostField
 }
 
 // Shown whatever the user has switched off: without the record's number nobody finds the place.
-messages::Box placeBox(zhst::CatalogueText text) {
-    return messages::boxOf(text).gatedBy(messages::Box::NoGate).withHelp(zhst::help::Transfer);
-}
+messages::Box placeBox(zhst::CatalogueText text) { return messages::boxOf(text).gatedBy(messages::Box::NoGate); }
 
 }  // namespace
 

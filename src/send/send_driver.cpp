@@ -23,8 +23,6 @@ namespace id = zhst::setting;
 using services::ProgressCommand;
 
 constexpr std::string_view TargetExistsMessages[] = {"IWS2036", "IWS2023"};
-constexpr std::uint32_t QuestionFlags = 0x28;  // question icon and buttons of its own
-constexpr std::int32_t Confirmed = 10;
 
 constexpr std::uint32_t ReadBufferSize = 4096;
 constexpr std::uint32_t FirstDataTuple = 3;  // behind the header and the column names
@@ -148,11 +146,9 @@ bool SendRun::targetExists() const {
 
 // Asked whatever messages the user has switched off: without an answer nothing may be replaced.
 bool SendRun::confirmReplacement() {
-    const messages::Box question = messages::boxOf(zhst::text::ReplaceHostFile)
-                                       .gatedBy(messages::Box::NoGate)
-                                       .withHelp(zhst::help::ReplaceHostFile)
-                                       .withFlags(QuestionFlags);
-    return messages::show(client_.messageOwner(), question, client_.hostFileName) == Confirmed;
+    constexpr zhst::CatalogueText Question = zhst::text::ReplaceHostFile;
+    const messages::Box box = messages::boxOf(Question).gatedBy(messages::Box::NoGate);
+    return messages::show(client_.messageOwner(), box, client_.hostFileName) == Question.goesOn;
 }
 
 bool SendRun::readLayout() {

@@ -59,7 +59,7 @@ constexpr Sentence messageSentences[] = {
 };
 
 constexpr Message messageRows[] = {
-#define MESSAGE_ROW(number, name, inserts) {number, #name, inserts, sentenceOf(messageSentences, number)},
+#define MESSAGE_ROW(number, name, inserts, use) {number, #name, inserts, sentenceOf(messageSentences, number)},
     ZHST_MESSAGES(MESSAGE_ROW)
 #undef MESSAGE_ROW
 };
@@ -100,7 +100,7 @@ constexpr Sentence textSentences[] = {
 };
 
 constexpr Text textRows[] = {
-#define TEXT_ROW(table, index, name, inserts) \
+#define TEXT_ROW(table, index, name, inserts, flags, help, goesOn, use) \
     {table, index, #name, inserts, sentenceOf(textSentences, messageId(table, index))},
     ZHST_TEXTS(TEXT_ROW)
 #undef TEXT_ROW
