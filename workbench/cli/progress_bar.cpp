@@ -1,6 +1,5 @@
 #include "progress_bar.h"
 
-#include <algorithm>
 #include <iostream>
 
 #include "console.h"
@@ -23,7 +22,10 @@ void ProgressBar::total(std::uint64_t amount, Unit unit) {
 void ProgressBar::advance(std::uint64_t done, Unit unit) {
     done_ = done;
     unit_ = unit;
-    if (!visible_ || std::chrono::steady_clock::now() < nextDraw_) return;
+    if (!visible_) return;
+    const Clock::time_point now = Clock::now();
+    if (active_ && !running_) run(true);
+    if (now < nextDraw_) return;
     phase_.clear();
     draw();
 }
@@ -31,20 +33,29 @@ void ProgressBar::advance(std::uint64_t done, Unit unit) {
 void ProgressBar::hide() {
     clearLine();
     active_ = false;
+    if (running_) run(false);
 }
 
 void ProgressBar::show() {
     active_ = true;
+    if (done_ > 0) run(true);
     draw();
 }
 
 void ProgressBar::end() { hide(); }
 
+void ProgressBar::run(bool running) {
+    const Clock::time_point now = Clock::now();
+    if (running_) before_ += now - since_;
+    since_ = now;
+    running_ = running;
+}
+
 void ProgressBar::draw() {
     if (!visible_ || !active_) return;
     std::cerr << "\r" << line() << "\x1b[K" << std::flush;
     drawn_ = true;
-    nextDraw_ = std::chrono::steady_clock::now() + std::chrono::milliseconds(100);
+    nextDraw_ = Clock::now() + std::chrono::milliseconds(100);
 }
 
 void ProgressBar::clearLine() {
@@ -54,23 +65,7 @@ void ProgressBar::clearLine() {
 
 std::string ProgressBar::line() const {
     if (!phase_.empty()) return phase_;
-    const std::string thing = unit_ == Unit::Records ? "record" : "byte";
-    if (total_ == 0 || totalUnit_ != unit_) return counted(done_, thing);
-    const std::uint64_t done = std::min(done_, total_);
-    const std::string numbers =
-        std::to_string(done * 100 / total_) + "%  " + grouped(done_) + " of " + counted(total_, thing);
-    const int room = std::clamp(console::columns() - static_cast<int>(numbers.size()) - 6, 0, 50);
-    if (room < 5) return numbers;
-    const auto filled = static_cast<std::size_t>(done * static_cast<std::uint64_t>(room) / total_);
-    return "[" + std::string(filled, '=') + std::string(static_cast<std::size_t>(room) - filled, ' ') + "] " + numbers;
-}
-
-std::string grouped(std::uint64_t number) {
-    std::string text = std::to_string(number);
-    for (std::size_t place = text.size(); place > 3; place -= 3) text.insert(place - 3, ",");
-    return text;
-}
-
-std::string counted(std::uint64_t number, const std::string& thing) {
-    return grouped(number) + " " + thing + (number == 1 ? "" : "s");
+    const Clock::duration elapsed = before_ + (running_ ? Clock::now() - since_ : Clock::duration{});
+    const std::uint64_t total = totalUnit_ == unit_ ? total_ : 0;
+    return progressLine({done_, total, unit_, std::chrono::duration<double>(elapsed).count()}, console::columns());
 }

@@ -4,10 +4,12 @@
 #include <cstdint>
 #include <string>
 
+#include "progress_line.h"
+
 // One line on standard error that says how far a transfer is. Invisible unless it was asked to be seen.
 class ProgressBar {
 public:
-    enum class Unit { Records, Bytes };
+    using Unit = Progress::Unit;
 
     explicit ProgressBar(bool visible) : visible_(visible) {}
 
@@ -20,9 +22,12 @@ public:
     void end();
 
 private:
+    using Clock = std::chrono::steady_clock;
+
     void draw();
     void clearLine();
     std::string line() const;
+    void run(bool running);
 
     bool visible_;
     bool active_ = false;  // between begin and end, and not hidden
@@ -32,10 +37,9 @@ private:
     Unit totalUnit_ = Unit::Records;
     std::uint64_t done_ = 0;
     Unit unit_ = Unit::Records;
-    std::chrono::steady_clock::time_point nextDraw_{};
+    Clock::time_point nextDraw_{};
+    // Time is counted from the first advance on, and stands still while the bar is hidden.
+    bool running_ = false;
+    Clock::time_point since_{};
+    Clock::duration before_{};
 };
-
-// 12,345
-std::string grouped(std::uint64_t number);
-// "1 record", "12,345 bytes"
-std::string counted(std::uint64_t number, const std::string& thing);
