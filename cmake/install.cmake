@@ -16,4 +16,5 @@ install(CODE "
 
 # What an integrator builds against.
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/Z7XFRPCS DESTINATION include)
-install(FILES ${PROJECT_SOURCE_DIR}/docs/integration.md DESTINATION share/doc/Z7XFRPCS)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/ DESTINATION share/doc/Z7XFRPCS FILES_MATCHING PATTERN "*.md"
+    PATTERN architecture.md EXCLUDE PATTERN decisions.md EXCLUDE)
