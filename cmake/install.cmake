@@ -14,6 +14,10 @@ install(CODE "
     file(MAKE_DIRECTORY \"\${programs}\")
     file(CREATE_LINK ../${home}/z7xfer \"\${programs}/z7xfer\" SYMBOLIC)")
 
+install(FILES ${CMAKE_BINARY_DIR}/documents/z7xfer.1 DESTINATION share/man/man1)
+install(FILES ${CMAKE_BINARY_DIR}/documents/z7xfer DESTINATION share/bash-completion/completions)
+install(FILES ${CMAKE_BINARY_DIR}/documents/_z7xfer DESTINATION share/zsh/site-functions)
+
 # What an integrator builds against.
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/Z7XFRPCS DESTINATION include)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/ DESTINATION share/doc/Z7XFRPCS FILES_MATCHING PATTERN "*.md"

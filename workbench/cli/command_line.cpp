@@ -2,8 +2,11 @@
 
 #include "commands.h"
 #include "suggestions.h"
+#include "version.h"
 
 namespace {
+
+constexpr const char* Purpose = "Transfers files between this PC and a host, with the library Z7XFRPCS";
 
 // What is wrong with the arguments, and what may have been meant by those that are none.
 std::string usageMessage(const CLI::App* app, const CLI::Error& error) {
@@ -27,7 +30,7 @@ std::string usageMessage(const CLI::App* app, const CLI::Error& error) {
 }
 
 void setUp(CLI::App& program, CommandLine& line) {
-    program.set_version_flag("--version", "z7xfer " Z7X_VERSION);
+    program.set_version_flag("--version", versionText, "what this program is, and what its tables were made from");
     program.require_subcommand(1);
     program.failure_message(usageMessage);
     program.footer("Exit status: 0 the transfer is complete, 1 it failed or was cancelled, 2 wrong usage.");
@@ -48,8 +51,15 @@ CLI::App* addCommand(CLI::App& program, CommandLine& line, const std::string& na
     return app;
 }
 
+void describeCommandLine(const std::function<void(const CLI::App&)>& describe) {
+    CLI::App program{Purpose, "z7xfer"};
+    CommandLine line;
+    setUp(program, line);
+    describe(program);
+}
+
 std::optional<CommandLine> parseCommandLine(int argc, char** argv, int* exitStatus) {
-    CLI::App program{"Transfers files between this PC and a host, with the library Z7XFRPCS", "z7xfer"};
+    CLI::App program{Purpose, "z7xfer"};
     CommandLine line;
     setUp(program, line);
     try {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -29,6 +30,13 @@ struct CommandLine {
 inline constexpr int ExitComplete = 0;
 inline constexpr int ExitFailed = 1;
 inline constexpr int ExitUsage = 2;
+
+namespace CLI {
+class App;
+}
+
+// Hands the parser over, as it is before anything was parsed: names, values and help of all commands.
+void describeCommandLine(const std::function<void(const CLI::App&)>& describe);
 
 // Nothing when the program is to end with `exitStatus`: help was asked for, or the usage was wrong and has been told.
 std::optional<CommandLine> parseCommandLine(int argc, char** argv, int* exitStatus);

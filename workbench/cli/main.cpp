@@ -1,4 +1,3 @@
-#include <cstdlib>
 #include <fstream>
 #include <iostream>
 #include <stdexcept>
@@ -37,12 +36,6 @@ bool runSettingsFile(ZhstSession session, const std::string& file, const Command
         std::cerr << "z7xfer: " << error.what() << std::endl;
         return false;
     }
-}
-
-// Where the emulator looks for it too.
-std::string codePageData(const fs::path& folder) {
-    const char* elsewhere = std::getenv("Z7X_CODE_PAGES");
-    return elsewhere != nullptr && *elsewhere != '\0' ? elsewhere : (folder / "codepages.dat").string();
 }
 
 void setUpPc(const CommandLine& line, const fs::path& folder) {
@@ -117,7 +110,7 @@ bool writeJournal(const std::string& file, std::ofstream& stream) {
 
 int transfer(const CommandLine& line) {
     const fs::path folder = process::executableFolder();
-    const PcText pcText(line.pc.ansiCodePage, codePageData(folder));
+    const PcText pcText(line.pc.ansiCodePage, codePageDataFile());
     setUpPc(line, folder);
     const ZhstSession session = openSession(line, pcText);
     std::ofstream journalStream;

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <stdexcept>
 
 #include "codepages.h"
+#include "process.h"
 
 namespace {
 
@@ -53,6 +55,12 @@ char32_t takeCharacter(std::string_view& text) {
 }
 
 }  // namespace
+
+std::string codePageDataFile() {
+    const char* elsewhere = std::getenv("Z7X_CODE_PAGES");
+    if (elsewhere != nullptr && *elsewhere != '\0') return elsewhere;
+    return (process::executableFolder() / "codepages.dat").string();
+}
 
 PcText::PcText(std::uint32_t ansiCodePage, const std::string& dataFile) : codePage_(ansiCodePage) {
     std::string error;

@@ -4,6 +4,10 @@
 #include <string>
 #include <string_view>
 
+// The data file of the code pages: the one that $Z7X_CODE_PAGES names, or the one beside the program. The emulator
+// looks for it there too.
+std::string codePageDataFile();
+
 // Texts between the terminal, which speaks UTF-8, and the PC, whose ANSI code page the library speaks.
 class PcText {
 public:

@@ -5,6 +5,7 @@
 #include <memory>
 #include <utility>
 
+#include "contents.h"
 #include "data_file.h"
 #include "utf8.h"
 
@@ -65,6 +66,13 @@ bool load(const std::string& path, std::string* error) {
     }
     state = std::move(read);
     return true;
+}
+
+Contents contents() {
+    const Loaded& state = loaded();
+    const auto hosts = std::ranges::count_if(state.pages, [](const Page& page) { return page.entry.host; });
+    const auto hostPages = static_cast<std::size_t>(hosts);
+    return {hostPages, state.pages.size() - hostPages, readOrigin({state.file.data(), state.file.size()})};
 }
 
 const CodePage* find(std::uint32_t number) {

@@ -16,6 +16,7 @@
 //    16  u32      number of pages n
 //    20  n times  u32 page number, u32 flags, u32 offset and u32 length of the page's body
 //        bodies   two pages with the same tables may share one
+//    end - 16     u8[16]: what the pages were made from, as "ICU 72.1", with zeros behind
 //
 // A body:
 //
@@ -28,15 +29,16 @@
 namespace codepages {
 
 inline constexpr std::string_view DataFileMagic{"Z7XCPDAT"};
-inline constexpr std::uint32_t DataFileVersion = 1;
+inline constexpr std::uint32_t DataFileVersion = 2;
 inline constexpr std::uint32_t DataFileHeaderLength = 20;
 inline constexpr std::uint32_t DataFileEntryLength = 16;
+inline constexpr std::uint32_t DataFileOriginLength = 16;
 inline constexpr std::uint32_t HostPageFlag = 1;
 inline constexpr std::uint32_t DoubleBytePageFlag = 2;
 inline constexpr std::uint8_t NoFileRow = 0xFF;
 
-// The file's bytes. No page may have more than 255 rows.
-std::string composeDataFile(const std::vector<PageData>& pages);
+// The file's bytes. No page may have more than 255 rows; of the origin 16 characters are taken.
+std::string composeDataFile(const std::vector<PageData>& pages, std::string_view origin);
 
 // A page as the file's list names it.
 struct PageEntry {
@@ -49,6 +51,9 @@ struct PageEntry {
 // The list of a file's pages, whose bodies have been looked over. Nothing, with a sentence in `error`, when the bytes
 // are not a data file or not a whole one.
 std::optional<std::vector<PageEntry>> readEntries(std::string_view file, std::string* error);
+
+// What the pages of a file whose entries could be read were made from.
+std::string readOrigin(std::string_view file);
 
 // The tables of a page that readEntries gave.
 PageData readPage(const PageEntry& entry);

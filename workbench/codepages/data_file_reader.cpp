@@ -145,6 +145,11 @@ std::optional<std::vector<PageEntry>> readEntries(std::string_view file, std::st
     return std::nullopt;
 }
 
+std::string readOrigin(std::string_view file) {
+    const std::string_view end = file.substr(file.size() - std::min<std::size_t>(file.size(), DataFileOriginLength));
+    return std::string(end.substr(0, end.find('\0')));
+}
+
 PageData readPage(const PageEntry& entry) {
     PageData page;
     page.number = entry.number;

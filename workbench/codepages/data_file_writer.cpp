@@ -46,7 +46,7 @@ std::string body(const PageData& page) {
 
 }  // namespace
 
-std::string composeDataFile(const std::vector<PageData>& pages) {
+std::string composeDataFile(const std::vector<PageData>& pages, std::string_view origin) {
     const auto bodiesBegin = std::uint32_t(DataFileHeaderLength + DataFileEntryLength * pages.size());
     std::string directory, bodies;
     std::map<std::string, std::uint32_t> offsets;
@@ -61,9 +61,11 @@ std::string composeDataFile(const std::vector<PageData>& pages) {
     }
     std::string file{DataFileMagic};
     put(file, DataFileVersion, 4);
-    put(file, std::uint32_t(bodiesBegin + bodies.size()), 4);
+    put(file, std::uint32_t(bodiesBegin + bodies.size() + DataFileOriginLength), 4);
     put(file, std::uint32_t(pages.size()), 4);
-    return file + directory + bodies;
+    std::string end(origin);
+    end.resize(DataFileOriginLength, '\0');
+    return file + directory + bodies + end;
 }
 
 }  // namespace codepages

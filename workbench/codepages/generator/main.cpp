@@ -1,4 +1,6 @@
 // Writes the data file of the code pages from ICU's converters.
+#include <unicode/uvernum.h>
+
 #include <cstdio>
 #include <exception>
 #include <fstream>
@@ -101,7 +103,7 @@ std::string dataFile() {
     for (const HostPage& page : HostPages) pages.push_back(codepages::buildHostPage(page.number, page.icuName));
     for (const PcPage& page : PcPages)
         pages.push_back(codepages::buildPcPage(page.number, page.icuName, page.leads, page.corrections));
-    return codepages::composeDataFile(pages);
+    return codepages::composeDataFile(pages, "ICU " U_ICU_VERSION);
 }
 
 }  // namespace
