@@ -36,8 +36,9 @@ BUILD_PACKAGES=(g++ cmake ninja-build libcli11-dev libsqlite3-dev libicu-dev tzd
 TEST_PACKAGES=(libgtest-dev python3 clang)
 # Of one version: another formats and judges otherwise.
 LINT_PACKAGES=(clang-format-14 clang-tidy-14)
-# The last two: SQLite is made from its source package.
-WINDOWS_PACKAGES=(g++-mingw-w64-i686 googletest wine wine32:i386 locales dpkg-dev tcl)
+# dpkg-dev and tcl: SQLite is made from its source package. The last two: guide and reference become HTML.
+WINDOWS_PACKAGES=(g++-mingw-w64-i686 googletest wine wine32:i386 locales dpkg-dev tcl python3-markdown-it
+    python3-mdit-py-plugins)
 
 # The Windows tool chain, and Wine for 32-bit programs. Fails, having said why, on a machine that has no way to get them.
 install_windows_packages() {
