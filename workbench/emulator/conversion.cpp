@@ -17,7 +17,7 @@
 namespace emulator {
 namespace {
 
-[[gnu::cold]] void makeTables(ConversionTables& tables, std::int32_t hostPage) {
+[[gnu::cold, gnu::noinline]] void makeTables(ConversionTables& tables, std::int32_t hostPage) {
     const codepages::CodePage* host = hostCodePage(hostPage);
     const codepages::CodePage* pc = ansiPage();
     tables.made = true;
@@ -40,7 +40,7 @@ std::uint32_t convert(Session* session, std::uint32_t direction, std::uint32_t l
     return 0;
 }
 
-[[gnu::cold]] void tellRefusal(const Session& session) {
+[[gnu::cold, gnu::noinline]] void tellRefusal(const Session& session) {
     if (!messageEnabled(0)) return;
     constexpr std::uint32_t Exclamation = 0x30;
     MessageBox box = readyTextBox(session.handle(SessionPart::Session));

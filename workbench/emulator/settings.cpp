@@ -12,8 +12,9 @@ namespace {
 bool isWatched(const Session& session, std::uint32_t id) { return id >= Session::DenseSettings || session.watched[id]; }
 
 // Watchers hear of every write, also of one that changes nothing; they may unwatch, and free the library's session,
-// while they are called.
-void tellWatchers(Session& session, std::uint32_t id, std::int32_t value, std::int32_t old) {
+// while they are called. Apart, since nearly every write is of a setting that nobody watches.
+[[gnu::cold, gnu::noinline]] void tellWatchers(Session& session, std::uint32_t id, std::int32_t value,
+                                               std::int32_t old) {
     const std::vector<Watch> told = session.watches;
     for (const Watch& watch : told)
         if (watch.id == id) watch.watch(session.handle(SessionPart::Session), id, value, old);

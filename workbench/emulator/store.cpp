@@ -1,5 +1,6 @@
 #include "emulator/store.h"
 
+#include <algorithm>
 #include <array>
 #include <functional>
 #include <string>
@@ -100,7 +101,12 @@ std::uint32_t lock(ZhstStore store, ZhstStorePart handle) {
 void setItem(ZhstStore store, ZhstStorePart handle, const void* bytes, std::uint32_t length) {
     Part* part = find(store, handle, PartKind::Item);
     if (!part || !parts[part->parent - 1].locked) return;
-    part->item->value.assign(static_cast<const char*>(bytes), length);
+    std::string& value = part->item->value;
+    // Most have the length of the value before, and then their bytes are all there is to do.
+    if (value.size() == length)
+        std::copy_n(static_cast<const char*>(bytes), length, value.data());
+    else
+        value.assign(static_cast<const char*>(bytes), length);
     ++part->item->writes;
     if (!listener) return;
     const std::array<char, 4> code = characters(part->code);
