@@ -15,21 +15,23 @@ constexpr char HostBlank = 0x40;
 
 bool isDigit(char character) { return character >= '0' && character <= '9'; }
 
-// The digits of a working text.
+// The digits of a working text, a zero in front of them.
 class Digits {
 public:
     // False at a character that cannot stand there.
     bool read(const WorkingText& text) {
-        std::memset(digits_, 0, text.length);
+        std::memset(digits_, 0, text.length + 1);
         const char* const first = text.characters + (text.hasSign ? 1 : 0);
         const char* const end = text.characters + text.length;
         const char* const point = text.hasPoint() ? text.characters + text.pointAt() : end;
         isNegative_ = text.hasSign && text.characters[0] == '-';
-        std::uint8_t* const fraction = readSide(first, point, digits_);
-        return fraction && (point == end || readSide(point + 1, end, fraction));
+        end_ = readSide(first, point, digits_ + 1);
+        if (end_ && point != end) end_ = readSide(point + 1, end, end_);
+        return end_ != nullptr;
     }
-    std::uint8_t operator[](std::uint32_t place) const { return digits_[place]; }
+    const std::uint8_t* begin() const { return digits_ + 1; }
     bool isNegative() const { return isNegative_; }
+    void append(std::uint8_t nibble) { *end_++ = nibble; }
 
 private:
     // Gives the place behind the last digit; null for a failure.
@@ -50,7 +52,8 @@ private:
         return next;
     }
 
-    std::uint8_t digits_[WorkingText::Capacity];
+    std::uint8_t digits_[1 + WorkingText::Capacity + 1];
+    std::uint8_t* end_ = digits_ + 1;
     bool isNegative_ = false;
     bool isSeen_ = false;  // a digit
 };
@@ -60,8 +63,10 @@ private:
 bool textToZoned(const WorkingText& text, char* destination, std::uint32_t digits) {
     Digits source;
     if (digits == 0 || text.digitPositions() != digits || !source.read(text)) return false;
-    for (std::uint32_t at = 0; at < digits; ++at) destination[at] = static_cast<char>(sign::HostZone + source[at]);
-    if (source.isNegative()) destination[digits - 1] = static_cast<char>(sign::HostNegativeZone + source[digits - 1]);
+    for (std::uint32_t at = 0; at < digits; ++at)
+        destination[at] = static_cast<char>(sign::HostZone + source.begin()[at]);
+    if (source.isNegative())
+        destination[digits - 1] = static_cast<char>(sign::HostNegativeZone + source.begin()[digits - 1]);
     return true;
 }
 
@@ -72,13 +77,10 @@ bool textToPacked(const WorkingText& text, char* destination, std::uint32_t byte
     const bool isPadded = count + 1 == places;
     Digits source;
     if (bytes == 0 || (count != places && !isPadded) || !source.read(text)) return false;
-    std::uint32_t place = 0;
-    for (std::uint32_t at = 0; at < bytes; ++at) {
-        const std::uint8_t high = at == 0 && isPadded ? 0 : source[place++];
-        const bool isLast = at + 1 == bytes;
-        destination[at] = sign::ofNibbles(
-            high, isLast ? source.isNegative() ? sign::HostNegative : sign::HostPositive : source[place++]);
-    }
+    source.append(source.isNegative() ? sign::HostNegative : sign::HostPositive);
+    const std::uint8_t* nibbles = source.begin() - (isPadded ? 1 : 0);
+    for (std::uint32_t at = 0; at < bytes; ++at, nibbles += 2)
+        destination[at] = sign::ofNibbles(nibbles[0], nibbles[1]);
     return true;
 }
 
