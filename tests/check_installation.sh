@@ -8,6 +8,7 @@ cmake --install "$build" --prefix "$prefix" >/dev/null
 mv "$prefix" "$prefix.moved" # it may stand anywhere
 prefix=$prefix.moved
 cd "$prefix"
+export Z7X_DATA_FOLDER=$PWD/data
 failed=0
 # expect WHAT WANTED COMMAND...: the command's output holds the text.
 expect() {

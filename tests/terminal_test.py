@@ -72,6 +72,7 @@ def main():
         os.environ.pop(name, None)
     folder = tempfile.mkdtemp()
     os.chdir(folder)
+    os.environ["Z7X_DATA_FOLDER"] = folder
     failed = 0
     try:
         shutil.copy(os.path.join(os.path.dirname(program), "sample.db"), "my.db")

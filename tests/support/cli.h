@@ -35,5 +35,6 @@ protected:
     }
 
     const std::filesystem::path program_ = std::filesystem::absolute(binFolder()) / "z7xfer";
-    std::map<std::string, std::optional<std::string>> environment_ = {{"DISPLAY", {}}, {"WAYLAND_DISPLAY", {}}};
+    std::map<std::string, std::optional<std::string>> environment_ = {
+        {"DISPLAY", {}}, {"WAYLAND_DISPLAY", {}}, {"Z7X_DATA_FOLDER", path("data")}};
 };

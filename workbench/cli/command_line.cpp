@@ -39,6 +39,7 @@ void setUp(CLI::App& program, CommandLine& line) {
     addDemo(program, line);
     addBrowse(program, line);
     addSettings(program, line);
+    addHost(program, line);
     addCommon(program, line);
 }
 

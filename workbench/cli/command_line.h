@@ -9,7 +9,7 @@
 #include "questions.h"
 #include "settings.h"
 
-enum class Command { Receive, Send, Demo, Browse, Settings };
+enum class Command { Receive, Send, Demo, Browse, Settings, Host };
 
 // What the user asked for.
 struct CommandLine {
@@ -23,6 +23,9 @@ struct CommandLine {
     std::int32_t fileCount = 1;
     std::string settingsFile, journalFile;  // empty: none
     std::string providerFolder, hostData;   // empty: beside the program
+    bool noClobber = false;                 // a receive leaves a PC file that exists
+    bool appends = false;                   // a send adds to the records of its member
+    bool reset = false;                     // the host of the user's own is made anew
     std::optional<questions::StandingAnswer> answer;
     bool quiet = false;
 };

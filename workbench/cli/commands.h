@@ -11,6 +11,7 @@ void addSend(CLI::App& program, CommandLine& line);
 void addDemo(CLI::App& program, CommandLine& line);
 void addBrowse(CLI::App& program, CommandLine& line);
 void addSettings(CLI::App& program, CommandLine& line);
+void addHost(CLI::App& program, CommandLine& line);
 
 // A command of this name, which is `line`'s when it is given.
 CLI::App* addCommand(CLI::App& program, CommandLine& line, const std::string& name, Command which,

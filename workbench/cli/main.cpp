@@ -5,6 +5,8 @@
 #include "browse.h"
 #include "command_line.h"
 #include "console.h"
+#include "host_command.h"
+#include "own_host.h"
 #include "process.h"
 #include "settings_page.h"
 #include "tally.h"
@@ -38,13 +40,28 @@ bool runSettingsFile(ZhstSession session, const std::string& file, const Command
     }
 }
 
+fs::path sampleHost() { return process::executableFolder() / "sample.db"; }
+
+enum class Use { Read, Write };
+
+// What reads, reads what was sent.
+void chooseHost(const CommandLine& line, Use use) {
+    fs::path host = line.hostData;
+    if (host.empty()) host = use == Use::Read ? own_host::toRead(sampleHost()) : own_host::toWrite(sampleHost());
+    process::setEnvironment("Z7X_HOST_DATA", host.string());
+}
+
 void setUpPc(const CommandLine& line, const fs::path& folder) {
     if (!emulator::setUpPc(line.pc)) {
         throw std::invalid_argument("a PC with the code pages " + std::to_string(line.pc.ansiCodePage) + " and " +
                                     std::to_string(line.pc.oemCodePage) + " cannot be set up");
     }
     emulator::setProviderFolder(line.providerFolder.empty() ? (folder / "providers").string() : line.providerFolder);
-    process::setEnvironment("Z7X_HOST_DATA", line.hostData.empty() ? (folder / "sample.db").string() : line.hostData);
+    if (line.appends && !line.providerFolder.empty())
+        throw std::invalid_argument(
+            "--create append is for the sample host; other providers would replace the records");
+    chooseHost(line, Use::Read);
+    process::setEnvironment("Z7X_SEND_APPENDS", line.appends ? "1" : "0");
     process::setEnvironment("Z7X_PC_CODE_PAGE", std::to_string(line.pc.ansiCodePage));
 }
 
@@ -63,6 +80,7 @@ ZhstSession openSession(const CommandLine& line, const PcText& pcText) {
     const ZhstSession session = emulator::newSession();
     apply(session, defaultSettings(), pcText);
     if (Pager::isWanted()) emulator::set(session, zhst::setting::DisplayRowsPerPage, Pager::rowsPerPage());
+    if (questions::canBeAsked()) emulator::set(session, zhst::setting::ExistingFileAction, zhst::value::AskUser);
     applyCommandLine(session, line, pcText);
     emulator::Clauses clauses = line.clauses;
     for (std::string* clause :
@@ -92,8 +110,10 @@ Tally runCommand(const TransferLibrary& library, ZXFRPCSCLIENT* client, const Co
         return !settingsRefused;
     });
     const bool sending = line.command == Command::Send;
-    // The user of the terminal releases them.
-    if (!sending) emulator::holdFiles();
+    if (sending)
+        chooseHost(line, Use::Write);
+    else
+        emulator::holdFiles();  // the user of the terminal releases them
     library.transferFile(client, line.settingsFile.c_str(), sending ? ToHost : ToPc, 1, 0);
     emulator::forgetHeldFiles();
     emulator::setSettingsFileReader(nullptr);
@@ -146,6 +166,7 @@ int main(int argc, char** argv) {
             printSettings(std::cout, line->filter);
             return ExitComplete;
         }
+        if (line->command == Command::Host) return hostCommand(*line, sampleHost());
         return transfer(*line);
     } catch (const std::invalid_argument& error) {
         std::cerr << "z7xfer: " << error.what() << std::endl;

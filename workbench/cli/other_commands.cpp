@@ -32,3 +32,11 @@ void addSettings(CLI::App& program, CommandLine& line) {
         ->check([](const std::string& name) { return reasonAgainst([&] { settingsLike(name); }); })
         ->type_name("");
 }
+
+void addHost(CLI::App& program, CommandLine& line) {
+    CLI::App* app = addCommand(program, line, "host", Command::Host,
+                               "Tell where the host of your own is, which takes what is sent");
+    app->add_flag("--reset", line.reset,
+                  "make it anew from the sample, when you confirm it; what was sent to it is lost");
+    addCommon(*app, line);
+}

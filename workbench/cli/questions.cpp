@@ -94,11 +94,13 @@ bool goesOn(Choices choices, std::int32_t button) {
     return button == YesOrNo[0].button || std::any_of(choices.begin(), choices.end() - 1, isIt);
 }
 
+bool canBeAsked() { return console::isTerminal(Stream::Input) && console::isTerminal(Stream::Error); }
+
 std::int32_t ask(Choices choices, const std::optional<StandingAnswer>& standing) {
     if (standing && standing->button) return *standing->button;
     const auto given = standing ? fitting(choices, standing->word) : std::nullopt;
     if (given) return *given;
-    if (console::isTerminal(Stream::Input) && console::isTerminal(Stream::Error)) return askAtTerminal(choices);
+    if (canBeAsked()) return askAtTerminal(choices);
     std::cerr << "z7xfer: nobody is there to answer " << listed(choices) << "; --answer " << choices.front().word
               << " goes on" << std::endl;
     return choices.back().button;

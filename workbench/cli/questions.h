@@ -50,6 +50,9 @@ std::optional<std::int32_t> fitting(Choices choices, std::string_view word);
 // Whether a button of the box goes on, rather than leaves everything as it was.
 bool goesOn(Choices choices, std::int32_t button);
 
+// There is a person at the terminal.
+bool canBeAsked();
+
 // Asks at the terminal until an answer fits. Without a person there, or at the end of the input, it says so and
 // declines. A standing answer that fits is taken without asking; one that does not is none.
 std::int32_t ask(Choices choices, const std::optional<StandingAnswer>& standing);

@@ -2,6 +2,33 @@
 #include "setting_options.h"
 
 namespace setting = zhst::setting;
+namespace value = zhst::value;
+
+namespace {
+
+void addExistingFile(CLI::App& app, CommandLine& line) {
+    const auto action = [&app, &line](const char* name, std::int32_t number, const char* help) {
+        return app.add_flag_callback(
+            name,
+            [&line, number] {
+                line.options.push_back({setting::ExistingFileAction, number});
+            },
+            help);
+    };
+    CLI::Option* append = action("--append", value::Append, "add to a PC file that exists");
+    CLI::Option* force = action("--force", value::Replace, "replace a PC file that exists, without a question");
+    CLI::Option* leave = app.add_flag_callback(
+        "--no-clobber",
+        [&line] {
+            line.options.push_back({setting::ExistingFileAction, value::AskUser});
+            line.noClobber = true;
+        },
+        "leave a PC file that exists as it is");
+    append->excludes(force)->excludes(leave);
+    force->excludes(leave);
+}
+
+}  // namespace
 
 void addReceive(CLI::App& program, CommandLine& line) {
     CLI::App* app = addCommand(program, line, "receive", Command::Receive, "Receive records of host files");
@@ -20,5 +47,6 @@ void addReceive(CLI::App& program, CommandLine& line) {
     options.flag("--count", setting::RecordProgress, "count the records first, for a progress in percent");
     options.description("--describe", setting::WriteDescriptionFile, setting::ReceiveDescriptionFile,
                         "write a description of the PC file, beside it; *.fdf takes its name, a path stands as it is");
+    addExistingFile(*app, line);
     addCommon(*app, line);
 }

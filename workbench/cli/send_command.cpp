@@ -1,7 +1,40 @@
+#include <algorithm>
+
 #include "commands.h"
 #include "setting_options.h"
+#include "suggestions.h"
 
 namespace setting = zhst::setting;
+
+namespace {
+
+// A word more than the setting has: no request adds to a member, so the sample host is told beside the one for a member
+// that exists.
+constexpr const char* Append = "append";
+
+void addCreate(CLI::App& app, CommandLine& line) {
+    std::vector<std::string> words;
+    for (const emulator::SettingValueRow& row : emulator::valuesOf(settingRow(setting::CreateMode)))
+        words.emplace_back(row.word);
+    words.emplace_back(Append);
+    app.add_option_function<std::string>(
+           "--create",
+           [&line](const std::string& word) {
+               line.appends = word == Append;
+               if (line.appends)
+                   line.options.push_back({setting::CreateMode, zhst::value::ReplaceMember});
+               else
+                   line.options.push_back(parseValue(setting::CreateMode, word));
+           },
+           "make a new file and its member, or a new member, or replace an existing member's records (when not given), "
+           "which --answer replace confirms, or append to them")
+        ->check([words](const std::string& word) {
+            return std::find(words.begin(), words.end(), word) != words.end() ? "" : notOneOf(word, words);
+        })
+        ->type_name(CLI::detail::generate_set(words));
+}
+
+}  // namespace
 
 void addSend(CLI::App& program, CommandLine& line) {
     CLI::App* app = addCommand(program, line, "send", Command::Send, "Send a PC file to a host file");
@@ -14,9 +47,7 @@ void addSend(CLI::App& program, CommandLine& line) {
                         "description of the PC file, beside it; a data file needs one");
     options.flag("--source", setting::HostFileType, "the host file is a source file");
     options.number("--record-length", setting::RecordLength, "record length of a new source file, 92 when not given");
-    options.choice("--create", setting::CreateMode,
-                   "create the file and its member, or a member, or replace an existing member's data (when not "
-                   "given), which --answer replace confirms");
+    addCreate(*app, line);
     options.text("--reference", setting::ReferenceFile, "file that a new file takes its fields from")
         ->type_name("LIB/FILE");
     options.choice("--authority", setting::PublicAuthority, "public authority of a new file");

@@ -100,6 +100,7 @@ Tally transferTally(const TerminalUser& user, const PcText& pcText, ZhstSession 
         case Ending::NoRecords:
             return {"failed: 0 records, " + amounts.target() + " was not written", ExitFailed};
         case Ending::Declined:
+            if (user.leavesFiles()) return {"cancelled: " + amounts.target() + " exists and is as it was", ExitFailed};
             return {"cancelled: not confirmed (--answer replace confirms), " + amounts.target(), ExitFailed};
         case Ending::Closed:
             return {stopped("closed", amounts), ExitComplete};

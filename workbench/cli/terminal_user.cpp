@@ -105,6 +105,7 @@ void TerminalUser::printMessage(const emulator::MessageBox& box) {
 }
 
 std::int32_t TerminalUser::answer(const emulator::MessageBox& box) {
+    if (isQuestion(box) && line_.noClobber) return questions::choicesOf(box).back().button;
     if (isQuestion(box)) return questions::ask(questions::choicesOf(box), line_.answer);
     constexpr std::int32_t Ok = 1;
     return line_.answer ? line_.answer->button.value_or(Ok) : Ok;

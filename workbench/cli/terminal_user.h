@@ -23,6 +23,7 @@ public:
     void onCancel(std::function<void()> cancel) { cancel_ = std::move(cancel); }
 
     const TransferWatch& watch() const { return watch_; }
+    bool leavesFiles() const { return line_.noClobber; }
 
     std::int32_t showMessage(const emulator::MessageBox& box) override;
     bool connectionDialog() override;

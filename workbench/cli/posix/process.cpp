@@ -25,6 +25,16 @@ std::filesystem::path executableFolder() {
 
 void setEnvironment(const char* name, const std::string& value) { setenv(name, value.c_str(), 1); }
 
+std::filesystem::path environmentPath(const char* name) { return isSet(name) ? std::getenv(name) : ""; }
+
+const char* const DataFolderVariables = "XDG_DATA_HOME nor HOME";
+
+std::filesystem::path dataFolder() {
+    const std::filesystem::path data = environmentPath("XDG_DATA_HOME"), home = environmentPath("HOME");
+    if (data.is_absolute()) return data;  // a relative one is to be ignored
+    return home.empty() ? home : home / ".local" / "share";
+}
+
 bool hasDesktop() { return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY"); }
 
 std::int32_t openOnDesktop(const std::string& path) {

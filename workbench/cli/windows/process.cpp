@@ -18,6 +18,18 @@ std::filesystem::path executableFolder() {
 // Through the C library, whose own copy is what std::getenv reads; it passes the change on to the process.
 void setEnvironment(const char* name, const std::string& value) { _putenv((name + ("=" + value)).c_str()); }
 
+std::filesystem::path environmentPath(const char* name) {
+    const wchar_t* value = _wgetenv(std::filesystem::path(name).c_str());
+    return value != nullptr ? value : L"";
+}
+
+const char* const DataFolderVariables = "LOCALAPPDATA nor APPDATA";
+
+std::filesystem::path dataFolder() {
+    const std::filesystem::path local = environmentPath("LOCALAPPDATA");
+    return local.empty() ? environmentPath("APPDATA") : local;
+}
+
 bool hasDesktop() { return true; }
 
 std::int32_t openOnDesktop(const std::string& path) {
