@@ -5,7 +5,6 @@
 namespace client {
 namespace {
 
-constexpr std::uint32_t CleanupSlot = 104;  // the emulator's for file transfer
 constexpr std::uint32_t RequestCapacity = 4096;
 
 ZXFRPCSCLIENT* currentClient = nullptr;
@@ -41,7 +40,7 @@ ZXFRPCSCLIENT* createClient(services::SessionHandle session) {
     client->tfSession = makeTransferFunctionSession(session);
     client->requestText = makeRequestText();
     client->workText = services::Owned<text::TextBuffer>::make();
-    services::RegisterCleanup(session, CleanupSlot, xferCleanup);
+    services::RegisterCleanup(session, ZhstTransferCleanupSlot, xferCleanup);
     return client;
 }
 
@@ -51,7 +50,7 @@ void destroyClient(ZXFRPCSCLIENT* client) {
     client->tfSession.reset();
     client->requestText.reset();
     client->workText.reset();
-    services::RegisterCleanup(client->session, CleanupSlot, nullptr);
+    services::RegisterCleanup(client->session, ZhstTransferCleanupSlot, nullptr);
     if (client == currentClient) {
         currentClient = nullptr;
         currentSession = 0;

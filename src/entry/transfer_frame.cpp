@@ -16,19 +16,15 @@ namespace {
 namespace id = zhst::setting;
 using services::Direction;
 
-// The application command that runs a settings file; its argument is a text.
-constexpr std::uint32_t SettingsFileCommand = 67;
-constexpr std::uint32_t SettingsFileSubCode = 24;
-constexpr std::uint32_t SettingsFileMode = 3;
-constexpr std::uint32_t TextArgument = 32;
 constexpr std::uint32_t WorkingDirectorySize = 261;
 
 constexpr std::uint32_t PcFileOpenFlags = 11;  // of the emulator's file object, for a file that is transferred
 constexpr char TraceFileName[] = "XFERLOG.TXT";
 
 bool runSettingsFile(const ZXFRPCSCLIENT& client, const char* settingsFile) {
-    const services::AppCommandArgument argument = {TextArgument, settingsFile};
-    services::RunAppCommand(client.appHandle, SettingsFileCommand, SettingsFileSubCode, SettingsFileMode, &argument);
+    const services::AppCommandArgument argument = {ZhstTextArgument, settingsFile};
+    services::RunAppCommand(client.appHandle, ZhstRunSettingsFile, ZhstRunSettingsFileSubCode, ZhstRunSettingsFileMode,
+                            &argument);
     if (services::CheckCommandFailed(client.settings)) {
         // It is 0 already; whoever watches it hears that the transfer is over.
         services::SetSetting(client.settings, id::TransferActive, 0);

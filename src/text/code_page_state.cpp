@@ -14,17 +14,6 @@ namespace {
 constexpr std::uint32_t ConversionFailed = 1;
 constexpr std::int32_t CodePage43 = 43;
 
-constexpr std::uint32_t SingleByteKind = 1;
-constexpr std::uint32_t PairsToHostKind = 5;
-constexpr std::uint32_t PairsToPcKind = 6;
-constexpr std::uint32_t PairTableSize = 66073;
-constexpr std::uint32_t SingleToHostOffset = 8;
-constexpr std::uint32_t SingleToPcOffset = 776;
-constexpr std::uint32_t RowIndexOffset = 25;
-constexpr std::uint32_t RowsOffset = 537;
-constexpr std::uint32_t RowSize = 512;
-constexpr std::uint32_t RowCount = 128;
-
 constexpr char ShiftOut = 0x0E;
 constexpr char ShiftIn = 0x0F;
 constexpr char PcBlank = 0x20;
@@ -33,10 +22,10 @@ constexpr std::uint16_t HostBlankPair = 0x4040;
 
 // The converted pair, first byte high; `unknown` when the table has none.
 std::uint16_t convertedPair(const services::OwnedBytes& table, const char* pair, std::uint16_t unknown) {
-    const std::uint32_t row = bytes::at(table.data(), RowIndexOffset + bytes::at(pair, 0));
-    if (row >= RowCount) return unknown;  // 255: the first byte of no pair; the table ends behind its last row
+    const std::uint32_t row = bytes::at(table.data(), ZhstPairRowNumbers + bytes::at(pair, 0));
+    if (row >= ZhstPairRowCount) return unknown;  // 255: the first byte of no pair; the table ends behind its last row
     const std::uint16_t converted =
-        bytes::lowFirst16(table.data() + RowsOffset + row * RowSize + 2 * bytes::at(pair, 1));
+        bytes::lowFirst16(table.data() + ZhstPairRows + row * ZhstPairRowSize + 2 * bytes::at(pair, 1));
     return converted ? converted : unknown;
 }
 
@@ -73,13 +62,13 @@ void CodePageState::setHostCodePage(std::int32_t hostCodePage) {
 
 // All three are filled even when one of the large ones finds no memory: the other direction still works.
 void CodePageState::loadDoubleByteTables(std::int32_t hostCodePage) {
-    dbcsToPcTable_ = services::OwnedBytes::make(PairTableSize, true);
-    dbcsToHostTable_ = services::OwnedBytes::make(PairTableSize, true);
+    dbcsToPcTable_ = services::OwnedBytes::make(ZhstPairTableSize, true);
+    dbcsToHostTable_ = services::OwnedBytes::make(ZhstPairTableSize, true);
     if (dbcsToPcTable_)
-        services::LoadCodeTable(session_, dbcsToPcTable_.data(), PairsToPcKind, hostCodePage, PairTableSize);
+        services::LoadCodeTable(session_, dbcsToPcTable_.data(), ZhstPairsToPc, hostCodePage, ZhstPairTableSize);
     if (dbcsToHostTable_)
-        services::LoadCodeTable(session_, dbcsToHostTable_.data(), PairsToHostKind, hostCodePage, PairTableSize);
-    services::LoadCodeTable(session_, singleByteTables_, SingleByteKind, hostCodePage, sizeof(singleByteTables_));
+        services::LoadCodeTable(session_, dbcsToHostTable_.data(), ZhstPairsToHost, hostCodePage, ZhstPairTableSize);
+    services::LoadCodeTable(session_, singleByteTables_, ZhstSingleByteTables, hostCodePage, sizeof(singleByteTables_));
 }
 
 std::uint32_t CodePageState::hostToPcText(const char* source, char* destination, std::uint32_t length,
@@ -133,7 +122,7 @@ std::uint32_t CodePageState::dbcsHostToPc(std::uint32_t length, char* buffer) co
         if (*read == ShiftOut || *read == ShiftIn) {
             doubleByte = *read++ == ShiftOut;
         } else if (!doubleByte) {
-            *write++ = singleByteTables_[SingleToPcOffset + bytes::at(read++, 0)];
+            *write++ = singleByteTables_[ZhstSingleBytesToPc + bytes::at(read++, 0)];
         } else if (end - read < 2) {
             *write++ = PcBlank;  // half a pair
             ++read;
@@ -168,7 +157,7 @@ std::uint32_t CodePageState::dbcsPcToHost(std::uint32_t length, const char* sour
             out.put(pair[1]);
             source += 2;
         } else {
-            out.put(singleByteTables_[SingleToHostOffset + bytes::at(source++, 0)]);
+            out.put(singleByteTables_[ZhstSingleBytesToHost + bytes::at(source++, 0)]);
         }
     }
     return 0;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "Z7XFRPCS/code_tables.h"
 #include "services/conversion.h"
 #include "services/objects.h"
 #include "services/owned.h"
@@ -10,12 +11,6 @@ namespace text {
 
 // Everything that the conversion of text between the host's code page and the PC's depends on. A transfer-function
 // session owns one.
-//
-// Code tables, as the emulator fills them:
-//   kind 1, 2824 bytes: single bytes, PC to host at offset 8, host to PC at offset 776 (256 entries each)
-//   kinds 5 (PC to host) and 6 (host to PC), 66073 bytes: a row number per first byte at offset 25 (255 = no row), rows
-//   of 256 entries of 16 bits from offset 537 on, low byte first; the entry's high 8 bits are the first byte of the
-//   pair
 class CodePageState {
 public:
     // Both handles of the conversion services, obtained once; no code page yet.
@@ -51,7 +46,7 @@ private:
     bool dbcsTablesLoaded_ = false;
     services::OwnedBytes dbcsToPcTable_;    // kind 6
     services::OwnedBytes dbcsToHostTable_;  // kind 5
-    char singleByteTables_[2824] = {};
+    char singleByteTables_[ZhstSingleByteTableSize] = {};
 };
 
 }  // namespace text

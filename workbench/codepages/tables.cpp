@@ -1,6 +1,8 @@
 // What the emulator and the PC make of a pair of code pages.
 #include <algorithm>
 
+#include "Z7XFRPCS/code_tables.h"
+#include "Z7XFRPCS/session.h"
 #include "codepages.h"
 
 namespace codepages {
@@ -8,10 +10,6 @@ namespace {
 
 using ByteTable = std::array<std::uint8_t, 256>;
 
-constexpr std::uint32_t SingleByteKind = 1, PcToHostKind = 5, HostToPcKind = 6;
-constexpr std::size_t SingleByteTableLength = 2824, PcToHostBytes = 8, HostToPcBytes = 776;
-constexpr std::size_t PairTableLength = 66073, RowIndex = 25, Rows = 537, RowLength = 512, RowCount = 128;
-constexpr std::uint8_t NoRow = 255;
 constexpr std::uint16_t TwoPcBlanks = 0x2020;
 
 ByteTable convertBytes(const CodePage& from, const CodePage& to) {
@@ -31,10 +29,10 @@ ByteTable identity() {
 }
 
 std::vector<std::uint8_t> singleByteTable(const CodePage& host, const CodePage& pc) {
-    std::vector<std::uint8_t> table(SingleByteTableLength);
+    std::vector<std::uint8_t> table(ZhstSingleByteTableSize);
     const ByteTable toHost = pcToHost(pc, host), toPc = hostToPc(host, pc);
-    std::copy(toHost.begin(), toHost.end(), table.begin() + PcToHostBytes);
-    std::copy(toPc.begin(), toPc.end(), table.begin() + HostToPcBytes);
+    std::copy(toHost.begin(), toHost.end(), table.begin() + ZhstSingleBytesToHost);
+    std::copy(toPc.begin(), toPc.end(), table.begin() + ZhstSingleBytesToPc);
     return table;
 }
 
@@ -71,17 +69,17 @@ std::vector<std::uint8_t> firstBytesWithRow(const CodePage& from, const CodePage
         if (use == RowUse::PrivateOnly) privateOnly.push_back(std::uint8_t(first));
     }
     characters.insert(characters.end(), privateOnly.begin(), privateOnly.end());
-    if (characters.size() > RowCount) characters.resize(RowCount);
+    if (characters.size() > ZhstPairRowCount) characters.resize(ZhstPairRowCount);
     return characters;
 }
 
 std::vector<std::uint8_t> pairTable(const CodePage& from, const CodePage& to, std::uint16_t missing) {
-    std::vector<std::uint8_t> table(PairTableLength);
-    std::fill_n(table.begin() + RowIndex, 256, NoRow);
+    std::vector<std::uint8_t> table(ZhstPairTableSize);
+    std::fill_n(table.begin() + ZhstPairRowNumbers, 256, ZhstPairNoRow);
     std::uint8_t row = 0;
     for (const std::uint8_t first : firstBytesWithRow(from, to)) {
-        auto* out = table.data() + Rows + RowLength * row;
-        table[RowIndex + first] = row++;
+        auto* out = table.data() + ZhstPairRows + ZhstPairRowSize * row;
+        table[ZhstPairRowNumbers + first] = row++;
         for (unsigned second = 0; second < 256; ++second) {
             const std::uint16_t pair = convertPair(from, to, first, std::uint8_t(second));
             const std::uint16_t entry = pair != 0 ? pair : missing;
@@ -110,11 +108,11 @@ std::array<std::uint8_t, 256> pcToHost(const CodePage& pc, const CodePage& host)
 
 std::vector<std::uint8_t> codeTable(std::uint32_t kind, const CodePage& host, const CodePage& pc) {
     switch (kind) {
-        case SingleByteKind:
+        case ZhstSingleByteTables:
             return singleByteTable(host, pc);
-        case PcToHostKind:
+        case ZhstPairsToHost:
             return pairTable(pc, host, 0);
-        case HostToPcKind:
+        case ZhstPairsToPc:
             return pairTable(host, pc, TwoPcBlanks);
         default:
             return {};
