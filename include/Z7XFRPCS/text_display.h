@@ -84,10 +84,11 @@ void ZHST_CALL zhstTextDisplaySetCell(ZhstTextDisplay display, const char* text,
 /* Sets the status line.
    - display: in, the display
    - text: in, text 432 of table 7 while a full page waits for the user, else text 418
-   When: behind every row. */
+   When: behind every row; behind text 432 the library calls PumpMessages until one of the two notifications has come.
+ */
 void ZHST_CALL zhstTextDisplaySetStatus(ZhstTextDisplay display, const char* text);
 
-/* No more rows follow. The window stays until the user closes it.
+/* No more rows follow. The window stays until the user closes it: the library calls PumpMessages until it is notified.
    - display: in, the display
    When: behind the last row. */
 void ZHST_CALL zhstTextDisplayEnd(ZhstTextDisplay display);

@@ -223,7 +223,8 @@ Shown with flags 0x30, the number as help topic where the row says nothing else,
 says so. The user's answer makes no difference.)") +
                        table({"Number", "Name", "Inserts", "Shown when, and what follows", "Sentence of the stand-in"});
 #define MESSAGE(number, name, inserts, use) \
-    text += row({std::to_string(number), #name, inserts, use, std::string(catalogue::findMessage(number).text)});
+    text += row(                            \
+        {std::to_string(number), #name, inserts, std::string(use), std::string(catalogue::findMessage(number).text)});
     ZHST_MESSAGES(MESSAGE)
 #undef MESSAGE
     text +=
@@ -234,10 +235,10 @@ Fetched with `LoadMessageText`, at most 99 characters (39 for 418, 443 and 444; 
 boxes: their number is what `MessageId` makes of table and index.
 
 )" + table({"Table", "Index", "Name", "Inserts", "Flags", "Help", "Goes on with", "Use", "Sentence of the stand-in"});
-#define TEXT(table, index, name, inserts, flags, help, goesOn, use)                                                 \
-    text += row({std::to_string(table), std::to_string(index), #name, inserts, (flags) ? hexadecimal(flags) : "",   \
-                 (help) ? std::to_string(help) : "", (flags) ? (goesOn) ? std::to_string(goesOn) : "any" : "", use, \
-                 std::string(catalogue::findText(table, index).text)});
+#define TEXT(table, index, name, inserts, flags, help, goesOn, use)                                               \
+    text += row({std::to_string(table), std::to_string(index), #name, inserts, (flags) ? hexadecimal(flags) : "", \
+                 (help) ? std::to_string(help) : "", (flags) ? (goesOn) ? std::to_string(goesOn) : "any" : "",    \
+                 std::string(use), std::string(catalogue::findText(table, index).text)});
     ZHST_TEXTS(TEXT)
 #undef TEXT
     text +=
