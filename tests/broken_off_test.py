@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""What transfers leave that break off in the middle: cancelled by a signal, and on a disk that is full.
+"""What transfers leave that break off in the middle, cancelled by a signal or on a disk that is full; and that one from
+a pipe does not.
 
     broken_off_test.py Z7XFER
 """
@@ -45,7 +46,6 @@ def fill(pipe, record, filled):
 
 
 def cancelled_send():
-    # Records without ends: those of a text are read again from where the last whole one ended, which no pipe can do.
     transfer("receive", "QGPL/CUST", "c.dat", "--type", "none", "--describe", "*.fdf")
     before = transfer("receive", "QGPL/CUST", "-", "--type", "none")[1]
     os.mkfifo("pipe.dat")
@@ -58,6 +58,15 @@ def cancelled_send():
     expect("last line", "cancelled after" in told and told.endswith("; the host kept none of them\n"), told)
     expect("status", send.returncode != 0, send.returncode)
     expect("member", transfer("receive", "QGPL/CUST", "-", "--type", "none")[1] == before, told)
+
+
+def piped_send():
+    transfer("receive", "WORLD/ZONE", "zone.csv", "--describe", "*.fdf")
+    with subprocess.Popen(["cat", "zone.csv"], stdout=subprocess.PIPE) as cat:
+        told = transfer("send", f"/dev/fd/{cat.stdout.fileno()}", "WORLD/ZONE(PIPED)", "--create", "member",
+                        "--description", os.path.abspath("zone.fdf"), pass_fds=[cat.stdout.fileno()])
+    back = transfer("receive", "WORLD/ZONE(PIPED)", "-")[1]
+    expect("from a pipe", open("zone.csv", "rb").read() == back, told)
 
 
 def full_disk():
@@ -84,5 +93,6 @@ with tempfile.TemporaryDirectory() as folder:
     os.chdir(folder)
     shutil.copy(os.path.join(os.path.dirname(program), "sample.db"), "my.db")
     cancelled_send()
+    piped_send()
     full_disk()
 sys.exit("\n".join(failed) or 0)

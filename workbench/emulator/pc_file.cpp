@@ -57,6 +57,7 @@ void PcFile::beginReading() {
     std::setvbuf(read_, piece_.data(), _IOFBF, PieceSize);
     hasPlaces_ = std::ftell(read_) >= 0;  // a pipe has none
     place_ = 0;
+    again_.clear();
 }
 
 bool PcFile::openForWriting() {
@@ -87,15 +88,33 @@ PcFile::Choice PcFile::choose() const {
 
 std::int32_t PcFile::read(void* buffer, std::uint32_t maximum) {
     if (!read_) return fail("read", EBADF), -1;
-    std::size_t count = std::fread(buffer, 1, maximum, read_);
+    std::size_t count = takeAgain(static_cast<char*>(buffer), maximum);
+    count += std::fread(static_cast<char*>(buffer) + count, 1, maximum - count, read_);
     // A signal in the wait for a pipe is no end of its data.
     while (count < maximum && std::ferror(read_) && errno == EINTR) {
         std::clearerr(read_);
         count += std::fread(static_cast<char*>(buffer) + count, 1, maximum - count, read_);
     }
     if (count == 0 && std::ferror(read_)) return fail("read", errno), -1;
+    if (!hasPlaces_) lastRead_.assign(static_cast<char*>(buffer), count);
     place_ += count;
     return static_cast<std::int32_t>(count);
+}
+
+// What a pipe was asked to go back to.
+std::size_t PcFile::takeAgain(char* buffer, std::size_t maximum) {
+    const std::size_t count = again_.copy(buffer, maximum);
+    again_.erase(0, count);
+    return count;
+}
+
+// A pipe goes back as far as the last read began, which is as far as any send goes.
+bool PcFile::goBackInPipe(std::uint64_t position) {
+    const std::uint64_t back = place_ - position;
+    if (position > place_ || back > lastRead_.size()) return false;
+    again_ = lastRead_.substr(lastRead_.size() - static_cast<std::size_t>(back));
+    place_ = position;
+    return true;
 }
 
 bool PcFile::write(const void* bytes, std::uint32_t length) {
@@ -140,11 +159,11 @@ void* PcFile::readWhole() {
 
 // A file that is written goes on at its end.
 void PcFile::setPosition(std::uint32_t position) {
-    if (!read_) return;
+    if (!read_ || (!hasPlaces_ && goBackInPipe(position))) return;
     if (std::fseek(read_, static_cast<long>(position), SEEK_SET) == 0)
         place_ = position;
     else
-        trouble_->note(name_, "read", systemReason(errno));
+        fail("read", errno);
 }
 
 // Asked for behind every record; the stream would ask the operating system.

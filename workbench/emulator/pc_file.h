@@ -47,6 +47,8 @@ private:
     Choice choose() const;
     Choice askUser() const;
     void beginReading();
+    std::size_t takeAgain(char* buffer, std::size_t maximum);
+    bool goBackInPipe(std::uint64_t position);
     bool fail(const char* doing, int error) { return trouble_->tell(name_, doing, systemReason(error)); }
     std::string path() const;
 
@@ -58,8 +60,10 @@ private:
     std::unique_ptr<WrittenFile> written_;
     std::FILE* read_ = nullptr;
     std::vector<char> piece_;  // the buffer of the stream that is read
-    std::uint64_t place_ = 0;  // of that, while it has places
-    bool hasPlaces_ = false;
+    std::uint64_t place_ = 0;  // of that
+    bool hasPlaces_ = false;   // a pipe has none that can be gone to
+    std::string lastRead_;     // of a pipe
+    std::string again_;        // what its next read begins with
 };
 
 }  // namespace emulator
