@@ -53,14 +53,14 @@ class Page:
         self.title = self.tokens[headings[0] + 1].content
 
     def links(self):
+        """Each with what it begins with."""
         for token in self.tokens:
-            for child in token.children or []:
-                if child.type == "link_open":
-                    yield child
+            inside = token.children or []
+            yield from (pair for pair in zip(inside, inside[1:]) if pair[0].type == "link_open")
 
     def bind(self, pages):
         """Leads links to pages instead of their sources; yields those to headings that are not there."""
-        for link in self.links():
+        for link, text in self.links():
             target = urlsplit(link.attrGet("href"))
             page = pages.get(Path(os.path.normpath(self.path.parent / target.path))) if target.path else self
             if target.scheme or not page:
@@ -68,6 +68,7 @@ class Page:
             if target.fragment and target.fragment not in page.anchors:
                 yield f"{self.path}: {page.path} has no heading called #{target.fragment}"
             if target.path:
+                text.content = text.content.removesuffix(".md")
                 link.attrSet("href", self.way_to(page) + ("#" + target.fragment if target.fragment else ""))
 
     def way_to(self, page):
