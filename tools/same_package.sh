@@ -1,7 +1,7 @@
 #!/bin/bash
-# Shows that the package for Windows hangs on nothing but the sources: copies them into two folders, builds the package in
-# both, and compares the two files byte for byte. Takes as long as two builds without tests; not part of ./test.
-#   tools/same_package.sh [FOLDER]    FOLDER, or a temporary one, is where the copies stand
+# Shows that the package for Windows hangs on nothing but the sources: clones the last commit into two folders, builds the
+# package in both, and compares the two files byte for byte. Takes as long as two builds without tests; not part of ./test.
+#   tools/same_package.sh [FOLDER]    FOLDER, or a temporary one, is where the clones stand
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . tools/setup.sh
@@ -15,9 +15,8 @@ install_packages "${BUILD_PACKAGES[@]}"
 install_windows_packages
 
 # What was already made of SQLite's source package will do: it is the same file wherever it is made.
-copy_sources() {
-    mkdir -p "$1"
-    git ls-files -z | tar --null --files-from - --create | tar --extract --directory "$1"
+clone_sources() {
+    git clone --quiet . "$1"
     [ ! -d build/windows-sqlite ] || { mkdir -p "$1/build" && cp -r build/windows-sqlite "$1/build/"; }
 }
 
@@ -35,10 +34,10 @@ build_package() (
     cpack --config CPackConfig.cmake
 )
 
-for copy in "$work/one" "$work/another/further/down"; do
-    echo "Building in $copy" >&2
-    copy_sources "$copy"
-    build_package "$copy" >"$work/log" 2>&1 || { tail -n 50 "$work/log" >&2; exit 1; }
+for clone in "$work/one" "$work/another/further/down"; do
+    echo "Building in $clone" >&2
+    clone_sources "$clone"
+    build_package "$clone" >"$work/log" 2>&1 || { tail -n 50 "$work/log" >&2; exit 1; }
 done
 sha256sum "$work"/one/build/windows/*.zip "$work"/another/further/down/build/windows/*.zip
 cmp "$work"/one/build/windows/*.zip "$work"/another/further/down/build/windows/*.zip
