@@ -18,7 +18,7 @@ BESIDE = ["workbench", "tests", "bench", "fuzz", "examples"]
 PLATFORMS = ["posix", "windows"]
 CODE = [".h", ".cpp", ".c"]
 # As the build has them.
-INCLUDE_PATHS = LIBRARY + BESIDE + ["workbench/codepages", "."]
+INCLUDE_PATHS = LIBRARY + BESIDE + ["workbench/codepages", "workbench/cli", "."]
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*[<"]([^>"]+)[>"]', re.MULTILINE)
 # A list of what is allowed: nobody can name all the headers of two operating systems. Names without ".h" are C++'s own.
