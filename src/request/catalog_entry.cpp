@@ -71,10 +71,8 @@ public:
         messages::loadText(client.session, text, label);
         append({label, LabelSize});
     }
-    void trimEnd() {
-        length_ = text::trimmedEnd({entry_.name, length_}).size();
-        entry_.name[length_] = '\0';
-    }
+    // What is appended next goes over the blanks.
+    void trimEnd() { length_ = text::trimmedEnd({entry_.name, length_}).size(); }
 
 private:
     HostCatalogEntry& entry_;

@@ -12,7 +12,7 @@ std::optional<std::uint32_t> parseUnsigned(std::string_view text, std::uint32_t 
     if (startsWithNoCase(digits, "0x")) {
         base = 16;
         digits.remove_prefix(2);
-    } else if (digits.size() > 1 && digits[0] == '0') {
+    } else if (digits.starts_with('0')) {
         base = 8;
     }
     std::uint32_t value = 0;
