@@ -14,9 +14,11 @@ fi
 install_packages "${BUILD_PACKAGES[@]}"
 install_windows_packages
 
+commit=$(git rev-parse HEAD)
 # What was already made of SQLite's source package will do: it is the same file wherever it is made.
 clone_sources() {
     git clone --quiet . "$1"
+    git -C "$1" checkout --quiet --detach "$commit"
     [ ! -d build/windows-sqlite ] || { mkdir -p "$1/build" && cp -r build/windows-sqlite "$1/build/"; }
 }
 
