@@ -317,8 +317,9 @@ Texts of table 7, of at most 99 characters; the help topic is the index.
         R"(
 ## Codes of the emulator's own providers
 
-Texts of table 22, and of table 45 where the router kind is 2, by the code itself. The transports 5, 7, 8, 9, 13,
-14, 15 and 30 have them; for the others, and for a code that no list holds, there is no text and the help topic is )" +
+Texts of table 22, or of table 45 with router kind 2 and another transport than 30, by the code itself. The transports )" +
+        transportsThat([](const provider::Transport& each) { return each.family != provider::Family::Ibm; }) +
+        R"( have them; for the others, and for a code that no list holds, there is no text and the help topic is )" +
         std::to_string(ZhstHelpReturnCode) + ".\n\n" +
         table({"Code", "Help", "Text of the stand-in, table 22", "Table 45"});
 #define CODE(code_, help, ...)                                                    \
