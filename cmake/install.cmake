@@ -4,6 +4,7 @@
 # providers look for what they load beside themselves. The program is found by its name in bin/.
 set(home lib/z7xfer)
 install(TARGETS z7xfer Z7XFRPCS z7xemulator z7xpc RUNTIME DESTINATION ${home} LIBRARY DESTINATION ${home})
+install(TARGETS looking_provider LIBRARY DESTINATION ${home}/looking)
 install(FILES ${CMAKE_BINARY_DIR}/bin/codepages.dat DESTINATION ${home})
 if(TARGET z7xas400)
     install(TARGETS E32TFW E32APPC ZEHNTFW ZTFWAPPC AS4XFER LIBRARY DESTINATION ${home}/providers)

@@ -4,6 +4,7 @@
 # --- bin: everything that runs, and what it reads -----------------------------------------------------------------
 
 install(TARGETS Z7XFRPCS z7xemulator z7xfer RUNTIME DESTINATION bin)
+install(TARGETS looking_provider LIBRARY DESTINATION bin/looking)
 install(FILES ${CMAKE_BINARY_DIR}/bin/codepages.dat DESTINATION bin)
 if(TARGET z7xas400)
     install(TARGETS E32TFW E32APPC ZEHNTFW ZTFWAPPC AS4XFER LIBRARY DESTINATION bin/providers)

@@ -10,6 +10,7 @@
 #include "emulator/messages.h"
 #include "emulator/modules.h"
 #include "emulator/path_services.h"
+#include "emulator/pc_file.h"
 #include "emulator/platform_side.h"
 #include "emulator/sessions.h"
 #include "emulator/store.h"
@@ -41,6 +42,7 @@ void reset() {
     resetHeldFiles();
     resetMessages();
     resetPathServices();
+    resetReadingStart();
     resetStore();
     resetModules();
     memory::reset();

@@ -95,7 +95,16 @@ void setCodePageDataFile(const std::string& path);
 // The folder in which provider libraries are looked for, by LoadModule and by the path services' "file exists", without
 // regard to case; behind it both look for a PC file of the name. Otherwise the folder "providers" beside the emulator
 // library. LoadModule gives 2 for a file that is not there and 193 for one that is no library.
-void setProviderFolder(const std::string& folder);
+// Gives the folder that was set before.
+std::string setProviderFolder(const std::string& folder);
+
+// From now on a PC file that is opened for reading begins with `lead`, and goes on with the file's bytes from `offset`
+// on; its size and its positions are those of what is read. For a program that goes through a file in several runs.
+struct ReadingStart {
+    std::string lead;
+    std::uint64_t offset = 0;
+};
+void setReadingStart(const ReadingStart& start);
 
 // --- Sessions and their settings ---------------------------------------------------------------------------------
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <utility>
 
 #include "Z7XFRPCS/runtime.h"
 #include "emulator/emulator.h"
@@ -50,7 +51,7 @@ std::uint32_t load(const char* name, ZhstModule* module) {
 
 }  // namespace
 
-void setProviderFolder(const std::string& folder) { wantedFolder = folder; }
+std::string setProviderFolder(const std::string& folder) { return std::exchange(wantedFolder, folder); }
 
 std::optional<std::string> findLibrary(const char* name) {
     if (!name || !*name) return std::nullopt;

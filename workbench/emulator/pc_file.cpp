@@ -18,7 +18,12 @@ namespace files = std::filesystem;
 
 constexpr std::size_t PieceSize = 64 * 1024;
 
+ReadingStart readingStart;
+
 }  // namespace
+
+void setReadingStart(const ReadingStart& start) { readingStart = start; }
+void resetReadingStart() { readingStart = {}; }
 
 void PcFile::setName(const char* name) { name_ = name ? name : ""; }
 
@@ -48,16 +53,17 @@ bool PcFile::openForReading() {
     if (files::is_directory(path(), ignored)) return fail("opened", EISDIR);
     read_ = openNative(path(), "rb");
     if (!read_) return fail("opened", errno);
-    beginReading();
-    return true;
+    return beginReading();
 }
 
-void PcFile::beginReading() {
+bool PcFile::beginReading() {
     piece_.resize(PieceSize);
     std::setvbuf(read_, piece_.data(), _IOFBF, PieceSize);
     hasPlaces_ = std::ftell(read_) >= 0;  // a pipe has none
     place_ = 0;
     again_.clear();
+    start_ = hasPlaces_ ? readingStart : ReadingStart{};
+    return start_.offset == 0 || seek(0);
 }
 
 bool PcFile::openForWriting() {
@@ -88,15 +94,16 @@ PcFile::Choice PcFile::choose() const {
 
 std::int32_t PcFile::read(void* buffer, std::uint32_t maximum) {
     if (!read_) return fail("read", EBADF), -1;
-    std::size_t count = takeAgain(static_cast<char*>(buffer), maximum);
-    count += std::fread(static_cast<char*>(buffer) + count, 1, maximum - count, read_);
+    auto* const bytes = static_cast<char*>(buffer);
+    std::size_t count = hasPlaces_ ? takeLead(bytes, maximum) : takeAgain(bytes, maximum);
+    count += std::fread(bytes + count, 1, maximum - count, read_);
     // A signal in the wait for a pipe is no end of its data.
     while (count < maximum && std::ferror(read_) && errno == EINTR) {
         std::clearerr(read_);
-        count += std::fread(static_cast<char*>(buffer) + count, 1, maximum - count, read_);
+        count += std::fread(bytes + count, 1, maximum - count, read_);
     }
     if (count == 0 && std::ferror(read_)) return fail("read", errno), -1;
-    if (!hasPlaces_) lastRead_.assign(static_cast<char*>(buffer), count);
+    if (!hasPlaces_) lastRead_.assign(bytes, count);
     place_ += count;
     return static_cast<std::int32_t>(count);
 }
@@ -115,6 +122,11 @@ bool PcFile::goBackInPipe(std::uint64_t position) {
     again_ = lastRead_.substr(lastRead_.size() - static_cast<std::size_t>(back));
     place_ = position;
     return true;
+}
+
+std::size_t PcFile::takeLead(char* buffer, std::size_t maximum) const {
+    if (place_ >= start_.lead.size()) return 0;
+    return start_.lead.copy(buffer, maximum, static_cast<std::size_t>(place_));
 }
 
 bool PcFile::write(const void* bytes, std::uint32_t length) {
@@ -136,7 +148,7 @@ std::uint32_t PcFile::size() {
     if (written_) return static_cast<std::uint32_t>(written_->position());
     std::error_code error;
     const auto size = files::file_size(path(), error);
-    if (!error) return static_cast<std::uint32_t>(size);
+    if (!error) return static_cast<std::uint32_t>(read_ ? size - start_.offset + start_.lead.size() : size);
     trouble_->note(name_, "opened", error.message());
     return 0;
 }
@@ -159,11 +171,15 @@ void* PcFile::readWhole() {
 
 // A file that is written goes on at its end.
 void PcFile::setPosition(std::uint32_t position) {
-    if (!read_ || (!hasPlaces_ && goBackInPipe(position))) return;
-    if (std::fseek(read_, static_cast<long>(position), SEEK_SET) == 0)
-        place_ = position;
-    else
-        fail("read", errno);
+    if (read_ && (hasPlaces_ || !goBackInPipe(position))) seek(position);
+}
+
+// The lead stands in front of the file's bytes.
+bool PcFile::seek(std::uint64_t position) {
+    const std::uint64_t place = start_.offset + (position < start_.lead.size() ? 0 : position - start_.lead.size());
+    if (std::fseek(read_, static_cast<long>(place), SEEK_SET) != 0) return fail("read", errno);
+    place_ = position;
+    return true;
 }
 
 // Asked for behind every record; the stream would ask the operating system.

@@ -7,10 +7,13 @@
 #include <vector>
 
 #include "Z7XFRPCS/types.h"
+#include "emulator/emulator.h"
 #include "emulator/file_trouble.h"
 #include "emulator/written_file.h"
 
 namespace emulator {
+
+void resetReadingStart();
 
 // What a file object keeps of its file, which is read and written in large pieces. What the operating system refuses is
 // told to the user once: at once by an opening, a read, a write or a close, by errorState() after the operations that
@@ -46,9 +49,11 @@ private:
 
     Choice choose() const;
     Choice askUser() const;
-    void beginReading();
+    bool beginReading();
     std::size_t takeAgain(char* buffer, std::size_t maximum);
     bool goBackInPipe(std::uint64_t position);
+    std::size_t takeLead(char* buffer, std::size_t maximum) const;
+    bool seek(std::uint64_t position);
     bool fail(const char* doing, int error) { return trouble_->tell(name_, doing, systemReason(error)); }
     std::string path() const;
 
@@ -60,6 +65,7 @@ private:
     std::unique_ptr<WrittenFile> written_;
     std::FILE* read_ = nullptr;
     std::vector<char> piece_;  // the buffer of the stream that is read
+    ReadingStart start_;       // of that
     std::uint64_t place_ = 0;  // of that
     bool hasPlaces_ = false;   // a pipe has none that can be gone to
     std::string lastRead_;     // of a pipe
