@@ -28,6 +28,8 @@ struct CommandLine {
     bool reset = false;                     // the host of the user's own is made anew
     std::optional<questions::StandingAnswer> answer;
     bool quiet = false;
+    // Of send: whether the file is only checked, not at all, and whether what changes on the way may.
+    bool checkOnly = false, unchecked = false, allowChanges = false;
 };
 
 inline constexpr int ExitComplete = 0;

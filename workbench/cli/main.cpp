@@ -3,9 +3,11 @@
 #include <stdexcept>
 
 #include "browse.h"
+#include "check_before_send.h"
 #include "command_line.h"
 #include "console.h"
 #include "host_command.h"
+#include "host_layout.h"
 #include "own_host.h"
 #include "process.h"
 #include "settings_page.h"
@@ -121,11 +123,35 @@ Tally runCommand(const TransferLibrary& library, ZXFRPCSCLIENT* client, const Co
     return transferTally(user, pcText, session, sending);
 }
 
+// What keeps a send from running, or a file from being sent. The settings file, which the library runs later, counts.
+std::optional<Tally> check(const TransferLibrary& library, const CommandLine& line, const PcText& pcText,
+                           const fs::path& folder, ZhstSession session) {
+    if (line.command != Command::Send || line.unchecked) return std::nullopt;
+    const ZhstSession checked = copyOfSession(session);
+    if (!line.settingsFile.empty() && !runSettingsFile(checked, line.settingsFile, line, pcText))
+        return Tally{"failed before any record, the settings file was refused", ExitFailed};
+    if (emulator::number(checked, zhst::setting::ConnectionType) == zhst::value::DemonstrationConnection)
+        return std::nullopt;
+    return checkBeforeSend(library, pcText, line, folder, checked);
+}
+
 bool writeJournal(const std::string& file, std::ofstream& stream) {
     for (const std::string& entry : emulator::journal()) stream << entry << '\n';
     stream.flush();
     if (!stream) std::cerr << "z7xfer: " << file << " cannot be written" << std::endl;
     return static_cast<bool>(stream);
+}
+
+Tally run(const TransferLibrary& library, const CommandLine& line, const PcText& pcText, ZhstSession session) {
+    emulator::journalOn(!line.journalFile.empty());
+    TerminalUser user(line, pcText, session);
+    emulator::setUserInterface(&user);
+    ZXFRPCSCLIENT* client = library.newClient(session);
+    if (client == nullptr) throw std::runtime_error("the library made no client");
+    Tally tally = runCommand(library, client, line, pcText, user, session);
+    library.deleteClient(client);
+    emulator::setUserInterface(nullptr);
+    return tally;
 }
 
 int transfer(const CommandLine& line) {
@@ -137,22 +163,17 @@ int transfer(const CommandLine& line) {
     if (!line.journalFile.empty()) {
         journalStream.open(line.journalFile, std::ios::binary);
         if (!journalStream) throw std::invalid_argument(line.journalFile + " cannot be written");
-        emulator::journalOn(true);
     }
 
     const TransferLibrary library = loadTransferLibrary(folder);
-    TerminalUser user(line, pcText, session);
-    emulator::setUserInterface(&user);
     console::catchInterrupts();
-    ZXFRPCSCLIENT* client = library.newClient(session);
-    if (client == nullptr) throw std::runtime_error("the library made no client");
-    Tally tally = runCommand(library, client, line, pcText, user, session);
-    library.deleteClient(client);
-    if (!line.journalFile.empty() && !writeJournal(line.journalFile, journalStream)) tally.exitStatus = ExitFailed;
+    std::optional<Tally> tally = check(library, line, pcText, folder, session);
+    if (!tally) tally = run(library, line, pcText, session);
+    if (!line.journalFile.empty() && !writeJournal(line.journalFile, journalStream)) tally->exitStatus = ExitFailed;
     emulator::reset();
 
-    if (!line.quiet) std::cerr << "z7xfer: " << tally.text << std::endl;
-    return tally.exitStatus;
+    if (!line.quiet) std::cerr << "z7xfer: " << tally->text << std::endl;
+    return tally->exitStatus;
 }
 
 }  // namespace

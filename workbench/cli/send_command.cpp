@@ -53,6 +53,11 @@ void addSend(CLI::App& program, CommandLine& line) {
     options.choice("--authority", setting::PublicAuthority, "public authority of a new file");
     options.text("--file-text", setting::FileText, "text of a new file");
     options.text("--member-text", setting::MemberText, "text of a new member");
+    CLI::Option* check = app->add_flag("--check", line.checkOnly,
+                                       "tell what would not arrive as it is written, and send nothing; without this "
+                                       "option a file is checked before it is sent");
+    app->add_flag("--no-check", line.unchecked, "send without a check")->excludes(check);
+    app->add_flag("--allow-changes", line.allowChanges, "send although some things will not arrive as written");
     options.number("--start-record", setting::StartRecord, "first record of the PC file that is sent, from 1");
     addCommon(*app, line);
 }

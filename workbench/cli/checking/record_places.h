@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "checking/pc_file_form.h"
+
+namespace checking {
+
+// Where the records of a PC file stand. Walks through the file on its own, only when it is asked, and only forward.
+class RecordPlaces {
+public:
+    // `recordBytes` is the length of the records that have no ends.
+    RecordPlaces(const std::string& path, const PcFileForm& form, std::uint32_t recordBytes);
+
+    // Goes to the record of an index, counted from 0; of a DIF file the header is 0 and the row of the names 1. Stops
+    // at the end of the file.
+    void moveTo(std::uint64_t index);
+
+    std::uint64_t index() const { return index_; }
+    std::uint64_t offset() const { return offset_; }  // bytes in front of it
+    std::uint64_t line() const { return line_; }      // of its beginning, counted from 1
+    std::string name() const;                         // "record 3 (line 4)", "row 4 (line 57)"
+
+private:
+    static constexpr int End = -1;
+
+    int byte() {
+        if (next_ == piece_.size() && !readPiece()) return End;
+        return static_cast<unsigned char>(piece_[next_]);
+    }
+    bool readPiece();
+    void step();
+    void passLine();
+    void passTuple();
+
+    std::ifstream file_;
+    const PcFileForm& form_;
+    std::uint32_t recordBytes_;
+    std::vector<char> piece_;
+    std::size_t next_ = 0;
+    std::uint64_t index_ = 0, offset_ = 0, line_ = 1;
+    std::string text_;  // the first letters of the line that was passed last
+};
+
+}  // namespace checking
