@@ -44,6 +44,7 @@ def converse(command, dialogue):
 
 # Arguments, what is typed once something is shown, status, what is shown and what is not.
 replace = ["send", "c.csv", "QGPL/CUST", "--description", "c.fdf", "--host-data", "my.db"]
+changing = ["send", "long.csv", "QGPL/CUST(LONG)", "--create", "member"] + replace[3:]
 receive = ["receive", "QGPL/CUST", "c.txt", "--set", "ExistingFileAction=0"]
 question = "replace or no? [no] "
 screen = ["receive", "WORLD/COUNTRY", "--output", "screen"]
@@ -56,6 +57,8 @@ Cases = [
     (replace, [(question, "\x04")], 1, ["not confirmed"], []),
     (replace + ["--answer", "append"], [(question, "no\n")], 1, ["not confirmed"], []),
     (replace + ["--answer", "REPLACE"], [], 0, ["complete: 10 records"], [question]),
+    (changing, [("send or no? [no] ", "\n")], 1, ["41 bytes, the field 25", "not sent"], ["complete"]),
+    (changing, [("send or no? [no] ", "s\n")], 0, ["41 bytes, the field 25", "complete: 1 record"], []),
     (receive, [], 0, ["complete: 10 records"], ["?"]),
     (receive, [("replace, append or no? [no] ", "a\n")], 0, ["complete: 10 records"], []),
     (["demo"], [(page, " "), (done, "q")], 0, ["complete: 23 records", ("LAST  ", 2)], []),
@@ -77,6 +80,8 @@ def main():
     try:
         shutil.copy(os.path.join(os.path.dirname(program), "sample.db"), "my.db")
         converse([program, "receive", "QGPL/CUST", "c.csv", "--describe", "*.fdf"], [])
+        with open("long.csv", "w") as file:
+            file.write("7,A name that is much longer than its field,S,US,5,1,1.5,2,.5,F0F1\n")
         for arguments, dialogue, status, present, absent in Cases:
             ended, shown, left = converse([program] + arguments, list(dialogue))
             wrong = [f"{text!r} was not shown" for text in present if isinstance(text, str) and text not in shown]
