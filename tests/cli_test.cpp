@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "support/cli.h"
 
@@ -105,6 +106,43 @@ TEST_F(Cli, EveryFamilyOfProvidersGivesTheSameFile) {
         expect(1, "receive QGPL/NONE" + options, "HSF1011 File NONE in library QGPL not found.");
         EXPECT_TRUE(file.empty() || read("c.csv") == file) << transport;
         file = read("c.csv");
+    }
+}
+
+// Behind the records where they take standard output, else on it.
+TEST_F(Cli, ProgramsReadOneObject) {
+    const struct {
+        int status;  // or another failure
+        const char* arguments;
+        bool onErrors;
+        std::vector<const char*> members;
+    } cases[] = {
+        {0,
+         "receive QGPL/CUST c.csv --describe '*.fdf'",
+         false,
+         {R"({"command":"receive","status":0,"outcome":"complete","text":"complete: 10 records)", R"("records":10,)",
+          R"("pcFile":"c.csv","hostFile":"QGPL/CUST","messages":[]})"}},
+        {0, "receive QGPL/CUST", true, {R"("records":10,)", R"(,"hostFile":"QGPL/CUST")"}},
+        {0, "demo", true, {R"("records":23,)"}},
+        {1,
+         "receive QGPL/NONE n.csv",
+         false,
+         {R"("outcome":"failed",)", R"("records":0,)", R"("messages":[{"id":4416,"text":"HSF1011 File NONE)"}},
+        {0, "browse WORLD/", false, {R"("entries":[{"name":")", R"(,"description":")"}},
+        {0, "browse QGPL/CUST --fields", false, {R"({"name":"CUSTNO",)", R"("type":")"}},
+        {0,
+         "settings DateFormat",
+         false,
+         {R"({"settings":[{"number":125,"name":"DateFormat","kind":"choice",)", R"("word":"iso","meaning":")"}},
+    };
+    for (const auto& [status, arguments, onErrors, members] : cases) {
+        const Outcome outcome = run(std::string(arguments) + " --json");
+        EXPECT_EQ(outcome.status != 0, status != 0) << arguments;
+        const std::string object = lastLine(onErrors ? outcome.errors : outcome.output);
+        EXPECT_EQ(object.front(), '{') << arguments;
+        EXPECT_EQ(object.back(), '}') << arguments;
+        for (const char* member : members)
+            EXPECT_NE(object.find(member), std::string::npos) << member << "\n" << object;
     }
 }
 

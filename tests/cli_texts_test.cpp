@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/json.h"
 #include "cli/pc_text.h"
 #include "cli/progress_line.h"
 #include "cli/suggestions.h"
@@ -67,6 +68,27 @@ TEST(CliTexts, CellsOfATextNeverHoldHalfACharacter) {
                  {"日本語", 1, 4, " 本 "}, {"日本語", 0, 3, "日 "}, {"ÄÖÜ", 1, 1, "Ö"}, {"abc", 0, 0, ""}};
     for (const auto& [text, first, count, cells] : cases)
         EXPECT_EQ(cellsOf(text, first, count), cells) << text << first;
+}
+
+TEST(CliTexts, JsonTakesAnyBytes) {
+    using std::string_literals::operator""s;
+    const std::pair<std::string, const char*> cases[] = {
+        {"plain Ä 日 😀", "\"plain Ä 日 😀\""},
+        {"\"\\/\b\t\n\r"s, R"("\"\\/\u0008\t\n\r")"},
+        {"\0\x1F\x7F"s, R"("\u0000\u001F\u007F")"},
+        {"\x80\xC0\xAF\xFF", "\"\uFFFD\uFFFD\uFFFD\uFFFD\""},
+        {"\xC3", "\"\uFFFD\""},
+        {"\xC3(", "\"\uFFFD(\""},
+        {"\xE0\x9F\xBF", "\"\uFFFD\uFFFD\uFFFD\""},                    // longer than needed
+        {"\xED\xA0\x80", "\"\uFFFD\uFFFD\uFFFD\""},                    // half of a pair
+        {"\xED\x9F\xBF\xEE\x80\x80", "\"\xED\x9F\xBF\xEE\x80\x80\""},  // the characters around those
+        {"\xF4\x8F\xBF\xBF", "\"\U0010FFFF\""},
+        {"\xF4\x90\x80\x80", "\"\uFFFD\uFFFD\uFFFD\uFFFD\""}};
+    for (const auto& [bytes, text] : cases) EXPECT_EQ(json::string(bytes), text);
+    const std::vector<std::string> none, two = {json::string("a"), "2"};
+    EXPECT_EQ(json::Object().number("n", -5).truth("t", false).value("a", json::array(two)).whole(),
+              R"({"n":-5,"t":false,"a":["a",2]})");
+    EXPECT_EQ(json::array(none) + json::Object().whole(), "[]{}");
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "console.h"
+#include "json.h"
 
 namespace {
 
@@ -37,6 +38,20 @@ void printEntry(const HostCatalogEntry& entry, const PcText& pcText, bool fields
     std::cout << line << '\n';
 }
 
+// For a program: a field's entry is a text of several, name TAB description LF type and length.
+std::string entryObject(const HostCatalogEntry& entry, const PcText& pcText, bool fields) {
+    const std::string name = pcText.toTerminal(fieldText(entry.name));
+    const std::size_t tab = fields ? name.find('\t') : std::string::npos;
+    const std::size_t line = tab == std::string::npos ? tab : name.find('\n', tab);
+    json::Object object;
+    object.text("name", trimmedEnd(std::string_view(name).substr(0, tab)));
+    if (!fields) object.text("description", trimmedEnd(pcText.toTerminal(fieldText(entry.description))));
+    if (tab != std::string::npos)
+        object.text("description", trimmedEnd(std::string_view(name).substr(tab + 1, line - tab - 1)));
+    if (line != std::string::npos) object.text("type", trimmedEnd(std::string_view(name).substr(line + 1)));
+    return object.whole();
+}
+
 }  // namespace
 
 Tally browse(const TransferLibrary& library, const CommandLine& line, const PcText& pcText, const TerminalUser& user,
@@ -45,9 +60,14 @@ Tally browse(const TransferLibrary& library, const CommandLine& line, const PcTe
     entry.entryKind = line.fields ? CatalogFieldListing : 0;
     entry.fileCount = line.fileCount;
     std::uint64_t entries = 0;
+    std::vector<std::string> objects;
     std::uint32_t result = library.firstHostFilename(session, pcText.toPc(line.filter).c_str(), &entry);
     while (result == CatalogEntryDelivered && !console::interrupted()) {
-        printEntry(entry, pcText, line.fields);
+        if (line.json) {
+            objects.push_back(entryObject(entry, pcText, line.fields));
+        } else {
+            printEntry(entry, pcText, line.fields);
+        }
         ++entries;
         entry.name[0] = entry.description[0] = '\0';
         result = library.nextHostFilename(session, &entry);
@@ -55,7 +75,9 @@ Tally browse(const TransferLibrary& library, const CommandLine& line, const PcTe
     std::cout.flush();
 
     const std::string amount = grouped(entries) + (entries == 1 ? " entry" : " entries");
-    if (console::interrupted() || user.watch().isCancelled()) return {"cancelled after " + amount, ExitFailed};
-    if (result == CatalogFailure) return {"failed after " + amount, ExitFailed};
-    return {"complete: " + amount, ExitComplete};
+    Tally tally{"complete: " + amount, ExitComplete};
+    if (result == CatalogFailure) tally = {"failed after " + amount, ExitFailed};
+    if (console::interrupted() || user.watch().isCancelled()) tally = {"cancelled after " + amount, ExitFailed};
+    tally.entries = std::move(objects);
+    return tally;
 }

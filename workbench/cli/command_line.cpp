@@ -65,6 +65,7 @@ std::optional<CommandLine> parseCommandLine(int argc, char** argv, int* exitStat
     setUp(program, line);
     try {
         program.parse(argc, argv);
+        line.commandName = program.get_subcommands().front()->get_name();
         return line;
     } catch (const CLI::ParseError& error) {
         *exitStatus = program.exit(error) == 0 ? ExitComplete : ExitUsage;

@@ -14,6 +14,7 @@ enum class Command { Receive, Send, Demo, Browse, Settings, Host };
 // What the user asked for.
 struct CommandLine {
     Command command = Command::Receive;
+    std::string commandName;
     std::vector<Assignment> options;  // what names and options stand for
     std::vector<Assignment> sets;     // --set, which has the last word
     emulator::Clauses clauses;
@@ -30,6 +31,7 @@ struct CommandLine {
     bool quiet = false;
     // Of send: whether the file is only checked, not at all, and whether what changes on the way may.
     bool checkOnly = false, unchecked = false, allowChanges = false;
+    bool json = false;  // the tally, or what is listed, is for a program
 };
 
 inline constexpr int ExitComplete = 0;

@@ -17,5 +17,8 @@ void addHost(CLI::App& program, CommandLine& line);
 CLI::App* addCommand(CLI::App& program, CommandLine& line, const std::string& name, Command which,
                      const std::string& help);
 
+// For a program that reads what is told.
+void addJson(CLI::App& app, CommandLine& line);
+
 // What every command and the program itself take.
 void addCommon(CLI::App& app, CommandLine& line);

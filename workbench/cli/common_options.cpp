@@ -30,6 +30,13 @@ void addPc(CLI::App& app, CommandLine& line) {
 
 }  // namespace
 
+void addJson(CLI::App& app, CommandLine& line) {
+    app.add_flag("--json", line.json,
+                 "tally, or what is listed, as one line of JSON on standard output; behind records that are written "
+                 "there, on standard error")
+        ->group("Common options");
+}
+
 void addCommon(CLI::App& app, CommandLine& line) {
     const std::string group = "Common options";
     app.add_option_function<std::vector<std::string>>(
@@ -59,6 +66,7 @@ void addCommon(CLI::App& app, CommandLine& line) {
         ->check([](const std::string& text) { return reasonAgainst([&] { questions::StandingAnswer::parse(text); }); })
         ->type_name("WORD")
         ->group(group);
+    addJson(app, line);
     app.add_flag("--quiet,-q", line.quiet, "no progress and no tally; messages are still shown")->group(group);
     addPc(app, line);
 }

@@ -10,6 +10,7 @@
 #include "host_layout.h"
 #include "own_host.h"
 #include "process.h"
+#include "report.h"
 #include "settings_page.h"
 #include "tally.h"
 #include "terminal_user.h"
@@ -135,6 +136,13 @@ std::optional<Tally> check(const TransferLibrary& library, const CommandLine& li
     return checkBeforeSend(library, pcText, line, folder, checked);
 }
 
+// Whether standard output is for records.
+bool writesToOutput(const CommandLine& line, ZhstSession session) {
+    if (line.command != Command::Receive && line.command != Command::Demo) return false;
+    return emulator::number(session, zhst::setting::ReceiveOutput) == zhst::value::ToDisplay ||
+           emulator::text(session, zhst::setting::PcFileName) == "-";
+}
+
 bool writeJournal(const std::string& file, std::ofstream& stream) {
     for (const std::string& entry : emulator::journal()) stream << entry << '\n';
     stream.flush();
@@ -151,6 +159,7 @@ Tally run(const TransferLibrary& library, const CommandLine& line, const PcText&
     Tally tally = runCommand(library, client, line, pcText, user, session);
     library.deleteClient(client);
     emulator::setUserInterface(nullptr);
+    tally.messages = user.messages();
     return tally;
 }
 
@@ -170,9 +179,14 @@ int transfer(const CommandLine& line) {
     std::optional<Tally> tally = check(library, line, pcText, folder, session);
     if (!tally) tally = run(library, line, pcText, session);
     if (!line.journalFile.empty() && !writeJournal(line.journalFile, journalStream)) tally->exitStatus = ExitFailed;
+    const bool hasRecordsOnOutput = writesToOutput(line, session);
     emulator::reset();
 
-    if (!line.quiet) std::cerr << "z7xfer: " << tally->text << std::endl;
+    if (line.json) {
+        (hasRecordsOnOutput ? std::cerr : std::cout) << report(line, *tally) << std::endl;
+    } else if (!line.quiet) {
+        std::cerr << "z7xfer: " << tally->text << std::endl;
+    }
     return tally->exitStatus;
 }
 
@@ -184,7 +198,8 @@ int main(int argc, char** argv) {
     if (!line) return exitStatus;
     try {
         if (line->command == Command::Settings) {
-            printSettings(std::cout, line->filter);
+            line->json ? void(std::cout << settingsReport(line->filter) << std::endl)
+                       : printSettings(std::cout, line->filter);
             return ExitComplete;
         }
         if (line->command == Command::Host) return hostCommand(*line, sampleHost());

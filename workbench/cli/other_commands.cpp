@@ -31,6 +31,7 @@ void addSettings(CLI::App& program, CommandLine& line) {
     app->add_option("NAME", line.filter, "a setting's name or number, or part of a name; all when not given")
         ->check([](const std::string& name) { return reasonAgainst([&] { settingsLike(name); }); })
         ->type_name("");
+    addJson(*app, line);
 }
 
 void addHost(CLI::App& program, CommandLine& line) {

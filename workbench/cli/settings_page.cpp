@@ -1,9 +1,11 @@
 #include "settings_page.h"
 
 #include <algorithm>
+#include <array>
 #include <iomanip>
 #include <string>
 
+#include "json.h"
 #include "settings.h"
 
 namespace {
@@ -72,7 +74,36 @@ void printWhole(std::ostream& out, const SettingRow& setting) {
         << reading(setting) << '\n';
 }
 
+// In the order of the enumerations.
+constexpr std::array<const char*, 4> KindWords = {"number", "choice", "switch", "text"};
+constexpr std::array<const char*, 3> WriterWords = {"user", "library", "both"};
+constexpr std::array<const char*, 3> ReadingWords = {"once", "live", "never"};
+
+std::string settingObject(const SettingRow& setting) {
+    json::Object object;
+    object.number("number", setting.number).text("name", setting.name);
+    object.text("kind", KindWords[static_cast<std::size_t>(setting.kind)]).text("meaning", setting.meaning);
+    object.text("default",
+                setting.kind == SettingKind::Text && defaultOf(setting) == "empty" ? "" : defaultOf(setting));
+    if (setting.longest != 0) object.number("longest", setting.longest);
+    object.text("writer", WriterWords[static_cast<std::size_t>(setting.writer)]);
+    object.text("reading", ReadingWords[static_cast<std::size_t>(setting.reading)]);
+    std::vector<std::string> values;
+    for (const SettingValueRow& row : emulator::valuesOf(setting)) {
+        json::Object value;
+        value.number("value", row.value).text("word", row.word).text("meaning", row.meaning);
+        values.push_back(value.whole());
+    }
+    return object.value("values", json::array(values)).whole();
+}
+
 }  // namespace
+
+std::string settingsReport(std::string_view name) {
+    std::vector<std::string> objects;
+    for (const SettingRow* setting : settingsLike(name)) objects.push_back(settingObject(*setting));
+    return json::Object().value("settings", json::array(objects)).whole();
+}
 
 void printSettings(std::ostream& out, std::string_view name) {
     const std::vector<const SettingRow*> settings = settingsLike(name);

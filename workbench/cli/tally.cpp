@@ -37,6 +37,14 @@ public:
         return records() + (amount ? ", " + counted(*amount, "byte") : "") + ", " + target();
     }
 
+    void put(Tally& tally) const {
+        const std::string file = text(setting::PcFileName);
+        tally.records = records_;
+        tally.bytes = bytes();
+        if (sending_ || (toFile() && file != "-")) tally.pcFile = file;
+        tally.hostFile = text(setting::HostFileName);
+    }
+
     std::string target() const {
         const std::string file = text(setting::PcFileName);
         if (sending_) return file + " to " + text(setting::HostFileName);
@@ -85,10 +93,7 @@ std::string stopped(const std::string& how, const Amounts& amounts) {
     return how + " after " + amounts.all() + (amounts.areKept() ? "" : "; the host kept none of them");
 }
 
-}  // namespace
-
-Tally transferTally(const TerminalUser& user, const PcText& pcText, ZhstSession session, bool sending) {
-    const Amounts amounts(user, pcText, session, sending);
+Tally endingOf(const TerminalUser& user, const Amounts& amounts, ZhstSession session) {
     switch (user.watch().ending()) {
         case Ending::Complete:
             if (emulator::number(session, setting::ConnectionType) == value::DemonstrationConnection) {
@@ -116,4 +121,13 @@ Tally transferTally(const TerminalUser& user, const PcText& pcText, ZhstSession 
     }
     if (amounts.arePartlyLost()) return {"failed: " + amounts.lost(), ExitFailed};
     return {stopped("failed", amounts) + silentReason(user.watch(), session), ExitFailed};
+}
+
+}  // namespace
+
+Tally transferTally(const TerminalUser& user, const PcText& pcText, ZhstSession session, bool sending) {
+    const Amounts amounts(user, pcText, session, sending);
+    Tally tally = endingOf(user, amounts, session);
+    amounts.put(tally);
+    return tally;
 }

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "terminal_user.h"
 
@@ -8,6 +11,11 @@
 struct Tally {
     std::string text;
     int exitStatus = ExitFailed;
+    // The same for a program; what is empty is not known, or there is none.
+    std::optional<std::uint64_t> records{}, bytes{};
+    std::string pcFile{}, hostFile{};
+    std::vector<ShownMessage> messages{};
+    std::vector<std::string> entries{};  // of a listing, as JSON
 };
 
 Tally transferTally(const TerminalUser& user, const PcText& pcText, ZhstSession session, bool sending);

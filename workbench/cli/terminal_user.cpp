@@ -100,6 +100,7 @@ std::int32_t TerminalUser::showMessage(const emulator::MessageBox& box) {
 }
 
 void TerminalUser::printMessage(const emulator::MessageBox& box) {
+    messages_.push_back({box.id, pcText_.toTerminal(box.text)});
     std::cerr << "z7xfer: message " << box.id << ": " << withoutControlsInLines(indented(pcText_.toTerminal(box.text)))
               << std::endl;
 }

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "command_line.h"
 #include "emulator/emulator.h"
@@ -12,6 +13,12 @@
 #include "questions.h"
 #include "text_table.h"
 #include "transfer_watch.h"
+
+// A message as it was shown.
+struct ShownMessage {
+    std::uint32_t id = 0;
+    std::string text;  // UTF-8
+};
 
 // The person at the terminal, as the emulator knows one: messages on standard error, the text display on standard
 // output, a progress bar where both may be seen, Ctrl-C for the cancel button.
@@ -24,6 +31,7 @@ public:
 
     const TransferWatch& watch() const { return watch_; }
     bool leavesFiles() const { return line_.noClobber; }
+    const std::vector<ShownMessage>& messages() const { return messages_; }
 
     std::int32_t showMessage(const emulator::MessageBox& box) override;
     bool connectionDialog() override;
@@ -60,6 +68,7 @@ private:
     ZhstSession session_;
     std::function<void()> cancel_;
     TransferWatch watch_;
+    std::vector<ShownMessage> messages_;
     ProgressBar bar_;
     TextTable table_;
     Pager pager_;
