@@ -1,12 +1,14 @@
 #!/bin/bash
 # Makes SQLite for the Windows build, which no package brings: Debian's own source, at the version of its release, compiled
-# into a static library in build/windows-sqlite, where the tool chain file looks. Done once; says why when it cannot be had.
-# Needs no root: apt keeps a list of sources of its own here, made from the archives this machine is set up with.
+# into a static library in build/windows-sqlite, where the tool chain file looks. Done once, and again when this script has
+# changed; says why when it cannot be had. Needs no root: apt keeps a list of sources of its own here, made from the
+# archives that this machine is set up with.
 set -euo pipefail
-cd "$(dirname "${BASH_SOURCE[0]}")/.."
+script=$(readlink -f "${BASH_SOURCE[0]}")
+cd "$(dirname "$script")/.."
 
 result=$PWD/build/windows-sqlite
-[ ! -e "$result/lib/libsqlite3.a" ] || exit 0
+[ ! "$result/lib/libsqlite3.a" -nt "$script" ] || exit 0
 
 for tool in apt-get dpkg-source tclsh make cc i686-w64-mingw32-gcc-posix; do
     command -v "$tool" >/dev/null || { echo "SQLite for Windows cannot be made: $tool is missing" >&2; exit 1; }
@@ -35,7 +37,7 @@ fetch() {
         -o "Dir::Cache=$state/cache" -o APT::Sandbox::User=root)
     # One of several archives may be out of reach.
     apt-get "${options[@]}" update || echo "apt-get update failed; trying with what came" >&2
-    (cd "$work" && apt-get "${options[@]}" source --only-source sqlite3)
+    (cd "$work" && apt-get "${options[@]}" source --only-source sqlite3 >"$work/log" 2>&1) || { cat "$work/log" >&2; return 1; }
 }
 
 # What is stored and how it is compared is the same on both systems: the options that matter are those of Debian's library.
