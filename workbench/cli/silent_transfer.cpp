@@ -10,7 +10,7 @@ constexpr std::int32_t Declined = 2;
 }  // namespace
 
 SilentTransfer::SilentTransfer(const TransferLibrary& library, ZhstSession session)
-    : library_(library), session_(session), client_(library.newClient(session)) {
+    : library_(library), client_(library.newClient(session)) {
     if (client_ == nullptr) throw std::runtime_error("the library made no client");
 }
 

@@ -39,7 +39,6 @@ public:
 
 private:
     const TransferLibrary& library_;
-    ZhstSession session_;
     ZXFRPCSCLIENT* client_;
     std::vector<emulator::MessageBox> messages_;
 };
