@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "Z7XFRPCS/dialogs.h"
 #include "support/ready_session.h"
 #include "support/transfer_fixture.h"
 
@@ -170,6 +171,20 @@ TEST_F(Session, StopInThePumpIsToldOnceByTheDriver) {
             expectIdle();
         }
     }
+}
+
+// A request that finds the session stopped has it bound anew, and may lose it once more meanwhile.
+TEST_F(Session, StopWhileARequestBindsAnewIsTold) {
+    useTransport(2);
+    user.onProgressCommand = [this](std::uint32_t command) {
+        if (command != ZhstStarting || !bound()) return;
+        set(setting::TransportType, 9);
+        hostFile.during(TF_RESET, [this] { set(setting::TransportType, 2); });
+    };
+    receive();
+    EXPECT_EQ(user.messages.size(), 1u);
+    EXPECT_EQ(number(setting::LastReturnCode), 0x9999);
+    EXPECT_TRUE(hostFile.statements.empty());
 }
 
 TEST_F(Session, StopUnderAListingIsItsFailure) {
