@@ -44,7 +44,11 @@ TEST_F(Cli, WrongUsageIsStatusTwoAndLeavesStandardOutputAlone) {
         {"receive A/B --journal no/such/folder/j.txt", "no/such/folder"},
         {"send a.csv", "HOSTFILE"},
         {"send a.csv A/B --create always", "always"},
-        {"browse A/B --files 0", "files"}};
+        {"receive A/B c.dif --header", "csv or tab"},
+        {"receive A/B --header --output screen", "csv or tab"},
+        {"send c.txt A/B --header", "csv or tab"},
+        {"receive A/B --encoding latin", "latin"},
+        {"browse A/B --transport telegraph", "telegraph"}};
     for (const auto& [arguments, word] : cases) EXPECT_EQ(expect(2, arguments, word).output, "") << arguments;
     expect(2, "receive A/B --where \"N = '" + std::string(4000, 'x') + "'\"", "a request takes 4000");
 }
@@ -193,24 +197,6 @@ TEST_F(Cli, SettingsFileIsBehindTheCommandLine) {
            "bad.set:2: ReceiveFileType: wide is not one of text, basic");
 }
 
-TEST_F(Cli, SettingsAreListedWithTheirWords) {
-    const Outcome all = run("settings");
-    EXPECT_EQ(all.status, 0);
-    EXPECT_EQ(lines(all.output), 2u * 55u) << "two lines a setting";
-    const std::pair<const char*, const char*> cases[] = {{"dateformat", "  4 iso           yyyy-mm-dd\n"},
-                                                         {"125", "default  iso\n"},
-                                                         {"119", "  6 dif "},
-                                                         {"Ignore", "no, yes"},
-                                                         {"HostSystemName", "default  SAMPLE\n"},
-                                                         {"filetext", "at most 50 characters"},
-                                                         {"LastReturnCode", "by the library"},
-                                                         {"date", " 127 DateSeparator  "}};
-    for (const auto& [name, text] : cases) {
-        const std::string output = run(std::string("settings ") + name).output;
-        EXPECT_NE(output.find(text), std::string::npos) << name << "\n" << output;
-    }
-}
-
 TEST_F(Cli, BrowseListsOneEntryALine) {
     const Outcome members = run("browse WORLD/");
     EXPECT_EQ(members.status, 0) << members.errors;
@@ -218,7 +204,7 @@ TEST_F(Cli, BrowseListsOneEntryALine) {
     EXPECT_NE(members.errors.find("complete: " + std::to_string(lines(members.output)) + " "), std::string::npos);
     const Outcome fields = run("browse --fields --set ConnectionType=3");
     EXPECT_EQ(lines(fields.output), 6u) << fields.output;
-    EXPECT_EQ(lines(run("browse A/B --fields --files 2 --set ConnectionType=3").output), 12u);
+    EXPECT_EQ(lines(run("browse 'A/B A/C' --fields --set ConnectionType=3").output), 12u);
 }
 
 }  // namespace

@@ -1,26 +1,22 @@
 #include "browse.h"
 
+#include <algorithm>
+#include <array>
+#include <charconv>
 #include <iostream>
-#include <string_view>
 
 #include "console.h"
+#include "emulator/catalogue.h"
+#include "implied_settings.h"
 #include "json.h"
+#include "text_table.h"
 
 namespace {
 
 std::string_view trimmedEnd(std::string_view text) { return text.substr(0, text.find_last_not_of(" \t\r") + 1); }
 
-// The parts of a name, which for a field is a text of several: name TAB description LF type and length.
-std::string onOneLine(std::string_view text) {
-    std::string line;
-    while (!text.empty()) {
-        const std::size_t end = text.find_first_of("\t\n");
-        if (!line.empty()) line += '\t';
-        line += trimmedEnd(withoutControls(text.substr(0, end)));
-        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-    }
-    return line;
-}
+// Whatever a text holds, without the blanks that fill it.
+std::string onOneLine(std::string_view text) { return withoutControls(trimmedEnd(text)); }
 
 // A text of a fixed field, which a provider may have filled to its last byte.
 template <std::size_t Size>
@@ -29,49 +25,136 @@ std::string_view fieldText(const char (&field)[Size]) {
     return all.substr(0, all.find('\0'));
 }
 
-void printEntry(const HostCatalogEntry& entry, const PcText& pcText, bool fields) {
+// Name and description of an entry that is no field.
+void printEntry(const HostCatalogEntry& entry, const PcText& pcText) {
     std::string line = onOneLine(pcText.toTerminal(fieldText(entry.name)));
-    if (!fields) {
-        const std::string description = onOneLine(pcText.toTerminal(fieldText(entry.description)));
-        if (!description.empty()) line += '\t' + description;
-    }
+    const std::string description = onOneLine(pcText.toTerminal(fieldText(entry.description)));
+    if (!description.empty()) line += '\t' + description;
     std::cout << line << '\n';
 }
 
-// For a program: a field's entry is a text of several, name TAB description LF type and length.
-std::string entryObject(const HostCatalogEntry& entry, const PcText& pcText, bool fields) {
-    const std::string name = pcText.toTerminal(fieldText(entry.name));
-    const std::size_t tab = fields ? name.find('\t') : std::string::npos;
-    const std::size_t line = tab == std::string::npos ? tab : name.find('\n', tab);
+// For a program: an entry that is no field.
+std::string entryObject(const HostCatalogEntry& entry, const PcText& pcText) {
     json::Object object;
-    object.text("name", trimmedEnd(std::string_view(name).substr(0, tab)));
-    if (!fields) object.text("description", trimmedEnd(pcText.toTerminal(fieldText(entry.description))));
-    if (tab != std::string::npos)
-        object.text("description", trimmedEnd(std::string_view(name).substr(tab + 1, line - tab - 1)));
-    if (line != std::string::npos) object.text("type", trimmedEnd(std::string_view(name).substr(line + 1)));
+    object.text("name", trimmedEnd(pcText.toTerminal(fieldText(entry.name))));
+    object.text("description", trimmedEnd(pcText.toTerminal(fieldText(entry.description))));
     return object.whole();
+}
+
+constexpr std::array<std::string_view, 7> FieldTitles{"NAME",      "TYPE",   "LENGTH",     "DECIMALS",
+                                                      "CODE PAGE", "OFFSET", "DESCRIPTION"};
+using FieldRow = std::array<std::string, FieldTitles.size()>;
+
+// What stands behind a label of the emulator's, up to a blank.
+std::string labelled(std::string_view text, zhst::CatalogueText label) {
+    const std::string_view words = emulator::catalogue::findText(label.table, label.index).text;
+    const std::size_t place = text.find(words);
+    if (place == std::string_view::npos) return {};
+    text.remove_prefix(place + words.size());
+    return std::string(text.substr(0, text.find(' ')));
+}
+
+std::string toText(std::uint32_t number) { return std::to_string(number); }
+
+// A field's entry is a text of several: name TAB description LF type and length.
+FieldRow fieldRow(const HostCatalogEntry& entry, const PcText& pcText, const FieldLayouts& layouts) {
+    const std::string text = pcText.toTerminal(fieldText(entry.name));
+    const std::size_t tab = std::min(text.find('\t'), text.size()), end = std::min(text.find('\n', tab), text.size());
+    const std::string_view all = text, details = all.substr(end);
+    FieldRow row{onOneLine(all.substr(0, tab)), labelled(details, zhst::text::TypeLabel),
+                 labelled(details, zhst::text::LengthLabel)};
+    row.back() = onOneLine(all.substr(std::min(tab + 1, end), end - std::min(tab + 1, end)));
+    if (const HostColumn* column = layouts.find(row[0])) {
+        if (column->isNumber()) row[3] = toText(column->decimals);
+        if (column->codePage != 0) row[4] = toText(column->codePage);
+        row[5] = toText(column->offset);
+    }
+    return row;
+}
+
+bool isRightAligned(std::size_t column) { return column >= 2 && column <= 5; }
+
+void printFields(const std::vector<FieldRow>& rows) {
+    if (rows.empty()) return;
+    TextTable table(std::cout, false);
+    for (std::size_t column = 0; column < FieldTitles.size(); ++column) {
+        std::size_t width = FieldTitles[column].size();
+        for (const FieldRow& row : rows) width = std::max(width, cellWidth(row[column]));
+        table.addColumn(static_cast<std::uint32_t>(column), std::string(FieldTitles[column]),
+                        static_cast<std::uint32_t>(width), isRightAligned(column));
+    }
+    for (const FieldRow& row : rows) {
+        table.startRow();
+        for (std::uint32_t column = 0; column < row.size(); ++column) table.setCell(column, row[column]);
+        table.finishRow();
+    }
+    table.end();
+}
+
+// What is not known of the field is left out.
+std::string fieldObject(const FieldRow& row) {
+    constexpr std::array<std::string_view, FieldTitles.size()> names{"name",     "type",   "length",     "decimals",
+                                                                     "codePage", "offset", "description"};
+    json::Object object;
+    for (std::size_t column = 0; column < row.size(); ++column) {
+        if (row[column].empty()) continue;
+        isRightAligned(column) ? object.value(names[column], row[column]) : object.text(names[column], row[column]);
+    }
+    return object.whole();
+}
+
+void printForPrograms(const std::vector<FieldRow>& rows) {
+    for (const FieldRow& row : rows) {
+        for (std::size_t column = 0; column < row.size(); ++column)
+            std::cout << (column == 0 ? "" : "\t") << row[column];
+        std::cout << '\n';
+    }
 }
 
 }  // namespace
 
+FieldLayouts::FieldLayouts(const TransferLibrary& library, const CommandLine& line, const PcText& pcText,
+                           ZhstSession session) {
+    if (line.command != Command::Browse || !line.fields) return;
+    const bool isDemonstration =
+        emulator::number(session, zhst::setting::ConnectionType) == zhst::value::DemonstrationConnection;
+    for (const std::string& file : hostFiles(pcText.toPc(line.filter)))
+        layouts_.push_back(isDemonstration ? HostLayout() : askHostLayout(library, pcText, session, file));
+}
+
+const HostColumn* FieldLayouts::find(std::string_view name) const {
+    if (layouts_.size() < 2) return layouts_.empty() ? nullptr : layouts_.front().find(name);
+    const std::size_t point = name.find('.');
+    std::size_t file = 0;
+    if (point == std::string_view::npos || name.empty()) return nullptr;
+    std::from_chars(name.data() + 1, name.data() + point, file);
+    return file >= 1 && file <= layouts_.size() ? layouts_[file - 1].find(name.substr(point + 1)) : nullptr;
+}
+
 Tally browse(const TransferLibrary& library, const CommandLine& line, const PcText& pcText, const TerminalUser& user,
-             ZhstSession session) {
+             ZhstSession session, const FieldLayouts& layouts) {
     HostCatalogEntry entry{};
     entry.entryKind = line.fields ? CatalogFieldListing : 0;
-    entry.fileCount = line.fileCount;
+    entry.fileCount = std::max(layouts.fileCount(), 1);
+    std::vector<FieldRow> rows;
     std::uint64_t entries = 0;
     std::vector<std::string> objects;
     std::uint32_t result = library.firstHostFilename(session, pcText.toPc(line.filter).c_str(), &entry);
     while (result == CatalogEntryDelivered && !console::interrupted()) {
-        if (line.json) {
-            objects.push_back(entryObject(entry, pcText, line.fields));
-        } else {
-            printEntry(entry, pcText, line.fields);
-        }
+        if (line.fields)
+            rows.push_back(fieldRow(entry, pcText, layouts));
+        else if (line.json)
+            objects.push_back(entryObject(entry, pcText));
+        else
+            printEntry(entry, pcText);
         ++entries;
         entry.name[0] = entry.description[0] = '\0';
         result = library.nextHostFilename(session, &entry);
     }
+    if (line.json)
+        for (const FieldRow& row : rows) objects.push_back(fieldObject(row));
+    else
+        console::isTerminal(console::Stream::Output) ? printFields(rows) : printForPrograms(rows);
     std::cout.flush();
 
     const std::string amount = grouped(entries) + (entries == 1 ? " entry" : " entries");

@@ -11,6 +11,9 @@
 
 enum class Command { Receive, Send, Demo, Browse, Settings, Host };
 
+// Of texts in standard input and output.
+enum class StreamEncoding { Pc, Terminal };
+
 // What the user asked for.
 struct CommandLine {
     Command command = Command::Receive;
@@ -21,12 +24,13 @@ struct CommandLine {
     emulator::PcSetup pc = emulator::usualPc();
     std::string filter;  // of browse; of settings, a name or a part of one
     bool fields = false;
-    std::int32_t fileCount = 1;
-    std::string settingsFile, journalFile;  // empty: none
-    std::string providerFolder, hostData;   // empty: beside the program
-    bool noClobber = false;                 // a receive leaves a PC file that exists
-    bool appends = false;                   // a send adds to the records of its member
-    bool reset = false;                     // the host of the user's own is made anew
+    std::string settingsFile, journalFile;         // empty: none
+    std::string providerFolder, hostData;          // empty: beside the program
+    bool noClobber = false;                        // a receive leaves a PC file that exists
+    bool appends = false;                          // a send adds to the records of its member
+    bool reset = false;                            // the host of the user's own is made anew
+    bool header = false;                           // the PC file begins with a line of field names
+    std::optional<StreamEncoding> streamEncoding;  // of standard input and output as PC files
     std::optional<questions::StandingAnswer> answer;
     bool quiet = false;
     // Of send: whether the file is only checked, not at all, and whether what changes on the way may.

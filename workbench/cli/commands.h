@@ -20,5 +20,8 @@ CLI::App* addCommand(CLI::App& program, CommandLine& line, const std::string& na
 // For a program that reads what is told.
 void addJson(CLI::App& app, CommandLine& line);
 
+// Of those that read or write a PC file.
+void addPcFile(CLI::App& app, CommandLine& line, const std::string& header);
+
 // What every command and the program itself take.
 void addCommon(CLI::App& app, CommandLine& line);

@@ -1,6 +1,8 @@
 #include "commands.h"
 #include "setting_options.h"
 
+#include <map>
+
 namespace {
 
 void addPc(CLI::App& app, CommandLine& line) {
@@ -35,6 +37,18 @@ void addJson(CLI::App& app, CommandLine& line) {
                  "tally, or what is listed, as one line of JSON on standard output; behind records that are written "
                  "there, on standard error")
         ->group("Common options");
+}
+
+void addPcFile(CLI::App& app, CommandLine& line, const std::string& header) {
+    app.add_flag("--header", line.header, header);
+    const std::map<std::string, StreamEncoding> encodings{{"pc", StreamEncoding::Pc},
+                                                          {"terminal", StreamEncoding::Terminal}};
+    app.add_option(
+           "--encoding", line.streamEncoding,
+           "of texts in standard input and output: the PC's code page, or that of the terminal; when not given, "
+           "terminal on one, else pc")
+        ->transform(CLI::CheckedTransformer(encodings, CLI::ignore_case))
+        ->type_name("{pc,terminal}");
 }
 
 void addCommon(CLI::App& app, CommandLine& line) {

@@ -26,4 +26,8 @@ std::optional<std::string> readKey();
 inline constexpr const char* RightKey = "\x1b[C";
 inline constexpr const char* LeftKey = "\x1b[D";
 
+// Texts of the terminal from UTF-8, and back, where its user has another encoding; what that lacks is a question mark.
+std::string encoded(const std::string& utf8);
+std::string decoded(const std::string& text);
+
 }  // namespace console

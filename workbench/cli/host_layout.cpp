@@ -15,9 +15,6 @@ namespace setting = zhst::setting;
 // Where the parts of a description stand.
 constexpr std::size_t NameAt = 3, NameBytes = 30, DigitsAt = 33, CodePageAt = 34;
 
-// The item of the monitor store that a description goes to.
-constexpr std::string_view DescriptionItem = "XDTI";
-
 constexpr std::uint32_t FromHost = 0;
 
 std::uint32_t byteAt(std::string_view bytes, std::size_t place) { return static_cast<std::uint8_t>(bytes[place]); }

@@ -18,6 +18,8 @@ inline constexpr std::uint8_t Hex = 0, Binary = 1, Character = 2, Zoned = 3, Pac
 }  // namespace column_type
 
 inline constexpr std::size_t DescriptionBytes = 40;
+// The item of the monitor store that a description goes to, in a receive.
+inline constexpr std::string_view DescriptionItem = "XDTI";
 
 struct HostColumn {
     std::array<char, DescriptionBytes> description{};  // as the host gave it

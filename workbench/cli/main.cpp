@@ -8,10 +8,12 @@
 #include "console.h"
 #include "host_command.h"
 #include "host_layout.h"
+#include "implied_settings.h"
 #include "own_host.h"
 #include "process.h"
 #include "report.h"
 #include "settings_page.h"
+#include "standard_streams.h"
 #include "tally.h"
 #include "terminal_user.h"
 #include "transfer_library.h"
@@ -25,17 +27,10 @@ namespace fs = std::filesystem;
 constexpr std::uint32_t ToPc = 0;
 constexpr std::uint32_t ToHost = 1;
 
-// The order of precedence: what is applied later wins.
-void applyCommandLine(ZhstSession session, const CommandLine& line, const PcText& pcText) {
-    apply(session, line.options, pcText);
-    apply(session, line.sets, pcText);
-}
-
 // A settings file is run by the library, in the middle of a transfer; it must not undo what the command line says.
 bool runSettingsFile(ZhstSession session, const std::string& file, const CommandLine& line, const PcText& pcText) {
     try {
-        apply(session, readSettingsFile(file), pcText);
-        applyCommandLine(session, line, pcText);
+        apply(session, wholeSettings(line, readSettingsFile(file)), pcText);
         return true;
     } catch (const std::invalid_argument& error) {
         std::cerr << "z7xfer: " << error.what() << std::endl;
@@ -84,7 +79,7 @@ ZhstSession openSession(const CommandLine& line, const PcText& pcText) {
     apply(session, defaultSettings(), pcText);
     if (Pager::isWanted()) emulator::set(session, zhst::setting::DisplayRowsPerPage, Pager::rowsPerPage());
     if (questions::canBeAsked()) emulator::set(session, zhst::setting::ExistingFileAction, zhst::value::AskUser);
-    applyCommandLine(session, line, pcText);
+    apply(session, wholeSettings(line, {}), pcText);
     emulator::Clauses clauses = line.clauses;
     for (std::string* clause :
          {&clauses.select, &clauses.where, &clauses.orderBy, &clauses.groupBy, &clauses.having, &clauses.join}) {
@@ -92,20 +87,31 @@ ZhstSession openSession(const CommandLine& line, const PcText& pcText) {
     }
     checkLength(clauses, emulator::text(session, zhst::setting::HostFileName));
     emulator::setClauses(session, clauses);
-    process::setEnvironment("Z7X_HOST_CODE_PAGE",
-                            std::to_string(emulator::number(session, zhst::setting::HostCodePage)));
     return session;
 }
 
+// Before there is a client.
+void settleHostCodePage(const TransferLibrary& library, const CommandLine& line, const PcText& pcText,
+                        ZhstSession session) {
+    const auto tellHost = [&] {
+        process::setEnvironment("Z7X_HOST_CODE_PAGE",
+                                std::to_string(emulator::number(session, zhst::setting::HostCodePage)));
+    };
+    tellHost();
+    if (const std::optional<std::int32_t> page = hostCodePage(line, library, pcText, session))
+        emulator::set(session, zhst::setting::HostCodePage, *page);
+    tellHost();
+}
+
 Tally runCommand(const TransferLibrary& library, ZXFRPCSCLIENT* client, const CommandLine& line, const PcText& pcText,
-                 TerminalUser& user, ZhstSession session) {
+                 TerminalUser& user, ZhstSession session, const FieldLayouts& layouts) {
     user.onCancel([&] { library.cancelTransfer(client); });
     if (line.command == Command::Browse) {
         // A listing runs no settings file of its own.
         if (!line.settingsFile.empty() && !runSettingsFile(session, line.settingsFile, line, pcText)) {
             return {"failed before any entry, the settings file was refused", ExitFailed};
         }
-        return browse(library, line, pcText, user, session);
+        return browse(library, line, pcText, user, session, layouts);
     }
     bool settingsRefused = false;
     emulator::setSettingsFileReader([&](ZhstSession asking, const std::string& file) {
@@ -150,13 +156,14 @@ bool writeJournal(const std::string& file, std::ofstream& stream) {
     return static_cast<bool>(stream);
 }
 
-Tally run(const TransferLibrary& library, const CommandLine& line, const PcText& pcText, ZhstSession session) {
+Tally run(const TransferLibrary& library, const CommandLine& line, const PcText& pcText, ZhstSession session,
+          const FieldLayouts& layouts) {
     emulator::journalOn(!line.journalFile.empty());
     TerminalUser user(line, pcText, session);
     emulator::setUserInterface(&user);
     ZXFRPCSCLIENT* client = library.newClient(session);
     if (client == nullptr) throw std::runtime_error("the library made no client");
-    Tally tally = runCommand(library, client, line, pcText, user, session);
+    Tally tally = runCommand(library, client, line, pcText, user, session, layouts);
     library.deleteClient(client);
     emulator::setUserInterface(nullptr);
     tally.messages = user.messages();
@@ -176,8 +183,11 @@ int transfer(const CommandLine& line) {
 
     const TransferLibrary library = loadTransferLibrary(folder);
     console::catchInterrupts();
+    settleHostCodePage(library, line, pcText, session);
+    const StandardStreams streams(line, pcText, session);
+    const FieldLayouts layouts(library, line, pcText, session);
     std::optional<Tally> tally = check(library, line, pcText, folder, session);
-    if (!tally) tally = run(library, line, pcText, session);
+    if (!tally) tally = run(library, line, pcText, session, layouts);
     if (!line.journalFile.empty() && !writeJournal(line.journalFile, journalStream)) tally->exitStatus = ExitFailed;
     const bool hasRecordsOnOutput = writesToOutput(line, session);
     emulator::reset();

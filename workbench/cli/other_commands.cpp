@@ -17,11 +17,9 @@ void addDemo(CLI::App& program, CommandLine& line) {
 void addBrowse(CLI::App& program, CommandLine& line) {
     CLI::App* app = addCommand(program, line, "browse", Command::Browse,
                                "List libraries, files and members, or the fields of files");
-    app->add_option("FILTER", line.filter, "what to list: LIB, LIB/, LIB/FILE; with --fields, files");
+    app->add_option("FILTER", line.filter, "what to list: LIB, LIB/, LIB/FILE; with --fields, one file or several");
     app->add_flag("--fields", line.fields, "list fields");
-    app->add_option("--files", line.fileCount, "number of files in a filter of fields; 2 and more qualify the names")
-        ->check(CLI::PositiveNumber)
-        ->type_name("N");
+    SettingOptions(*app, line.options).connection();
     addCommon(*app, line);
 }
 

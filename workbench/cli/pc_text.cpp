@@ -65,9 +65,20 @@ std::string codePageDataFile() {
 PcText::PcText(std::uint32_t ansiCodePage, const std::string& dataFile) : codePage_(ansiCodePage) {
     std::string error;
     if (!codepages::load(dataFile, &error)) throw std::runtime_error(error);
-    if (codepages::find(ansiCodePage) == nullptr) {
-        throw std::invalid_argument("there is no code page " + std::to_string(ansiCodePage));
+    checkPage();
+}
+
+void PcText::checkPage() const {
+    if (codepages::find(codePage_) == nullptr) {
+        throw std::invalid_argument("there is no code page " + std::to_string(codePage_));
     }
+}
+
+PcText PcText::of(std::uint32_t codePage) const {
+    PcText other = *this;
+    other.codePage_ = codePage;
+    other.checkPage();
+    return other;
 }
 
 std::string PcText::toTerminal(std::string_view pcText) const { return codepages::find(codePage_)->decode(pcText); }

@@ -15,11 +15,16 @@ public:
     // it.
     PcText(std::uint32_t ansiCodePage, const std::string& dataFile);
 
+    // The same PC, for texts in another of its code pages. Throws std::invalid_argument when there is none.
+    PcText of(std::uint32_t codePage) const;
+
     std::string toTerminal(std::string_view pcText) const;
     // Throws std::invalid_argument for a character that the PC does not have.
     std::string toPc(std::string_view terminalText) const;
 
 private:
+    void checkPage() const;
+
     std::uint32_t codePage_;
 };
 

@@ -36,7 +36,9 @@ void addReceive(CLI::App& program, CommandLine& line) {
     options.text("HOSTFILE", setting::HostFileName, "LIB/FILE(MBR); several in one argument: \"LIB/A LIB/B\"")
         ->required();
     options.text("PCFILE", setting::PcFileName, "PC file to write; - or none is standard output");
-    options.choice("--type", setting::ReceiveFileType, "PC file type, csv when not given");
+    options.choice("--type", setting::ReceiveFileType,
+                   "PC file type; when not given, that of the name's extension (csv, tab and tsv, dif, "
+                   "txt and prn as text, bin and dat as none), else csv");
     options.choice("--output", setting::ReceiveOutput, "where the records go, file when not given");
     app->add_option("--columns", line.clauses.select, "the columns wanted, all when not given");
     app->add_option("--where", line.clauses.where, "condition that the records meet");
@@ -47,6 +49,8 @@ void addReceive(CLI::App& program, CommandLine& line) {
     options.flag("--count", setting::RecordProgress, "count the records first, for a progress in percent");
     options.description("--describe", setting::WriteDescriptionFile, setting::ReceiveDescriptionFile,
                         "write a description of the PC file, beside it; *.fdf takes its name, a path stands as it is");
+    options.everyday();
+    addPcFile(*app, line, "begin a csv or tab file with a line of field names");
     addExistingFile(*app, line);
     addCommon(*app, line);
 }

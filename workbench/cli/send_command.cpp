@@ -39,10 +39,11 @@ void addCreate(CLI::App& app, CommandLine& line) {
 void addSend(CLI::App& program, CommandLine& line) {
     CLI::App* app = addCommand(program, line, "send", Command::Send, "Send a PC file to a host file");
     SettingOptions options(*app, line.options);
-    options.text("PCFILE", setting::PcFileName, "PC file to read")->required();
+    options.text("PCFILE", setting::PcFileName, "PC file to read; - is standard input")->required();
     options.text("HOSTFILE", setting::HostFileName, "LIB/FILE(MBR)")->required();
     options.choice("--type", setting::SendFileType,
-                   "PC file type, csv when not given; that of the description has the last word");
+                   "PC file type; when not given, that of the name's extension (csv, tab and tsv, dif, "
+                   "txt and prn as text, bin and dat as none), else csv; that of the description has the last word");
     options.description("--description", setting::UseDescriptionFile, setting::SendDescriptionFile,
                         "description of the PC file, beside it; a data file needs one");
     options.flag("--source", setting::HostFileType, "the host file is a source file");
@@ -59,5 +60,7 @@ void addSend(CLI::App& program, CommandLine& line) {
     app->add_flag("--no-check", line.unchecked, "send without a check")->excludes(check);
     app->add_flag("--allow-changes", line.allowChanges, "send although some things will not arrive as written");
     options.number("--start-record", setting::StartRecord, "first record of the PC file that is sent, from 1");
+    options.everyday();
+    addPcFile(*app, line, "the file begins with a line of field names, which is not sent");
     addCommon(*app, line);
 }

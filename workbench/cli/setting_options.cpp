@@ -72,3 +72,16 @@ void SettingOptions::description(const std::string& name, std::uint32_t wanted, 
             help)
         ->type_name("NAME");
 }
+
+void SettingOptions::everyday() {
+    choice("--date-format", zhst::setting::DateFormat, "form of dates, iso when not given");
+    choice("--time-format", zhst::setting::TimeFormat, "form of times, iso when not given");
+    flag("--ignore-decimal-errors", zhst::setting::IgnoreDecimalErrors, "let numbers with damaged digits pass");
+    connection();
+}
+
+void SettingOptions::connection() {
+    number("--host-code-page", zhst::setting::HostCodePage,
+           "code page of the host's texts; the host says it when not given");
+    choice("--transport", zhst::setting::TransportType, "transport of the connection, emulator when not given");
+}

@@ -23,6 +23,10 @@ public:
     void flag(const std::string& name, std::uint32_t id, const std::string& help);
     // A description file: its name, and the setting that asks for it.
     void description(const std::string& name, std::uint32_t wanted, std::uint32_t id, const std::string& help);
+    // Those that a transfer needs every day.
+    void everyday();
+    // Of every command that talks to a host.
+    void connection();
 
 private:
     CLI::App& app_;

@@ -40,7 +40,8 @@ void apply(ZhstSession session, const std::vector<Assignment>& assignments, cons
 // user's habits. Every other setting is 0 or empty.
 struct SettingDefault {
     std::uint32_t setting;
-    const char* value;  // as people write it
+    const char* value;      // as people write it
+    const char* when = "";  // else what is known goes before
 };
 
 inline constexpr SettingDefault settingDefaults[] = {
@@ -50,10 +51,10 @@ inline constexpr SettingDefault settingDefaults[] = {
     {zhst::setting::ConnectionParam512, "sample"},
     {zhst::setting::TransportType, "emulator"},
     {zhst::setting::RouterKind, "ibm"},
-    {zhst::setting::HostCodePage, "37"},
+    {zhst::setting::HostCodePage, "37", "where the host does not say it"},
     {zhst::setting::PcFileName, "-"},
-    {zhst::setting::SendFileType, "csv"},
-    {zhst::setting::ReceiveFileType, "csv"},
+    {zhst::setting::SendFileType, "csv", "where the name says nothing"},
+    {zhst::setting::ReceiveFileType, "csv", "where the name says nothing"},
     {zhst::setting::ReceiveOutput, "file"},
     {zhst::setting::ExistingFileAction, "replace"},
     // A member that is there is only replaced after a question; the other modes go on without one.

@@ -16,7 +16,7 @@ using emulator::SettingValueRow;
 
 std::string defaultOf(const SettingRow& setting) {
     const auto row = std::ranges::find(settingDefaults, setting.number, &SettingDefault::setting);
-    if (row != std::end(settingDefaults)) return row->value;
+    if (row != std::end(settingDefaults)) return std::string(row->value) + (*row->when ? " " : "") + row->when;
     if (setting.kind == SettingKind::Text) return "empty";
     const SettingValueRow* zero = emulator::valueRow(setting, 0);
     return zero ? zero->word : "0";

@@ -47,7 +47,7 @@ public:
 
     std::string target() const {
         const std::string file = text(setting::PcFileName);
-        if (sending_) return file + " to " + text(setting::HostFileName);
+        if (sending_) return (file == "-" ? "standard input" : file) + " to " + text(setting::HostFileName);
         if (!toFile()) return number(setting::ReceiveOutput) == value::ToDisplay ? "the screen" : "no output";
         return file == "-" ? "standard output" : file;
     }

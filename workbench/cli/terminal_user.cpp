@@ -73,12 +73,19 @@ TerminalUser::TerminalUser(const CommandLine& line, const PcText& pcText, ZhstSe
       bar_(false),
       table_(std::cout, Pager::isWanted()),
       pager_(table_) {
+    if (line.header && line.command == Command::Receive) emulator::setHeading([this] { return header(); });
     emulator::onStoreWrite([this](std::string_view code, std::string_view value) { storeWritten(code, value); });
+}
+
+std::string TerminalUser::header() const {
+    const bool tabs = emulator::number(session_, setting::ReceiveFileType) == ZhstTabDelimited;
+    return names_.header(tabs ? '\t' : line_.pc.listSeparator);
 }
 
 void TerminalUser::storeWritten(std::string_view code, std::string_view value) {
     const std::uint64_t before = watch_.recordsSeen();
     watch_.storeWritten(code, value);
+    names_.storeWritten(code, value);
     if (sending_ || watch_.recordsSeen() == before) return;
     // The store hears of a record before the file does.
     emulator::releaseFilesWithNextWrite();

@@ -7,6 +7,7 @@
 
 #include "command_line.h"
 #include "emulator/emulator.h"
+#include "field_names.h"
 #include "pager.h"
 #include "pc_text.h"
 #include "progress_bar.h"
@@ -56,6 +57,7 @@ private:
     enum class Display { None, Filling, PageFull, Ended };
 
     bool barWanted() const;
+    std::string header() const;
     void storeWritten(std::string_view code, std::string_view value);
     void printMessage(const emulator::MessageBox& box);
     std::int32_t answer(const emulator::MessageBox& box);
@@ -69,6 +71,7 @@ private:
     std::function<void()> cancel_;
     TransferWatch watch_;
     std::vector<ShownMessage> messages_;
+    FieldNames names_;
     ProgressBar bar_;
     TextTable table_;
     Pager pager_;

@@ -13,6 +13,7 @@
 #include "emulator/pc_file.h"
 #include "emulator/platform_side.h"
 #include "emulator/sessions.h"
+#include "emulator/standard_streams.h"
 #include "emulator/store.h"
 
 // What is open, and how all of it is forgotten.
@@ -43,6 +44,8 @@ void reset() {
     resetMessages();
     resetPathServices();
     resetReadingStart();
+    setHeading(nullptr);
+    resetStandardStreams();
     resetStore();
     resetModules();
     memory::reset();

@@ -157,6 +157,17 @@ void releaseFiles();
 // What waits is forgotten, and files are written as usual from here on.
 void forgetHeldFiles();
 
+// What stands in front of the first record of a PC file that a transfer makes, replaces or finds empty: asked for when
+// the file is opened, behind the fields' descriptions. Null for nothing.
+using Heading = std::function<std::string()>;
+void setHeading(Heading heading);
+
+// The PC file "-" is the standard output where it is written, and a file that the program has filled where it is read.
+// Every write to the standard output goes through the encoder; null for the bytes as they are.
+using OutputEncoder = std::function<std::string(std::string_view bytes)>;
+void setOutputEncoder(OutputEncoder encoder);
+void setStandardInputFile(const std::string& path);
+
 // What was written to the file of this name, or to the standard output ("-"), since files were held last: bytes,
 // without those that were in the file before. Nothing when it was left as it was.
 std::optional<std::uint64_t> bytesWritten(const std::string& pcName);

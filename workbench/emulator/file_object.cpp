@@ -69,7 +69,10 @@ void ZHST_CALL setName(ZhstFileObject* object, const char* name) {
 
 // Text and binary files are written alike: whoever writes text brings its line ends.
 void ZHST_CALL setTypeFlag(ZhstFileObject*, std::uint32_t flag) { Call("FileObject.setTypeFlag", flag); }
-void ZHST_CALL setOpenFlags(ZhstFileObject*, std::uint32_t flags) { Call("FileObject.setOpenFlags", flags); }
+void ZHST_CALL setOpenFlags(ZhstFileObject* object, std::uint32_t flags) {
+    Call("FileObject.setOpenFlags", flags);
+    fileOf(object).setOpenFlags(flags);
+}
 void ZHST_CALL setOption(ZhstFileObject*, std::uint32_t option) { Call("FileObject.setOption", option); }
 
 void ZHST_CALL setExistingFileAction(ZhstFileObject* object, std::uint32_t action) {

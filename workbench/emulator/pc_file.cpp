@@ -9,6 +9,7 @@
 #include "emulator/held_files.h"
 #include "emulator/messages.h"
 #include "emulator/platform_side.h"
+#include "emulator/standard_streams.h"
 #include "emulator/user_interface.h"
 
 namespace emulator {
@@ -19,11 +20,13 @@ namespace files = std::filesystem;
 constexpr std::size_t PieceSize = 64 * 1024;
 
 ReadingStart readingStart;
+Heading heading;
 
 }  // namespace
 
 void setReadingStart(const ReadingStart& start) { readingStart = start; }
 void resetReadingStart() { readingStart = {}; }
+void setHeading(Heading wanted) { heading = std::move(wanted); }
 
 void PcFile::setName(const char* name) { name_ = name ? name : ""; }
 
@@ -46,8 +49,7 @@ PcFile::Choice PcFile::askUser() const {
 bool PcFile::openForReading() {
     close();
     trouble_->forget();
-    if (name_ == WrittenFile::StandardOutput)
-        return trouble_->tell(name_, "opened", "the standard output cannot be read");
+    if (path().empty()) return trouble_->tell(name_, "opened", "the standard output cannot be read");
     std::error_code ignored;
     // The C library opens a folder for reading and fails later, with a worse reason.
     if (files::is_directory(path(), ignored)) return fail("opened", EISDIR);
@@ -79,7 +81,9 @@ bool PcFile::openForWriting() {
     auto file = std::make_unique<WrittenFile>(name_, trouble_);
     if (!file->open(existing)) return false;
     written_ = std::move(file);
-    return true;
+    if (!heading || !isTransferred_ || written_->position() > 0) return true;
+    const std::string bytes = heading();
+    return written_->write(bytes.data(), static_cast<std::uint32_t>(bytes.size()));
 }
 
 PcFile::Choice PcFile::choose() const {
@@ -88,7 +92,7 @@ PcFile::Choice PcFile::choose() const {
     if (existingFileAction_ == AlwaysAppend) return Choice::Append;
     std::error_code ignored;
     // Devices and pipes have nothing to lose.
-    const bool isThere = name_ != WrittenFile::StandardOutput && files::is_regular_file(path(), ignored);
+    const bool isThere = name_ != StandardStream && files::is_regular_file(path(), ignored);
     return isThere ? askUser() : Choice::Replace;
 }
 

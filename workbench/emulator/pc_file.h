@@ -28,6 +28,8 @@ public:
     void setName(const char* name);
     const std::string& name() const { return name_; }
     void setExistingFileAction(std::uint32_t action) { existingFileAction_ = action; }
+    // 11 for the file that a transfer is about, others for those that go with it.
+    void setOpenFlags(std::uint32_t flags) { isTransferred_ = flags == 11; }
     void offerNoAppend() { appendOffered_ = false; }
 
     bool openForReading();
@@ -61,6 +63,7 @@ private:
     std::string name_;
     std::uint32_t existingFileAction_ = 0;
     bool appendOffered_ = true;
+    bool isTransferred_ = false;
     std::shared_ptr<FileTrouble> trouble_;
     std::unique_ptr<WrittenFile> written_;
     std::FILE* read_ = nullptr;

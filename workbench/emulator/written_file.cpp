@@ -10,6 +10,7 @@
 #include "emulator/faults.h"
 #include "emulator/held_files.h"
 #include "emulator/platform_side.h"
+#include "emulator/standard_streams.h"
 
 namespace emulator {
 namespace {
@@ -24,7 +25,7 @@ WrittenFile::WrittenFile(std::string name, std::shared_ptr<FileTrouble> trouble)
     : name_(std::move(name)), trouble_(std::move(trouble)), piece_(PieceSize) {}
 
 bool WrittenFile::open(Existing existing) {
-    if (name_ == StandardOutput) {
+    if (name_ == StandardStream) {
         stream_ = stdout;
         return true;
     }
@@ -50,9 +51,15 @@ bool WrittenFile::open(Existing existing) {
 }
 
 bool WrittenFile::write(const void* bytes, std::uint32_t length) {
+    if (name_ == StandardStream) return append(asStandardOutput({static_cast<const char*>(bytes), length}));
+    return append({static_cast<const char*>(bytes), length});
+}
+
+bool WrittenFile::append(std::string_view bytes) {
+    const auto length = static_cast<std::uint32_t>(bytes.size());
     if (!writeAllowed(length)) return fail(ENOSPC);
     if (length > piece_.size() - pending_ && !makeRoom(length)) return false;
-    if (length > 0) std::memcpy(piece_.data() + pending_, bytes, length);
+    if (length > 0) std::memcpy(piece_.data() + pending_, bytes.data(), length);
     pending_ += length;
     noteWrite();
     return true;

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "emulator/file_trouble.h"
@@ -18,7 +19,6 @@ namespace emulator {
 class WrittenFile {
 public:
     enum class Existing { Replaced, AppendedTo };
-    static constexpr const char* StandardOutput = "-";
 
     // Failures are told by `trouble` under `name`, which is that of the PC.
     WrittenFile(std::string name, std::shared_ptr<FileTrouble> trouble);
@@ -34,6 +34,7 @@ public:
     std::uint64_t position() const { return start_ + written_ + pending_; }
 
 private:
+    bool append(std::string_view bytes);
     bool makeRoom(std::uint32_t length);
     bool flush();
     std::vector<char> oldContent(std::size_t length) const;

@@ -1,5 +1,8 @@
 #include "console.h"
 
+#include <iconv.h>
+#include <langinfo.h>
+#include <locale.h>
 #include <poll.h>
 #include <sys/ioctl.h>
 #include <termios.h>
@@ -75,7 +78,41 @@ bool isByteWaiting() {
     return poll(&input, 1, 50) == 1 && (input.revents & POLLIN) != 0;
 }
 
+// The encoding of the user's locale. One that has ASCII only says nothing of the terminal, which then has UTF-8.
+std::string userEncoding() {
+    const locale_t locale = newlocale(LC_CTYPE_MASK, "", nullptr);
+    if (locale == nullptr) return "UTF-8";
+    const std::string name = nl_langinfo_l(CODESET, locale);
+    freelocale(locale);
+    return name == "ANSI_X3.4-1968" ? "UTF-8" : name;
+}
+
+std::string converted(const std::string& text, const std::string& from, const std::string& to) {
+    if (from == to) return text;
+    const iconv_t converter = iconv_open(to.c_str(), from.c_str());
+    if (converter == reinterpret_cast<iconv_t>(-1)) return text;
+    std::string source = text, result(4 * text.size() + 16, '\0');  // no encoding takes more, with shifts
+    char *in = source.data(), *out = result.data();
+    std::size_t inLeft = source.size(), outLeft = result.size();
+    while (inLeft > 0 && iconv(converter, &in, &inLeft, &out, &outLeft) == static_cast<std::size_t>(-1) && inLeft > 0) {
+        // A character that is not to be had: one mark for all its bytes.
+        *out++ = '?';
+        --outLeft;
+        do {
+            ++in;
+            --inLeft;
+        } while (inLeft > 0 && from == "UTF-8" && (static_cast<unsigned char>(*in) & 0xC0) == 0x80);
+    }
+    iconv_close(converter);
+    result.resize(result.size() - outLeft);
+    return result;
+}
+
 }  // namespace
+
+std::string encoded(const std::string& utf8) { return converted(utf8, "UTF-8", userEncoding()); }
+
+std::string decoded(const std::string& text) { return converted(text, userEncoding(), "UTF-8"); }
 
 bool isTerminal(Stream stream) { return isatty(descriptor(stream)) == 1; }
 

@@ -38,7 +38,27 @@ std::optional<SMALL_RECT> visiblePart() {
     return std::nullopt;
 }
 
+std::wstring wide(const std::string& text, UINT codePage) {
+    const int length = static_cast<int>(text.size());
+    std::wstring result(text.size(), 0);  // never more than the bytes are
+    result.resize(static_cast<std::size_t>(
+        MultiByteToWideChar(codePage, 0, text.data(), length, result.data(), static_cast<int>(result.size()))));
+    return result;
+}
+
+std::string narrow(const std::wstring& text, UINT codePage) {
+    const int length = static_cast<int>(text.size());
+    std::string result(3 * text.size(), 0);  // as many as UTF-8 takes
+    result.resize(static_cast<std::size_t>(WideCharToMultiByte(codePage, 0, text.data(), length, result.data(),
+                                                               static_cast<int>(result.size()), nullptr, nullptr)));
+    return result;
+}
+
 }  // namespace
+
+std::string encoded(const std::string& utf8) { return narrow(wide(utf8, CP_UTF8), GetConsoleOutputCP()); }
+
+std::string decoded(const std::string& text) { return narrow(wide(text, GetConsoleCP()), CP_UTF8); }
 
 // Only a real console has a mode; the null device is a character device too.
 bool isTerminal(Stream stream) {

@@ -10,6 +10,7 @@
 #include "emulator/emulator.h"
 #include "emulator/path_services.h"
 #include "emulator/platform_side.h"
+#include "emulator/standard_streams.h"
 #include "platform/platform.h"
 
 // PC file names on a file system that is particular about case and knows one separator. PC names are in the ANSI code
@@ -79,6 +80,7 @@ bool startsAtRoot(const std::string& name) { return !name.empty() && (name[0] ==
 }  // namespace
 
 std::string nativePath(std::string_view pcName) {
+    if (pcName == StandardStream) return standardInputFile();
     std::string name(hasDrive(std::string(pcName)) ? pcName.substr(2) : pcName);
     if (!startsAtRoot(name) && !currentDirectory().empty()) {
         const std::string& directory = currentDirectory();

@@ -11,6 +11,7 @@
 #include "emulator/emulator.h"
 #include "emulator/path_services.h"
 #include "emulator/platform_side.h"
+#include "emulator/standard_streams.h"
 
 // PC file names are the operating system's own; only their code page is not: the standard library takes UTF-8.
 
@@ -29,6 +30,7 @@ files::path widened(std::string_view pcName) {
 }  // namespace
 
 std::string nativePath(std::string_view pcName) {
+    if (pcName == StandardStream) return standardInputFile();
     const files::path path = widened(currentDirectory()) / widened(pcName);
     return path.empty() ? "." : path.string();
 }
