@@ -173,9 +173,9 @@ TEST_F(Emulator, CatalogueTextsFitTheirReadersAndMakeMessages) {
     };
 #define EXPECT_TEXT(table, index, ...) expectFits(table, index), expectMessage(table, index);
     ZHST_TEXTS(EXPECT_TEXT)
-#define EXPECT_CODE(place, code) expectFits(7, place), expectFits(7, code);
+#define EXPECT_CODE(place, code, ...) expectFits(7, place), expectFits(7, code);
     ZHST_TRANSFER_CODES(EXPECT_CODE)
-#define EXPECT_PROVIDER_CODE(code, help) expectFits(22, code), expectFits(45, code);
+#define EXPECT_PROVIDER_CODE(code, ...) expectFits(22, code), expectFits(45, code);
     ZHST_PROVIDER_CODES(EXPECT_PROVIDER_CODE)
 }
 

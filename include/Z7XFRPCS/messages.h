@@ -3,9 +3,9 @@
 
 #include <stdint.h>
 
-/* Every message, text and help topic of the emulator's catalogue that the library asks for. The sentences are the
-   emulator's; inserts are given by a letter each: t a text, n a number. This is the only place where these numbers
-   stand; library, stand-in, journal and documentation all read it. */
+/* Every message, text and help topic of the emulator's catalogue that the library asks for, and every return code. The
+   sentences are the emulator's; inserts are given by a letter each: t a text, n a number. This is the only place where
+   these numbers stand; library, stand-in, journal and documentation all read it. */
 
 /* Messages: number, name, inserts, when one is shown and what follows. Flags are 0x30 and the help topic is the
    message's number, where the row says nothing else; what the user answers is not looked at. All are shown only when
@@ -141,80 +141,82 @@ enum ZhstErrorTable {
     ZhstRoutedProviderTable = 45, /* the same where the AS/400 client is the router */
 };
 
-/* Return codes of the transfer function in ascending order: place, code. The place is the index of the code's text in
-   the transfer table, and its help topic. */
-#define ZHST_TRANSFER_CODES(X) \
-    X(500, 0x0103)             \
-    X(501, 0x0300)             \
-    X(502, 0x0302)             \
-    X(503, 0x0400)             \
-    X(504, 0x1FFF)             \
-    X(505, 0x2000)             \
-    X(506, 0x2001)             \
-    X(507, 0x2002)             \
-    X(508, 0x2003)             \
-    X(509, 0x2004)             \
-    X(510, 0x2005)             \
-    X(511, 0x2007)             \
-    X(512, 0x2008)             \
-    X(513, 0x2009)             \
-    X(514, 0x2010)             \
-    X(515, 0x2011)             \
-    X(516, 0x2012)             \
-    X(517, 0x2013)             \
-    X(518, 0x2019)             \
-    X(519, 0x2020)             \
-    X(520, 0x2021)             \
-    X(521, 0x2022)             \
-    X(522, 0x2023)             \
-    X(523, 0x2024)             \
-    X(524, 0x2025)             \
-    X(525, 0x2026)             \
-    X(526, 0x2027)             \
-    X(527, 0x2028)             \
-    X(528, 0x2029)             \
-    X(529, 0x2030)             \
-    X(530, 0x3000)             \
-    X(531, 0x3100)             \
-    X(532, 0x5042)             \
-    X(533, 0x5048)             \
-    X(534, 0x5050)             \
-    X(535, 0x5052)             \
-    X(536, 0x5054)             \
-    X(537, 0x5056)             \
-    X(538, 0x5058)             \
-    X(539, 0x5060)             \
-    X(540, 0x5062)             \
-    X(541, 0x5064)             \
-    X(542, 0x5066)             \
-    X(543, 0x5067)             \
-    X(544, 0x5071)             \
-    X(545, 0x5310)             \
-    X(546, 0x5311)             \
-    X(547, 0x5400)             \
-    X(548, 0x9999)
+/* Return codes of the transfer function in ascending order: place, code, name, who says so, meaning. The place is the
+   index of the code's text in the transfer table, and its help topic. Who says so is the Host, the Connection on the
+   way to it, or the Provider itself. The meaning is the stand-in's text of the code; a box shows 99 characters of it.
+ */
+#define ZHST_TRANSFER_CODES(X)                                                                                         \
+    X(500, 0x0103, FunctionNotSupported, Provider, "The provider does not support this function.")                     \
+    X(501, 0x0300, ConversationEnded, Connection, "The host ended the conversation before the transfer was complete.") \
+    X(502, 0x0302, ConversationRefused, Host, "The host did not accept the conversation.")                             \
+    X(503, 0x0400, TargetExists, Host, "The file or member to be written already exists on the host.")                 \
+    X(504, 0x1FFF, NoMoreData, Host, "There are no more records.")                                                     \
+    X(505, 0x2000, UnknownFunction, Provider, "The transfer function was called with an unknown function.")            \
+    X(506, 0x2001, LengthInvalid, Provider, "The length of the request or record is not valid.")                       \
+    X(507, 0x2002, NoRequestOpen, Provider, "No request is open that this step could belong to.")                      \
+    X(508, 0x2003, UnknownConversation, Provider, "The conversation with the host is not known any more.")             \
+    X(509, 0x2004, RequestTooLong, Provider, "The request is longer than the transfer function can take.")             \
+    X(510, 0x2005, BufferTooSmall, Provider, "The buffer is too small for what the host sent.")                        \
+    X(511, 0x2007, SystemNameInvalid, Connection, "The name of the host system is not valid.")                         \
+    X(512, 0x2008, SystemNotConfigured, Connection, "The host system of that name is not configured.")                 \
+    X(513, 0x2009, NoConnection, Connection, "No connection to the host system could be made.")                        \
+    X(514, 0x2010, NotAuthorized, Host, "The user is not authorized to use the transfer function.")                    \
+    X(515, 0x2011, SignOnRefused, Host, "The user name or the password was not accepted by the host.")                 \
+    X(516, 0x2012, PasswordExpired, Host, "The password has expired; change it on the host.")                          \
+    X(517, 0x2013, HostProgramNotStarted, Host, "The transfer program of the host could not be started.")              \
+    X(518, 0x2019, HostProgramEnded, Connection, "The transfer program of the host ended unexpectedly.")               \
+    X(519, 0x2020, OutOfMemory, Provider, "The transfer function ran out of memory.")                                  \
+    X(520, 0x2021, TooManyConversations, Provider, "The transfer function has too many conversations open.")           \
+    X(521, 0x2022, WrongOrder, Provider, "The steps of the transfer came in the wrong order.")                         \
+    X(522, 0x2023, FieldsAlreadyRead, Provider, "The field descriptions have been read already.")                      \
+    X(523, 0x2024, InterruptedByHost, Host, "The transfer has been interrupted from the host side.")                   \
+    X(524, 0x2025, DataNotUnderstood, Provider, "The data of the host came in a form that is not understood.")         \
+    X(525, 0x2026, RecordMisfit, Host, "The record does not fit the host file.")                                       \
+    X(526, 0x2027, FileFull, Host, "The host file is full.")                                                           \
+    X(527, 0x2028, FileInUse, Host, "The host file is in use by another job.")                                         \
+    X(528, 0x2029, OtherVersion, Connection, "The transfer function of the host is of another version.")               \
+    X(529, 0x2030, InternalError, Provider, "An internal error occurred in the transfer function.")                    \
+    X(530, 0x3000, HostMessage, Host, "The host refused the request.")                                                 \
+    X(531, 0x3100, HostMessageInstead, Host, "The host refused the data.")                                             \
+    X(532, 0x5042, RouterNotActive, Connection, "The communications router is not active.")                            \
+    X(533, 0x5048, LineFailed, Connection, "The line to the host has failed.")                                         \
+    X(534, 0x5050, SessionEnded, Connection, "The session with the host was ended.")                                   \
+    X(535, 0x5052, NoAnswer, Connection, "The host did not answer in time.")                                           \
+    X(536, 0x5054, SessionsInUse, Connection, "All sessions with the host are in use.")                                \
+    X(537, 0x5056, ModeUnknown, Connection, "The mode of the session is not known to the host.")                       \
+    X(538, 0x5058, DeviceUnknown, Connection, "The device description of this PC is not known to the host.")           \
+    X(539, 0x5060, SecurityRejected, Host, "The host rejected the security information of this PC.")                   \
+    X(540, 0x5062, ShuttingDown, Host, "The host is shutting down.")                                                   \
+    X(541, 0x5064, AdapterFailed, Connection, "The adapter or modem of this PC reported an error.")                    \
+    X(542, 0x5066, EndedByHostProgram, Host, "The conversation was ended by the host program.")                        \
+    X(543, 0x5067, TimeLimit, Host, "The conversation was ended because of a time limit of the host.")                 \
+    X(544, 0x5071, NoConversation, Connection, "The router could not allocate a conversation; try again later.")       \
+    X(545, 0x5310, NetworkLost, Connection, "The network connection was lost.")                                        \
+    X(546, 0x5311, NetworkNotReached, Connection, "The network connection could not be established.")                  \
+    X(547, 0x5400, LicenceExceeded, Connection, "The licence of the connection does not allow another transfer.")      \
+    X(548, 0x9999, NotStarted, Provider, "The transfer function has not been started.")
 
-/* Return codes of the emulator's own providers: code, help topic. All are below the first one of the transfer function.
-   Their texts stand in the provider tables, by the code. */
-#define ZHST_PROVIDER_CODES(X) \
-    X(0x0005, 1200)            \
-    X(0x0006, 1201)            \
-    X(0x0007, 1202)            \
-    X(0x0016, 1203)            \
-    X(0x001C, 1204)            \
-    X(0x0032, 1205)            \
-    X(0x0033, 1206)            \
-    X(0x0037, 1207)            \
-    X(0x0048, 1208)            \
-    X(0x004B, 1209)            \
-    X(0x0051, 1210)            \
-    X(0x0087, 1211)            \
-    X(0x00D4, 1240)            \
-    X(0x00D5, 1241)            \
-    X(0x00D7, 1242)            \
-    X(0x00D8, 1243)            \
-    X(0x00EC, 1244)            \
-    X(0x00F5, 1250)
+/* Return codes of the emulator's own providers: code, help topic, name, who says so, meaning. All are below the first
+   one of the transfer function. Their texts stand in the provider tables, by the code. */
+#define ZHST_PROVIDER_CODES(X)                                                                              \
+    X(0x0005, 1200, AccessDenied, Host, "Access to the host was denied.")                                   \
+    X(0x0006, 1201, ConnectionInvalid, Connection, "The connection to the host is no longer valid.")        \
+    X(0x0007, 1202, MemoryDamaged, Provider, "The memory of the provider is damaged; restart the session.") \
+    X(0x0016, 1203, RequestNotUnderstood, Provider, "The provider did not understand the request.")         \
+    X(0x001C, 1204, NoRoom, Host, "The host has no room left for the data.")                                \
+    X(0x0032, 1205, RequestNotSupported, Host, "The host does not support this request.")                   \
+    X(0x0033, 1206, SystemUnreachable, Connection, "The host system cannot be reached.")                    \
+    X(0x0037, 1207, SystemGone, Connection, "The host system is no longer available.")                      \
+    X(0x0048, 1208, ConnectionPaused, Connection, "The connection to the host is paused.")                  \
+    X(0x004B, 1209, LogonRefused, Host, "The host did not accept the user name or the password.")           \
+    X(0x0051, 1210, ConnectionInUse, Connection, "The connection to the host is already in use.")           \
+    X(0x0087, 1211, PathInvalid, Host, "The path of the host file is not valid.")                           \
+    X(0x00D4, 1240, FileLocked, Host, "The host file is locked by another job.")                            \
+    X(0x00D5, 1241, MemberNotAvailable, Host, "The host member is not available.")                          \
+    X(0x00D7, 1242, NestedRequest, Host, "The host ended the transfer because of a nested request.")        \
+    X(0x00D8, 1243, ProgramMisfit, Provider, "The host program does not fit this provider.")                \
+    X(0x00EC, 1244, ConversationBroken, Connection, "The conversation with the host was broken.")           \
+    X(0x00F5, 1250, UnknownState, Provider, "The provider reports an unknown state of the host.")
 
 enum ZhstMessage {
 #define ZHST_MESSAGE_NUMBER(number, name, inserts, use) ZhstMessage##name = number,

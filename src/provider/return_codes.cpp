@@ -5,7 +5,7 @@
 namespace provider {
 
 std::uint32_t errorTextIndex(std::uint16_t returnCode) {
-#define TRANSFER_CODE(place, code) \
+#define TRANSFER_CODE(place, code, ...) \
     if (returnCode == (code)) return place;
     ZHST_TRANSFER_CODES(TRANSFER_CODE)
 #undef TRANSFER_CODE
@@ -14,7 +14,7 @@ std::uint32_t errorTextIndex(std::uint16_t returnCode) {
 
 // A code of the transfer function has its help topic where it has its text.
 std::uint32_t helpIdOf(std::uint16_t returnCode) {
-#define PROVIDER_CODE(code, help) \
+#define PROVIDER_CODE(code, help, ...) \
     if (returnCode == (code)) return help;
     ZHST_PROVIDER_CODES(PROVIDER_CODE)
 #undef PROVIDER_CODE
