@@ -53,19 +53,19 @@ page, done = "next page, ", "move, q: done"
 Cases = [
     (replace, [(question, "r\n")], 0, ["already exists", "complete: 10 records"], []),
     (replace, [(question, "maybe\n"), (question, "Yes\n")], 0, ["complete: 10 records"], []),
-    (replace, [(question, "\n")], 1, ["not confirmed"], []),
-    (replace, [(question, "\x04")], 1, ["not confirmed"], []),
-    (replace + ["--answer", "append"], [(question, "no\n")], 1, ["not confirmed"], []),
+    (replace, [(question, "\n")], 130, ["not confirmed"], []),
+    (replace, [(question, "\x04")], 130, ["not confirmed"], []),
+    (replace + ["--answer", "append"], [(question, "no\n")], 130, ["not confirmed"], []),
     (replace + ["--answer", "REPLACE"], [], 0, ["complete: 10 records"], [question]),
-    (changing, [("send or no? [no] ", "\n")], 1, ["41 bytes, the field 25", "not sent"], ["complete"]),
+    (changing, [("send or no? [no] ", "\n")], 5, ["41 bytes, the field 25", "not sent"], ["complete"]),
     (changing, [("send or no? [no] ", "s\n")], 0, ["41 bytes, the field 25", "complete: 1 record"], []),
     (receive, [], 0, ["complete: 10 records"], ["?"]),
     (receive, [("replace, append or no? [no] ", "a\n")], 0, ["complete: 10 records"], []),
     (["demo"], [(page, " "), (done, "q")], 0, ["complete: 23 records", ("LAST  ", 2)], []),
     (screen, [(page, "\n"), (page, "q")], 0, ["closed after 42 records, the screen", ("CODE  ", 2)], ["complete"]),
-    (screen, [(page, "\x03")], 1, ["cancelled after 21 records"], []),
+    (screen, [(page, "\x03")], 130, ["cancelled after 21 records"], []),
     (wide, [(done, ">"), ("PHONE", "\x1b[D"), ("STREET", "\r")], 0, ["complete: 10 records"], ["next page"]),
-    (receive + ["--answer", "yes"], [("replace, append or no? [no] ", "n\n")], 1, ["not confirmed"], []),
+    (receive + ["--answer", "yes"], [("replace, append or no? [no] ", "n\n")], 130, ["not confirmed"], []),
 ]
 
 

@@ -159,8 +159,8 @@ Tally browse(const TransferLibrary& library, const CommandLine& line, const PcTe
 
     const std::string amount = grouped(entries) + (entries == 1 ? " entry" : " entries");
     Tally tally{"complete: " + amount, ExitComplete};
-    if (result == CatalogFailure) tally = {"failed after " + amount, ExitFailed};
-    if (console::interrupted() || user.watch().isCancelled()) tally = {"cancelled after " + amount, ExitFailed};
+    if (result == CatalogFailure) tally = {"failed after " + amount, user.watch().failure()};
+    if (console::interrupted() || user.watch().isCancelled()) tally = {"cancelled after " + amount, ExitCancelled};
     tally.entries = std::move(objects);
     return tally;
 }

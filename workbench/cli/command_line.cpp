@@ -33,7 +33,7 @@ void setUp(CLI::App& program, CommandLine& line) {
     program.set_version_flag("--version", versionText, "what this program is, and what its tables were made from");
     program.require_subcommand(1);
     program.failure_message(usageMessage);
-    program.footer("Exit status: 0 the transfer is complete, 1 it failed or was cancelled, 2 wrong usage.");
+    program.footer(exitStatusHelp());
     addReceive(program, line);
     addSend(program, line);
     addDemo(program, line);
@@ -59,7 +59,7 @@ void describeCommandLine(const std::function<void(const CLI::App&)>& describe) {
     describe(program);
 }
 
-std::optional<CommandLine> parseCommandLine(int argc, char** argv, int* exitStatus) {
+std::optional<CommandLine> parseCommandLine(int argc, char** argv, ExitStatus* exitStatus) {
     CLI::App program{Purpose, "z7xfer"};
     CommandLine line;
     setUp(program, line);

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "exit_status.h"
 #include "questions.h"
 #include "settings.h"
 
@@ -38,10 +39,6 @@ struct CommandLine {
     bool json = false;  // the tally, or what is listed, is for a program
 };
 
-inline constexpr int ExitComplete = 0;
-inline constexpr int ExitFailed = 1;
-inline constexpr int ExitUsage = 2;
-
 namespace CLI {
 class App;
 }
@@ -50,4 +47,4 @@ class App;
 void describeCommandLine(const std::function<void(const CLI::App&)>& describe);
 
 // Nothing when the program is to end with `exitStatus`: help was asked for, or the usage was wrong and has been told.
-std::optional<CommandLine> parseCommandLine(int argc, char** argv, int* exitStatus);
+std::optional<CommandLine> parseCommandLine(int argc, char** argv, ExitStatus* exitStatus);

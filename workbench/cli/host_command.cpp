@@ -28,7 +28,7 @@ int hostCommand(const CommandLine& line, const fs::path& sample) {
     }
     if (isThere && !confirmed(line, own)) {
         std::cerr << "z7xfer: cancelled: " << own.string() << " is as it was" << std::endl;
-        return ExitFailed;
+        return ExitCancelled;
     }
     own_host::remake(sample);
     std::cerr << "z7xfer: complete: " << own.string() << " is a new copy of the sample" << std::endl;

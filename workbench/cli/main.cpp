@@ -109,7 +109,7 @@ Tally runCommand(const TransferLibrary& library, ZXFRPCSCLIENT* client, const Co
     if (line.command == Command::Browse) {
         // A listing runs no settings file of its own.
         if (!line.settingsFile.empty() && !runSettingsFile(session, line.settingsFile, line, pcText)) {
-            return {"failed before any entry, the settings file was refused", ExitFailed};
+            return {"failed before any entry, the settings file was refused", ExitUsage};
         }
         return browse(library, line, pcText, user, session, layouts);
     }
@@ -126,7 +126,7 @@ Tally runCommand(const TransferLibrary& library, ZXFRPCSCLIENT* client, const Co
     library.transferFile(client, line.settingsFile.c_str(), sending ? ToHost : ToPc, 1, 0);
     emulator::forgetHeldFiles();
     emulator::setSettingsFileReader(nullptr);
-    if (settingsRefused) return {"failed before any record, the settings file was refused", ExitFailed};
+    if (settingsRefused) return {"failed before any record, the settings file was refused", ExitUsage};
     return transferTally(user, pcText, session, sending);
 }
 
@@ -188,7 +188,7 @@ int transfer(const CommandLine& line) {
     const FieldLayouts layouts(library, line, pcText, session);
     std::optional<Tally> tally = check(library, line, pcText, folder, session);
     if (!tally) tally = run(library, line, pcText, session, layouts);
-    if (!line.journalFile.empty() && !writeJournal(line.journalFile, journalStream)) tally->exitStatus = ExitFailed;
+    if (!line.journalFile.empty() && !writeJournal(line.journalFile, journalStream)) tally->exitStatus = ExitLocalFile;
     const bool hasRecordsOnOutput = writesToOutput(line, session);
     emulator::reset();
 
@@ -203,7 +203,7 @@ int transfer(const CommandLine& line) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    int exitStatus = ExitComplete;
+    ExitStatus exitStatus = ExitComplete;
     const std::optional<CommandLine> line = parseCommandLine(argc, argv, &exitStatus);
     if (!line) return exitStatus;
     try {

@@ -14,7 +14,7 @@ std::string_view outcomeOf(const Tally& tally) {
 
 std::string report(const CommandLine& line, const Tally& tally) {
     json::Object object;
-    object.text("command", line.commandName).number("status", tally.exitStatus);
+    object.text("command", line.commandName).number("status", static_cast<int>(tally.exitStatus));
     object.text("outcome", outcomeOf(tally)).text("text", tally.text);
     if (tally.records) object.number("records", *tally.records);
     if (tally.bytes) object.number("bytes", *tally.bytes);

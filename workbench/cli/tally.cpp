@@ -105,22 +105,23 @@ Tally endingOf(const TerminalUser& user, const Amounts& amounts, ZhstSession ses
         case Ending::NoRecords:
             return {"failed: 0 records, " + amounts.target() + " was not written", ExitFailed};
         case Ending::Declined:
-            if (user.leavesFiles()) return {"cancelled: " + amounts.target() + " exists and is as it was", ExitFailed};
-            return {"cancelled: not confirmed (--answer replace confirms), " + amounts.target(), ExitFailed};
+            if (user.leavesFiles())
+                return {"cancelled: " + amounts.target() + " exists and is as it was", ExitCancelled};
+            return {"cancelled: not confirmed (--answer replace confirms), " + amounts.target(), ExitCancelled};
         case Ending::Closed:
             return {stopped("closed", amounts), ExitComplete};
         case Ending::Cancelled:
-            return {stopped("cancelled", amounts), ExitFailed};
+            return {stopped("cancelled", amounts), ExitCancelled};
         case Ending::NotKept:
-            return {stopped("failed", amounts), ExitFailed};
+            return {stopped("failed", amounts), ExitHostRefused};
         case Ending::FailedAfter:
             if (amounts.arePartlyLost()) break;
-            return {"failed: " + amounts.all() + "; see the message above", ExitFailed};
+            return {"failed: " + amounts.all() + "; see the message above", user.watch().failure()};
         case Ending::Failed:
             break;
     }
-    if (amounts.arePartlyLost()) return {"failed: " + amounts.lost(), ExitFailed};
-    return {stopped("failed", amounts) + silentReason(user.watch(), session), ExitFailed};
+    if (amounts.arePartlyLost()) return {"failed: " + amounts.lost(), ExitLocalFile};
+    return {stopped("failed", amounts) + silentReason(user.watch(), session), user.watch().failure()};
 }
 
 }  // namespace

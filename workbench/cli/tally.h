@@ -10,7 +10,7 @@
 // The last line of a transfer: how it ended, records, bytes, file.
 struct Tally {
     std::string text;
-    int exitStatus = ExitFailed;
+    ExitStatus exitStatus = ExitFailed;
     // The same for a program; what is empty is not known, or there is none.
     std::optional<std::uint64_t> records{}, bytes{};
     std::string pcFile{}, hostFile{};

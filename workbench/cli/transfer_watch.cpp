@@ -37,6 +37,7 @@ void TransferWatch::storeWritten(std::string_view code, std::string_view value) 
         const auto function = static_cast<std::uint8_t>(value[0]);
         const std::uint32_t result = returnCode(value);
         const bool accepted = result == TF_SUCCESS || result == TF_COMPLETED;
+        if (!accepted && result != TF_NO_MORE_DATA) lastRefusal_ = result;
         if (function == TF_PUT_DATA && accepted) ++recordsSent_;
         // The library does not judge the end of a request; a host that rolls a send back says so here.
         const bool ends = function == TF_END_REQUEST || function == TF_END_DATA;
@@ -71,7 +72,7 @@ void TransferWatch::message(const emulator::MessageBox& box) {
         return;
     }
     if (box.id == emulator::catalogue::messageId(zhst::text::NoRecords)) noRecords_ = true;
-    ++errors_;
+    if (errors_++ == 0) failure_ = statusOf(box, lastRefusal_);
 }
 
 void TransferWatch::cancelled() {

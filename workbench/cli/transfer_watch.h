@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "emulator/emulator.h"
+#include "exit_status.h"
 
 // How a transfer ended. The library returns nothing; this is told from what passed on the way.
 enum class Ending {
@@ -36,6 +37,8 @@ public:
     std::uint64_t recordsSeen() const { return recordsSent_ + recordsWritten_; }
 
     Ending ending() const;
+    // The status that the first error stands for; what follows from it is no news.
+    ExitStatus failure() const { return failure_; }
     // Records in the PC file, on the display or accepted by the host. jobRecords is the setting JobRecordsReceived: the
     // number of the record that a receive fetched last or was about to fetch.
     std::uint64_t records(std::uint64_t jobRecords) const;
@@ -56,6 +59,8 @@ private:
     bool noRecords_ = false;
     bool asked_ = false;
     bool endRefused_ = false;
+    std::uint32_t lastRefusal_ = 0;  // return code
+    ExitStatus failure_ = ExitFailed;
     std::uint32_t errors_ = 0;
     std::uint32_t errorsBeforeLastWrite_ = 0;
     std::uint64_t recordsWritten_ = 0;

@@ -43,7 +43,7 @@ std::uint32_t convert(Session* session, std::uint32_t direction, std::uint32_t l
 [[gnu::cold, gnu::noinline]] void tellRefusal(const Session& session) {
     if (!messageEnabled(0)) return;
     constexpr std::uint32_t Exclamation = 0x30;
-    MessageBox box = readyTextBox(session.handle(SessionPart::Session));
+    MessageBox box = readyTextBox(session.handle(SessionPart::Session), MessageSource::Converter);
     box.flags = Exclamation;
     box.text = "A text cannot be converted between host code page " +
                std::to_string(session.numbers[zhst::setting::HostCodePage]) + " and the code page of the PC.";

@@ -18,7 +18,10 @@ namespace emulator {
 
 // --- What the user sees and does ---------------------------------------------------------------------------------
 
+enum class MessageSource { Library, PcFile, Converter };
+
 struct MessageBox {
+    MessageSource source = MessageSource::Library;
     std::uint32_t id = 0;  // 0 for a ready text and for the boxes of file objects
     std::uint32_t owner = 0;
     std::uint32_t flags = 0;

@@ -31,7 +31,7 @@ bool FileTrouble::tell(const std::string& name, const char* doing, const std::st
 void FileTrouble::tell() {
     if (std::exchange(told_, true) || !messageEnabled(0)) return;
     constexpr std::uint32_t Exclamation = 0x30;
-    MessageBox box = readyTextBox(session_);
+    MessageBox box = readyTextBox(session_, MessageSource::PcFile);
     box.flags = Exclamation;
     box.text = sentence_;
     userInterface().showMessage(box);

@@ -80,8 +80,9 @@ void disableMessage(std::uint32_t id) { disabled.insert(id); }
 
 bool messageEnabled(std::uint32_t id) { return !disabled.contains(0) && !disabled.contains(id); }
 
-MessageBox readyTextBox(ZhstSession session) {
+MessageBox readyTextBox(ZhstSession session, MessageSource source) {
     MessageBox box;
+    box.source = source;
     if (const Session* found = findSession(session, SessionPart::Session))
         box.owner = found->handle(SessionPart::Window);
     return box;

@@ -10,7 +10,7 @@ namespace emulator {
 bool messageEnabled(std::uint32_t id);
 
 // A box of the emulator's own over the session's window, still without flags and text.
-MessageBox readyTextBox(ZhstSession session);
+MessageBox readyTextBox(ZhstSession session, MessageSource source);
 
 void resetMessages();
 

@@ -37,7 +37,7 @@ std::string PcFile::path() const { return nativePath(name_); }
 PcFile::Choice PcFile::askUser() const {
     constexpr std::uint32_t Question = 0x20, YesNoCancel = 0x03, OkCancel = 0x01;
     constexpr std::int32_t Ok = 1, Yes = 6, No = 7, Replace = 10;
-    MessageBox box = readyTextBox(session_);
+    MessageBox box = readyTextBox(session_, MessageSource::PcFile);
     box.flags = Question | (appendOffered_ ? YesNoCancel : OkCancel);
     box.text = "The file " + name_ + " already exists. ";
     box.text += appendOffered_ ? "Replace it, or add the new data to its end?" : "Replace it?";
