@@ -36,7 +36,7 @@ Tally checkedOnly(const SendCheck& check, Verdict verdict) {
     if (verdict == Verdict::Sound)
         return {"checked: " + counted(check.records(), "record") + ", all would arrive as written", ExitComplete};
     if (verdict == Verdict::NotChecked) return {"not checked: " + check.reason(), ExitFailed};
-    return {"checked: " + summary(check), ExitFailed};
+    return {"checked: " + summary(check), ExitBadData};
 }
 
 }  // namespace
@@ -46,15 +46,15 @@ std::optional<Tally> checkBeforeSend(const TransferLibrary& library, const PcTex
     SendCheck check(library, pcText, line, programFolder, session);
     const Verdict verdict = check.run();
     if (verdict == Verdict::Cancelled)
-        return Tally{"cancelled while the file was checked; nothing was sent", ExitFailed};
+        return Tally{"cancelled while the file was checked; nothing was sent", ExitCancelled};
     check.findings().print(line.checkOnly ? std::cout : std::cerr);
     std::cout.flush();
     if (line.checkOnly) return checkedOnly(check, verdict);
     if (verdict == Verdict::NotChecked && !check.isToldBySend())
         std::cerr << "z7xfer: not checked: " << check.reason() << std::endl;
     if (verdict == Verdict::Sound || verdict == Verdict::NotChecked) return std::nullopt;
-    if (verdict == Verdict::Refused) return Tally{"not sent: " + summary(check), ExitFailed};
+    if (verdict == Verdict::Refused) return Tally{"not sent: " + summary(check), ExitBadData};
     std::cerr << "z7xfer: " << summary(check) << std::endl;
     if (isWanted(line)) return std::nullopt;
-    return Tally{"not sent: nobody said that it may change (--allow-changes does)", ExitFailed};
+    return Tally{"not sent: nobody said that it may change (--allow-changes does)", ExitBadData};
 }

@@ -2,35 +2,18 @@
 
 #include "Z7XFRPCS/provider.h"
 #include "emulator/catalogue.h"
+#include "return_codes.h"
 
 namespace {
 
 namespace message = zhst::message;
 using emulator::catalogue::messageId;
 
-enum class Speaker { Host, Connection, Provider };
-
-Speaker speakerOf(std::uint32_t returnCode) {
-    switch (returnCode) {
-#define TRANSFER_CODE(place, code, name, speaker, meaning) \
-    case code:                                             \
-        return Speaker::speaker;
-        ZHST_TRANSFER_CODES(TRANSFER_CODE)
-#undef TRANSFER_CODE
-#define PROVIDER_CODE(code, help, name, speaker, meaning) \
-    case code:                                            \
-        return Speaker::speaker;
-        ZHST_PROVIDER_CODES(PROVIDER_CODE)
-#undef PROVIDER_CODE
-        default:
-            return Speaker::Provider;
-    }
-}
-
 // A host that refuses a record has taken the request: what is wrong is in the data.
 ExitStatus statusOfCode(std::uint32_t returnCode) {
     if (returnCode == TF_HOST_MESSAGE_INSTEAD) return ExitBadData;
-    return speakerOf(returnCode) == Speaker::Host ? ExitHostRefused : ExitFailed;
+    const return_codes::Row* row = return_codes::find(returnCode);
+    return row != nullptr && row->speaker == return_codes::Speaker::Host ? ExitHostRefused : ExitFailed;
 }
 
 // Boxes that are no message of the catalogue.

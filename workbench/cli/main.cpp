@@ -2,10 +2,12 @@
 #include <iostream>
 #include <stdexcept>
 
+#include "Z7XFRPCS/provider.h"
 #include "browse.h"
 #include "check_before_send.h"
 #include "command_line.h"
 #include "console.h"
+#include "damaged_numbers.h"
 #include "host_command.h"
 #include "host_layout.h"
 #include "implied_settings.h"
@@ -74,17 +76,22 @@ void checkLength(const emulator::Clauses& clauses, const std::string& hostFiles)
                                     " characters; a request takes " + std::to_string(Longest));
 }
 
+emulator::Clauses pcClauses(const CommandLine& line, const PcText& pcText) {
+    emulator::Clauses clauses = line.clauses;
+    for (std::string* clause :
+         {&clauses.select, &clauses.where, &clauses.orderBy, &clauses.groupBy, &clauses.having, &clauses.join}) {
+        *clause = pcText.toPc(*clause);
+    }
+    return clauses;
+}
+
 ZhstSession openSession(const CommandLine& line, const PcText& pcText) {
     const ZhstSession session = emulator::newSession();
     apply(session, defaultSettings(), pcText);
     if (Pager::isWanted()) emulator::set(session, zhst::setting::DisplayRowsPerPage, Pager::rowsPerPage());
     if (questions::canBeAsked()) emulator::set(session, zhst::setting::ExistingFileAction, zhst::value::AskUser);
     apply(session, wholeSettings(line, {}), pcText);
-    emulator::Clauses clauses = line.clauses;
-    for (std::string* clause :
-         {&clauses.select, &clauses.where, &clauses.orderBy, &clauses.groupBy, &clauses.having, &clauses.join}) {
-        *clause = pcText.toPc(*clause);
-    }
+    const emulator::Clauses clauses = pcClauses(line, pcText);
     checkLength(clauses, emulator::text(session, zhst::setting::HostFileName));
     emulator::setClauses(session, clauses);
     return session;
@@ -136,7 +143,7 @@ std::optional<Tally> check(const TransferLibrary& library, const CommandLine& li
     if (line.command != Command::Send || line.unchecked) return std::nullopt;
     const ZhstSession checked = copyOfSession(session);
     if (!line.settingsFile.empty() && !runSettingsFile(checked, line.settingsFile, line, pcText))
-        return Tally{"failed before any record, the settings file was refused", ExitFailed};
+        return Tally{"failed before any record, the settings file was refused", ExitUsage};
     if (emulator::number(checked, zhst::setting::ConnectionType) == zhst::value::DemonstrationConnection)
         return std::nullopt;
     return checkBeforeSend(library, pcText, line, folder, checked);
@@ -147,6 +154,22 @@ bool writesToOutput(const CommandLine& line, ZhstSession session) {
     if (line.command != Command::Receive && line.command != Command::Demo) return false;
     return emulator::number(session, zhst::setting::ReceiveOutput) == zhst::value::ToDisplay ||
            emulator::text(session, zhst::setting::PcFileName) == "-";
+}
+
+// What only shows when the transfer is over, and its client gone.
+void explainEnding(const TransferLibrary& library, const CommandLine& line, const PcText& pcText,
+                   const TerminalUser& user, ZhstSession session, const Tally& tally) {
+    const TransferWatch& watch = user.watch();
+    const bool failed = tally.exitStatus != ExitComplete && tally.exitStatus != ExitCancelled;
+    if (failed && tally.exitStatus != ExitUsage && watch.messages() == 0) {
+        std::cerr << "z7xfer: the transfer ended without a message\n";
+        printBelow(std::cerr, user.reasons().ofSilence());
+    }
+    const TransferWatch::Answer& refusal = watch.lastRefusal();
+    const bool recordRefused = refusal.function == TF_GET_DATA && refusal.code == TF_HOST_MESSAGE_INSTEAD;
+    if (line.command == Command::Receive && recordRefused &&
+        emulator::number(session, zhst::setting::IgnoreDecimalErrors) == 0)
+        print(std::cerr, findDamagedNumbers(library, session, pcClauses(line, pcText)));
 }
 
 bool writeJournal(const std::string& file, std::ofstream& stream) {
@@ -165,6 +188,7 @@ Tally run(const TransferLibrary& library, const CommandLine& line, const PcText&
     if (client == nullptr) throw std::runtime_error("the library made no client");
     Tally tally = runCommand(library, client, line, pcText, user, session, layouts);
     library.deleteClient(client);
+    explainEnding(library, line, pcText, user, session, tally);
     emulator::setUserInterface(nullptr);
     tally.messages = user.messages();
     return tally;

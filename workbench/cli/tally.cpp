@@ -1,6 +1,5 @@
 #include "tally.h"
 
-#include <cstdio>
 #include <optional>
 
 namespace {
@@ -78,16 +77,6 @@ private:
     std::uint64_t records_ = 0;
 };
 
-// For an ending that no message explains.
-std::string silentReason(const TransferWatch& watch, ZhstSession session) {
-    if (watch.messages() > 0) return {};
-    const auto code = static_cast<std::uint32_t>(emulator::number(session, setting::LastReturnCode));
-    if (code == 0) return "; no reason was given";
-    char buffer[64];
-    std::snprintf(buffer, sizeof buffer, "; the last return code was 0x%04X", code);
-    return buffer;
-}
-
 std::string stopped(const std::string& how, const Amounts& amounts) {
     if (!amounts.any()) return how + " before any record, " + amounts.target();
     return how + " after " + amounts.all() + (amounts.areKept() ? "" : "; the host kept none of them");
@@ -121,7 +110,7 @@ Tally endingOf(const TerminalUser& user, const Amounts& amounts, ZhstSession ses
             break;
     }
     if (amounts.arePartlyLost()) return {"failed: " + amounts.lost(), ExitLocalFile};
-    return {stopped("failed", amounts) + silentReason(user.watch(), session), user.watch().failure()};
+    return {stopped("failed", amounts), user.watch().failure()};
 }
 
 }  // namespace

@@ -70,6 +70,7 @@ TerminalUser::TerminalUser(const CommandLine& line, const PcText& pcText, ZhstSe
     : line_(line),
       pcText_(pcText),
       session_(session),
+      reasons_(watch_, session),
       bar_(false),
       table_(std::cout, Pager::isWanted()),
       pager_(table_) {
@@ -86,6 +87,7 @@ void TerminalUser::storeWritten(std::string_view code, std::string_view value) {
     const std::uint64_t before = watch_.recordsSeen();
     watch_.storeWritten(code, value);
     names_.storeWritten(code, value);
+    reasons_.storeWritten(code, value);
     if (sending_ || watch_.recordsSeen() == before) return;
     // The store hears of a record before the file does.
     emulator::releaseFilesWithNextWrite();
@@ -110,6 +112,7 @@ void TerminalUser::printMessage(const emulator::MessageBox& box) {
     messages_.push_back({box.id, pcText_.toTerminal(box.text)});
     std::cerr << "z7xfer: message " << box.id << ": " << withoutControlsInLines(indented(pcText_.toTerminal(box.text)))
               << std::endl;
+    printBelow(std::cerr, reasons_.of(box));
 }
 
 std::int32_t TerminalUser::answer(const emulator::MessageBox& box) {

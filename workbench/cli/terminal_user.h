@@ -12,6 +12,7 @@
 #include "pc_text.h"
 #include "progress_bar.h"
 #include "questions.h"
+#include "reasons.h"
 #include "text_table.h"
 #include "transfer_watch.h"
 
@@ -33,6 +34,7 @@ public:
     const TransferWatch& watch() const { return watch_; }
     bool leavesFiles() const { return line_.noClobber; }
     const std::vector<ShownMessage>& messages() const { return messages_; }
+    const Reasons& reasons() const { return reasons_; }
 
     std::int32_t showMessage(const emulator::MessageBox& box) override;
     bool connectionDialog() override;
@@ -72,6 +74,7 @@ private:
     TransferWatch watch_;
     std::vector<ShownMessage> messages_;
     FieldNames names_;
+    Reasons reasons_;
     ProgressBar bar_;
     TextTable table_;
     Pager pager_;

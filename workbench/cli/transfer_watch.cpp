@@ -8,14 +8,14 @@
 
 namespace {
 
-// The result record of the monitor store: the function asked for, then the return code, lowest byte first.
-constexpr std::size_t ResultHeader = 13;
-
-std::uint32_t returnCode(std::string_view result) {
-    std::uint32_t code = 0;
-    for (std::size_t place = 4; place >= 1; --place) code = code << 8 | static_cast<std::uint8_t>(result[place]);
-    return code;
+// Of four bytes, the lowest first.
+std::uint32_t numberAt(std::string_view result, std::size_t place) {
+    std::uint32_t number = 0;
+    for (std::size_t at = place + 4; at-- > place;) number = number << 8 | static_cast<std::uint8_t>(result[at]);
+    return number;
 }
+
+constexpr std::size_t CodeAt = 1, DetailAt = 5;
 
 // The icon of a message box.
 constexpr std::uint32_t IconMask = 0xF0;
@@ -35,9 +35,10 @@ void TransferWatch::storeWritten(std::string_view code, std::string_view value) 
     } else if (code == "XDGI" && value.size() >= ResultHeader) {
         providerAsked_ = true;
         const auto function = static_cast<std::uint8_t>(value[0]);
-        const std::uint32_t result = returnCode(value);
+        const std::uint32_t result = numberAt(value, CodeAt);
         const bool accepted = result == TF_SUCCESS || result == TF_COMPLETED;
-        if (!accepted && result != TF_NO_MORE_DATA) lastRefusal_ = result;
+        if (!accepted && result != TF_NO_MORE_DATA) lastRefusal_ = {function, result, numberAt(value, DetailAt)};
+        if (function == TF_GET_DATA && accepted && dataBegun_) ++recordsFetched_;
         if (function == TF_PUT_DATA && accepted) ++recordsSent_;
         // The library does not judge the end of a request; a host that rolls a send back says so here.
         const bool ends = function == TF_END_REQUEST || function == TF_END_DATA;
@@ -72,7 +73,7 @@ void TransferWatch::message(const emulator::MessageBox& box) {
         return;
     }
     if (box.id == emulator::catalogue::messageId(zhst::text::NoRecords)) noRecords_ = true;
-    if (errors_++ == 0) failure_ = statusOf(box, lastRefusal_);
+    if (errors_++ == 0) failure_ = statusOf(box, lastRefusal_.code);
 }
 
 void TransferWatch::cancelled() {

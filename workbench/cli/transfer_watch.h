@@ -19,9 +19,17 @@ enum class Ending {
     Failed,
 };
 
+// A result of the monitor store: function, return code, detail and length in front of the data.
+inline constexpr std::size_t ResultHeader = 13;
+
 // Collects the signs of one transfer.
 class TransferWatch {
 public:
+    // What a provider gave; code 0 when it never refused anything.
+    struct Answer {
+        std::uint32_t function = 0, code = 0, detail = 0;
+    };
+
     void storeWritten(std::string_view code, std::string_view value);
     void progressCommand(std::uint32_t command);
     void displayRow() { ++displayRows_; }
@@ -46,6 +54,10 @@ public:
     // stands before a DIF file's first record.
     std::uint64_t bytesOfRecords() const { return bytesOfRecords_; }
     std::uint32_t messages() const { return errors_; }
+    const Answer& lastRefusal() const { return lastRefusal_; }
+    bool wasProviderAsked() const { return providerAsked_; }
+    // Records that the host has delivered.
+    std::uint64_t recordsFetched() const { return recordsFetched_; }
 
 private:
     bool dataEnded_ = false;
@@ -59,12 +71,13 @@ private:
     bool noRecords_ = false;
     bool asked_ = false;
     bool endRefused_ = false;
-    std::uint32_t lastRefusal_ = 0;  // return code
+    Answer lastRefusal_;
     ExitStatus failure_ = ExitFailed;
     std::uint32_t errors_ = 0;
     std::uint32_t errorsBeforeLastWrite_ = 0;
     std::uint64_t recordsWritten_ = 0;
     std::uint64_t recordsSent_ = 0;
+    std::uint64_t recordsFetched_ = 0;
     std::uint64_t displayRows_ = 0;
     std::uint64_t bytesWritten_ = 0;
     std::uint64_t bytesOfRecords_ = 0;  // without the one in hand

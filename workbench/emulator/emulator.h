@@ -100,6 +100,7 @@ void setCodePageDataFile(const std::string& path);
 // library. LoadModule gives 2 for a file that is not there and 193 for one that is no library.
 // Gives the folder that was set before.
 std::string setProviderFolder(const std::string& folder);
+std::string providerFolder();
 
 // From now on a PC file that is opened for reading begins with `lead`, and goes on with the file's bytes from `offset`
 // on; its size and its positions are those of what is read. For a program that goes through a file in several runs.

@@ -20,8 +20,6 @@ constexpr std::uint32_t FileNotFound = 2;
 std::string wantedFolder;
 std::uint32_t loadCount = 0;
 
-std::string providerFolder() { return wantedFolder.empty() ? ownFolder() + "/providers" : wantedFolder; }
-
 char lowerCase(char character) {
     return character >= 'A' && character <= 'Z' ? static_cast<char>(character + 32) : character;
 }
@@ -52,6 +50,8 @@ std::uint32_t load(const char* name, ZhstModule* module) {
 }  // namespace
 
 std::string setProviderFolder(const std::string& folder) { return std::exchange(wantedFolder, folder); }
+
+std::string providerFolder() { return wantedFolder.empty() ? ownFolder() + "/providers" : wantedFolder; }
 
 std::optional<std::string> findLibrary(const char* name) {
     if (!name || !*name) return std::nullopt;
