@@ -31,6 +31,11 @@ std::int32_t numberOf(const std::vector<Assignment>& settings, std::uint32_t id,
     return found ? std::get<std::int32_t>(found->value) : otherwise;
 }
 
+void add(std::vector<Assignment>& settings, std::uint32_t id, std::int32_t number) {
+    const Assignment assignment{id, number};
+    settings.push_back(assignment);
+}
+
 // The library reads and writes records only: on the way to the host it is told to begin behind the line.
 void skipHeader(const CommandLine& line, std::uint32_t typeSetting, std::vector<Assignment>& settings) {
     const std::int32_t type = numberOf(settings, typeSetting, ZhstCommaSeparated);
@@ -38,7 +43,7 @@ void skipHeader(const CommandLine& line, std::uint32_t typeSetting, std::vector<
     const bool isSend = line.command == Command::Send;
     if ((type != ZhstCommaSeparated && type != ZhstTabDelimited) || (!isSend && !toFile))
         throw std::invalid_argument("--header goes with a PC file of type csv or tab");
-    if (isSend) settings.emplace_back(setting::StartRecord, numberOf(settings, setting::StartRecord, 1) + 1);
+    if (isSend) add(settings, setting::StartRecord, numberOf(settings, setting::StartRecord, 1) + 1);
 }
 
 // A settings file that is refused is told when it is run.
@@ -80,7 +85,7 @@ std::vector<Assignment> wholeSettings(const CommandLine& line, const std::vector
     const Assignment* name = lastOf(settings, setting::PcFileName);
     if (name && !lastOf(settings, type)) {
         if (const std::optional<std::int32_t> implied = typeOfName(std::get<std::string>(name->value)))
-            settings.emplace_back(type, *implied);
+            add(settings, type, *implied);
     }
     if (line.header) skipHeader(line, type, settings);
     return settings;

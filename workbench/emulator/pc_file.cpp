@@ -20,13 +20,13 @@ namespace files = std::filesystem;
 constexpr std::size_t PieceSize = 64 * 1024;
 
 ReadingStart readingStart;
-Heading heading;
+Heading wantedHeading;
 
 }  // namespace
 
 void setReadingStart(const ReadingStart& start) { readingStart = start; }
 void resetReadingStart() { readingStart = {}; }
-void setHeading(Heading wanted) { heading = std::move(wanted); }
+void setHeading(Heading heading) { wantedHeading = std::move(heading); }
 
 void PcFile::setName(const char* name) { name_ = name ? name : ""; }
 
@@ -81,8 +81,8 @@ bool PcFile::openForWriting() {
     auto file = std::make_unique<WrittenFile>(name_, trouble_);
     if (!file->open(existing)) return false;
     written_ = std::move(file);
-    if (!heading || !isTransferred_ || written_->position() > 0) return true;
-    const std::string bytes = heading();
+    if (!wantedHeading || !isTransferred_ || written_->position() > 0) return true;
+    const std::string bytes = wantedHeading();
     return written_->write(bytes.data(), static_cast<std::uint32_t>(bytes.size()));
 }
 
