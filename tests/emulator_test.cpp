@@ -132,9 +132,9 @@ TEST_F(Emulator, DoubleByteNamesAreNotCut) {
     char base[261];
     paths->baseName("C:\\A\\\x95\x5C.TXT", base);
     EXPECT_STREQ(base, "\x95\x5C");
-    writeFile(folder / "\xE8\xA1\xA8.txt", "x");
-    const std::string found = emulator::nativePath(folder.string() + "\\\x95\x5C.TXT");
-    EXPECT_TRUE(files::equivalent(found, folder / "\xE8\xA1\xA8.txt")) << found;
+    writeFile(folder / u8"表.txt", "x");
+    const files::path found = emulator::nativePath(folder.string() + "\\\x95\x5C.TXT");
+    EXPECT_TRUE(files::equivalent(found, folder / u8"表.txt")) << found;
 }
 
 TEST_F(Emulator, LibrariesAreFoundLoadedAndCounted) {

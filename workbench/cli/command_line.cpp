@@ -1,5 +1,8 @@
 #include "command_line.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "commands.h"
 #include "suggestions.h"
 #include "version.h"
@@ -32,6 +35,7 @@ std::string usageMessage(const CLI::App* app, const CLI::Error& error) {
 void setUp(CLI::App& program, CommandLine& line) {
     program.set_version_flag("--version", versionText, "what this program is, and what its tables were made from");
     program.require_subcommand(1);
+    program.allow_windows_style_options(false);  // what begins with a slash is a path
     program.failure_message(usageMessage);
     program.footer(exitStatusHelp());
     addReceive(program, line);
@@ -59,12 +63,13 @@ void describeCommandLine(const std::function<void(const CLI::App&)>& describe) {
     describe(program);
 }
 
-std::optional<CommandLine> parseCommandLine(int argc, char** argv, ExitStatus* exitStatus) {
+std::optional<CommandLine> parseCommandLine(std::vector<std::string> arguments, ExitStatus* exitStatus) {
     CLI::App program{Purpose, "z7xfer"};
     CommandLine line;
     setUp(program, line);
     try {
-        program.parse(argc, argv);
+        std::reverse(arguments.begin(), arguments.end());  // it takes the first one from the end
+        program.parse(std::move(arguments));
         line.commandName = program.get_subcommands().front()->get_name();
         return line;
     } catch (const CLI::ParseError& error) {

@@ -46,5 +46,6 @@ class App;
 // Hands the parser over, as it is before anything was parsed: names, values and help of all commands.
 void describeCommandLine(const std::function<void(const CLI::App&)>& describe);
 
-// Nothing when the program is to end with `exitStatus`: help was asked for, or the usage was wrong and has been told.
-std::optional<CommandLine> parseCommandLine(int argc, char** argv, ExitStatus* exitStatus);
+// From the arguments behind the program's name, in UTF-8. Nothing when the program is to end with `exitStatus`: help
+// was asked for, or the usage was wrong and has been told.
+std::optional<CommandLine> parseCommandLine(std::vector<std::string> arguments, ExitStatus* exitStatus);

@@ -1,12 +1,29 @@
+#include <filesystem>
+#include <system_error>
+
 #include "commands.h"
+#include "environment/utf8_path.h"
 #include "setting_options.h"
 
 #include <map>
 
 namespace {
 
+// The parser's own checks know names in the PC's code page only.
+std::string existingFile(const std::string& name) {
+    std::error_code ignored;
+    if (std::filesystem::is_directory(utf8Path(name), ignored)) return name + " is a folder";
+    return std::filesystem::exists(utf8Path(name), ignored) ? "" : "there is no file " + name;
+}
+
+std::string existingFolder(const std::string& name) {
+    std::error_code ignored;
+    return std::filesystem::is_directory(utf8Path(name), ignored) ? "" : "there is no folder " + name;
+}
+
 void addPc(CLI::App& app, CommandLine& line) {
-    const std::string group = "The PC";
+    // The code pages and the language of a real one are what they are.
+    const std::string group = "The PC (code pages and language are its own on Windows)";
     const auto character = [&](const std::string& name, char* place, const std::string& help) {
         app.add_option_function<std::string>(
                name, [place](const std::string& value) { *place = value.front(); }, help)
@@ -65,12 +82,12 @@ void addCommon(CLI::App& app, CommandLine& line) {
         ->allow_extra_args(false)
         ->group(group);
     app.add_option("--settings", line.settingsFile, "file of such settings, a line each, # before comments")
-        ->check(CLI::ExistingFile)
+        ->check(existingFile)
         ->group(group);
     app.add_option("--providers", line.providerFolder, "folder of the provider libraries")
-        ->check(CLI::ExistingDirectory)
+        ->check(existingFolder)
         ->group(group);
-    app.add_option("--host-data", line.hostData, "database of the sample host")->check(CLI::ExistingFile)->group(group);
+    app.add_option("--host-data", line.hostData, "database of the sample host")->check(existingFile)->group(group);
     app.add_option("--journal", line.journalFile, "write every service call of the library to a file")
         ->type_name("FILE")
         ->group(group);

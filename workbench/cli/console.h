@@ -8,6 +8,9 @@ namespace console {
 
 enum class Stream { Input, Output, Error };
 
+// Before anything is written: texts are UTF-8 from here on, and bytes go through the standard streams as they are.
+void setUp();
+
 bool isTerminal(Stream stream);
 // Of the terminal on standard error; 80 and 24 when it does not say.
 int columns();

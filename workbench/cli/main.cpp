@@ -1,5 +1,6 @@
 #include <fstream>
 #include <iostream>
+#include <sstream>
 #include <stdexcept>
 
 #include "Z7XFRPCS/provider.h"
@@ -8,6 +9,8 @@
 #include "command_line.h"
 #include "console.h"
 #include "damaged_numbers.h"
+#include "environment/environment.h"
+#include "environment/utf8_path.h"
 #include "host_command.h"
 #include "host_layout.h"
 #include "implied_settings.h"
@@ -46,23 +49,35 @@ enum class Use { Read, Write };
 
 // What reads, reads what was sent.
 void chooseHost(const CommandLine& line, Use use) {
-    fs::path host = line.hostData;
+    fs::path host = utf8Path(line.hostData);
     if (host.empty()) host = use == Use::Read ? own_host::toRead(sampleHost()) : own_host::toWrite(sampleHost());
-    process::setEnvironment("Z7X_HOST_DATA", host.string());
+    environment::set("Z7X_HOST_DATA", host.string());
+}
+
+std::string described(const emulator::PcSetup& pc) {
+    std::ostringstream text;
+    text << "ANSI code page " << pc.ansiCodePage << ", OEM code page " << pc.oemCodePage << " and language 0x"
+         << std::hex << pc.languageId;
+    return text.str();
+}
+
+std::string reasonAgainst(const emulator::PcSetup& pc) {
+    if (emulator::pcIsPlayed()) return "a PC with " + described(pc) + " cannot be set up";
+    return "this PC has " + described(emulator::usualPc()) + "; they hold for a transfer, and " + described(pc) +
+           " cannot be had on it";
 }
 
 void setUpPc(const CommandLine& line, const fs::path& folder) {
     if (!emulator::setUpPc(line.pc)) {
-        throw std::invalid_argument("a PC with the code pages " + std::to_string(line.pc.ansiCodePage) + " and " +
-                                    std::to_string(line.pc.oemCodePage) + " cannot be set up");
+        throw std::invalid_argument(reasonAgainst(line.pc));
     }
     emulator::setProviderFolder(line.providerFolder.empty() ? (folder / "providers").string() : line.providerFolder);
     if (line.appends && !line.providerFolder.empty())
         throw std::invalid_argument(
             "--create append is for the sample host; other providers would replace the records");
     chooseHost(line, Use::Read);
-    process::setEnvironment("Z7X_SEND_APPENDS", line.appends ? "1" : "0");
-    process::setEnvironment("Z7X_PC_CODE_PAGE", std::to_string(line.pc.ansiCodePage));
+    environment::set("Z7X_SEND_APPENDS", line.appends ? "1" : "0");
+    environment::set("Z7X_PC_CODE_PAGE", std::to_string(line.pc.ansiCodePage));
 }
 
 // A clause that does not fit into the request is left out, and without its condition the transfer would take
@@ -101,8 +116,7 @@ ZhstSession openSession(const CommandLine& line, const PcText& pcText) {
 void settleHostCodePage(const TransferLibrary& library, const CommandLine& line, const PcText& pcText,
                         ZhstSession session) {
     const auto tellHost = [&] {
-        process::setEnvironment("Z7X_HOST_CODE_PAGE",
-                                std::to_string(emulator::number(session, zhst::setting::HostCodePage)));
+        environment::set("Z7X_HOST_CODE_PAGE", std::to_string(emulator::number(session, zhst::setting::HostCodePage)));
     };
     tellHost();
     if (const std::optional<std::int32_t> page = hostCodePage(line, library, pcText, session))
@@ -201,7 +215,7 @@ int transfer(const CommandLine& line) {
     const ZhstSession session = openSession(line, pcText);
     std::ofstream journalStream;
     if (!line.journalFile.empty()) {
-        journalStream.open(line.journalFile, std::ios::binary);
+        journalStream.open(utf8Path(line.journalFile), std::ios::binary);
         if (!journalStream) throw std::invalid_argument(line.journalFile + " cannot be written");
     }
 
@@ -227,8 +241,9 @@ int transfer(const CommandLine& line) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    console::setUp();
     ExitStatus exitStatus = ExitComplete;
-    const std::optional<CommandLine> line = parseCommandLine(argc, argv, &exitStatus);
+    const std::optional<CommandLine> line = parseCommandLine(environment::arguments(argc, argv), &exitStatus);
     if (!line) return exitStatus;
     try {
         if (line->command == Command::Settings) {

@@ -4,6 +4,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "environment/environment.h"
+#include "environment/utf8_path.h"
 #include "process.h"
 
 namespace own_host {
@@ -53,7 +55,7 @@ bool isThere(const fs::path& file) {
 }  // namespace
 
 fs::path place() {
-    const fs::path named = process::environmentPath("Z7X_DATA_FOLDER");
+    const fs::path named = utf8Path(environment::variable("Z7X_DATA_FOLDER"));
     if (!named.empty()) return named / "host.db";
     const fs::path folder = process::dataFolder();
     if (folder.empty()) {
@@ -92,7 +94,7 @@ void remake(const fs::path& sample) {
     const fs::path own = place();
     const NewCopy copy(sample, own);
     std::error_code error;
-    fs::remove(own.string() + "-journal", error);
+    fs::remove(fs::path(own) += "-journal", error);
     if (!error) fs::rename(copy.file(), own, error);
     if (error) fail(own, error);
 }

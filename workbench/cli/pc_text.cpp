@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <stdexcept>
 
 #include "codepages.h"
+#include "environment/environment.h"
 #include "process.h"
 
 namespace {
@@ -57,8 +57,8 @@ char32_t takeCharacter(std::string_view& text) {
 }  // namespace
 
 std::string codePageDataFile() {
-    const char* elsewhere = std::getenv("Z7X_CODE_PAGES");
-    if (elsewhere != nullptr && *elsewhere != '\0') return elsewhere;
+    const std::string elsewhere = environment::variable("Z7X_CODE_PAGES");
+    if (!elsewhere.empty()) return elsewhere;
     return (process::executableFolder() / "codepages.dat").string();
 }
 

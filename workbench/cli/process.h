@@ -9,12 +9,6 @@ namespace process {
 
 std::filesystem::path executableFolder();
 
-// For the libraries that are loaded into this process.
-void setEnvironment(const char* name, const std::string& value);
-
-// Of a variable of the environment; empty when it is not set.
-std::filesystem::path environmentPath(const char* name);
-
 // Where the operating system has the data of a user's programs; empty when neither of these variables says so.
 std::filesystem::path dataFolder();
 extern const char* const DataFolderVariables;  // "A nor B"
@@ -23,6 +17,6 @@ bool hasDesktop();
 
 // Asks the desktop for the program of a file, without waiting for it. 33, or the error number of a shell: 2 when
 // there is nothing to ask.
-std::int32_t openOnDesktop(const std::string& path);
+std::int32_t openOnDesktop(const std::filesystem::path& path);
 
 }  // namespace process

@@ -7,6 +7,7 @@
 #include <optional>
 #include <stdexcept>
 
+#include "environment/utf8_path.h"
 #include "suggestions.h"
 
 namespace {
@@ -112,7 +113,7 @@ Assignment parseAssignment(std::string_view text) {
 }
 
 std::vector<Assignment> readSettingsFile(const std::string& file) {
-    std::ifstream stream(file, std::ios::binary);
+    std::ifstream stream(utf8Path(file), std::ios::binary);
     std::vector<Assignment> assignments;
     std::string line;
     for (int number = 1; std::getline(stream, line); ++number) {

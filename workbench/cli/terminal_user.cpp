@@ -9,6 +9,7 @@
 #include "Z7XFRPCS/text_display.h"
 #include "console.h"
 #include "emulator/setting_rows.h"
+#include "environment/environment.h"
 #include "process.h"
 
 namespace {
@@ -37,7 +38,7 @@ const char* phaseWords(ZhstProgressCommand command) {
 
 // The request of a send that was cancelled ends like that of one that is complete, so the sample host is told beside
 // it.
-void tellHostWhetherWhole(bool whole) { process::setEnvironment("Z7X_SEND_IS_WHOLE", whole ? "1" : "0"); }
+void tellHostWhetherWhole(bool whole) { environment::set("Z7X_SEND_IS_WHOLE", whole ? "1" : "0"); }
 
 // The lines of a text, every one behind the first indented.
 std::string indented(std::string_view text) {
@@ -249,9 +250,9 @@ void TerminalUser::displayDestroyed() {
 // --- Shell -------------------------------------------------------------------------------------------------------
 
 std::int32_t TerminalUser::shellExecute(const std::string& file, const std::string& parameters) {
-    const std::string path = emulator::nativePath(parameters.empty() ? file : parameters);
+    const std::filesystem::path path = emulator::nativePath(parameters.empty() ? file : parameters);
     if (process::hasDesktop()) return process::openOnDesktop(path);
     bar_.hide();
-    if (!line_.quiet) std::cerr << "z7xfer: ready for the spreadsheet program: " << path << std::endl;
+    if (!line_.quiet) std::cerr << "z7xfer: ready for the spreadsheet program: " << path.string() << std::endl;
     return 33;
 }

@@ -7,6 +7,7 @@
 
 #include "contents.h"
 #include "data_file.h"
+#include "environment/utf8_path.h"
 #include "utf8.h"
 
 namespace codepages {
@@ -32,7 +33,7 @@ Loaded& loaded() {
 }
 
 std::optional<std::vector<char>> readFile(const std::string& path, std::string* error) {
-    std::ifstream file(path, std::ios::binary | std::ios::ate);
+    std::ifstream file(utf8Path(path), std::ios::binary | std::ios::ate);
     if (!file) {
         if (error) *error = "the file cannot be opened";
         return std::nullopt;

@@ -1,10 +1,10 @@
 #include "emulator/code_pages.h"
 
-#include <cstdlib>
 #include <optional>
 #include <string>
 
 #include "emulator/platform_side.h"
+#include "environment/environment.h"
 
 namespace emulator {
 namespace {
@@ -17,8 +17,8 @@ std::uint64_t dataNumber = 1;
 
 std::string dataFile() {
     if (!wantedFile.empty()) return wantedFile;
-    const char* named = std::getenv("Z7X_CODE_PAGES");
-    return named && *named ? named : ownFolder() + "/codepages.dat";
+    const std::string named = environment::variable("Z7X_CODE_PAGES");
+    return named.empty() ? ownFolder() + "/codepages.dat" : named;
 }
 
 bool haveData() {

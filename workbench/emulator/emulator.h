@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <functional>
 #include <map>
 #include <optional>
@@ -86,6 +87,9 @@ struct PcSetup {
 // another PC is refused. False too when a code page is not in the data.
 bool setUpPc(const PcSetup& setup);
 
+// True where code pages and language are played, false where they are the machine's.
+bool pcIsPlayed();
+
 // The PC that there is without setting one up: an English one; on Windows the one that the program runs on.
 PcSetup usualPc();
 
@@ -146,7 +150,7 @@ void runCleanup(ZhstSession session, std::uint32_t slot);
 
 // A path of the operating system's for a PC file name in the PC's ANSI code page (either separator, optional drive
 // letter, any case, relative to the directory that the path services were given).
-std::string nativePath(std::string_view pcName);
+std::filesystem::path nativePath(std::string_view pcName);
 
 // --- PC files that are written -----------------------------------------------------------------------------------
 

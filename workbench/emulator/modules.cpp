@@ -8,6 +8,7 @@
 #include "emulator/emulator.h"
 #include "emulator/journal.h"
 #include "emulator/platform_side.h"
+#include "environment/utf8_path.h"
 
 namespace emulator {
 namespace {
@@ -31,9 +32,9 @@ bool sameName(const std::string& left, const std::string& right) {
 
 std::optional<std::string> findInFolder(const std::string& folder, const std::string& name) {
     std::error_code error;
-    const files::path exact = files::path(folder) / name;
+    const files::path exact = utf8Path(folder) / name;
     if (files::is_regular_file(exact, error)) return exact.string();
-    for (files::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error))
+    for (files::directory_iterator entry(utf8Path(folder), error), end; !error && entry != end; entry.increment(error))
         if (sameName(entry->path().filename().string(), name) && entry->is_regular_file(error))
             return entry->path().string();
     return std::nullopt;
@@ -42,7 +43,7 @@ std::optional<std::string> findInFolder(const std::string& folder, const std::st
 std::uint32_t load(const char* name, ZhstModule* module) {
     const std::optional<std::string> path = findLibrary(name);
     if (!path) return FileNotFound;
-    const std::uint32_t error = openModule(files::absolute(*path), module);
+    const std::uint32_t error = openModule(files::absolute(utf8Path(*path)), module);
     if (error == 0) ++loadCount;
     return error;
 }
@@ -59,8 +60,8 @@ std::optional<std::string> findLibrary(const char* name) {
     if (text.find_first_of("/\\:") == std::string::npos)
         if (auto found = findInFolder(providerFolder(), text)) return found;
     std::error_code error;
-    std::string path = nativePath(text);
-    if (files::is_regular_file(path, error)) return path;
+    const files::path path = nativePath(text);
+    if (files::is_regular_file(path, error)) return path.string();
     return std::nullopt;
 }
 

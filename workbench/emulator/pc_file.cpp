@@ -30,7 +30,7 @@ void setHeading(Heading heading) { wantedHeading = std::move(heading); }
 
 void PcFile::setName(const char* name) { name_ = name ? name : ""; }
 
-std::string PcFile::path() const { return nativePath(name_); }
+files::path PcFile::path() const { return nativePath(name_); }
 
 // Yes and No are offered while text can be added to the file, else OK and Cancel. 10 is the answer of a question box
 // with buttons of its own.

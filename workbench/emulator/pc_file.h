@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -57,7 +58,7 @@ private:
     std::size_t takeLead(char* buffer, std::size_t maximum) const;
     bool seek(std::uint64_t position);
     bool fail(const char* doing, int error) { return trouble_->tell(name_, doing, systemReason(error)); }
-    std::string path() const;
+    std::filesystem::path path() const;
 
     ZhstSession session_;
     std::string name_;

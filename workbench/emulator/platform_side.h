@@ -24,8 +24,8 @@ std::uint32_t openModule(const std::filesystem::path& path, ZhstModule* module);
 void closeModule(ZhstModule module);
 
 // Opens a path that nativePath gave, as std::fopen does.
-std::FILE* openNative(const std::string& nativePath, const char* mode);
+std::FILE* openNative(const std::filesystem::path& nativePath, const char* mode);
 // For writing from its start, with what is in it; an empty file is made when there is none.
-std::FILE* openNativeAsItIs(const std::string& nativePath);
+std::FILE* openNativeAsItIs(const std::filesystem::path& nativePath);
 
 }  // namespace emulator

@@ -29,7 +29,7 @@ bool WrittenFile::open(Existing existing) {
         stream_ = stdout;
         return true;
     }
-    const std::string native = nativePath(name_);
+    const files::path native = nativePath(name_);
     std::error_code error;
     const files::file_status status = files::status(native, error);
     // Not every system says of a folder that it is one.

@@ -5,25 +5,21 @@
 #include <system_error>
 
 #include "codepages/codepages.h"
+#include "environment/environment.h"
 #include "own_folder.h"
 
 namespace providers {
 
 namespace {
 
-std::string environment(const char* name) {
-    const char* value = std::getenv(name);
-    return value ? value : "";
-}
-
 std::uint32_t environmentNumber(const char* name, std::uint32_t otherwise) {
-    const std::string value = environment(name);
+    const std::string value = environment::variable(name);
     return value.empty() ? otherwise : static_cast<std::uint32_t>(std::strtoul(value.c_str(), nullptr, 10));
 }
 
 // The file that the environment names, or the one beside this library or above its folder.
 std::string locate(const char* variable, const char* fileName) {
-    if (const std::string named = environment(variable); !named.empty()) return named;
+    if (const std::string named = environment::variable(variable); !named.empty()) return named;
     const std::filesystem::path folder = ownFolder();
     std::error_code ignored;
     const auto beside = folder / fileName;
@@ -42,8 +38,8 @@ as400::ConversationSetup surroundings(as400::Dialect dialect) {
     setup.dialect = dialect;
     setup.pcPage = environmentNumber("Z7X_PC_CODE_PAGE", 0);
     setup.hostPage = environmentNumber("Z7X_HOST_CODE_PAGE", 37);
-    setup.recordsAppend = [] { return environment("Z7X_SEND_APPENDS") == "1"; };
-    setup.sendIsWhole = [] { return environment("Z7X_SEND_IS_WHOLE") != "0"; };
+    setup.recordsAppend = [] { return environment::variable("Z7X_SEND_APPENDS") == "1"; };
+    setup.sendIsWhole = [] { return environment::variable("Z7X_SEND_IS_WHOLE") != "0"; };
     return setup;
 }
 

@@ -32,7 +32,7 @@ std::string wordAround(std::string_view text, std::size_t place) {
 
 }  // namespace
 
-std::string markedEncoding(const std::string& path) {
+std::string markedEncoding(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary);
     char bytes[3] = {};
     file.read(bytes, sizeof bytes);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -12,7 +13,7 @@ namespace checking {
 // What a PC file as a whole gives away about itself.
 
 // "UTF-8", "UTF-16" by the mark in front of a file; empty without one.
-std::string markedEncoding(const std::string& path);
+std::string markedEncoding(const std::filesystem::path& path);
 
 // Whether a record holds the names of the fields instead of data.
 bool isHeaderLine(const std::vector<FieldText>& fields, const std::vector<HostColumn>& columns);

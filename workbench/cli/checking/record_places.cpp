@@ -11,7 +11,7 @@ constexpr std::size_t LongestWord = 4;  // that a line is told by
 
 }  // namespace
 
-RecordPlaces::RecordPlaces(const std::string& path, const PcFileForm& form, std::uint32_t recordBytes)
+RecordPlaces::RecordPlaces(const std::filesystem::path& path, const PcFileForm& form, std::uint32_t recordBytes)
     : file_(path, std::ios::binary), form_(form), recordBytes_(recordBytes) {}
 
 bool RecordPlaces::readPiece() {

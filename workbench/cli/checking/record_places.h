@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <fstream>
 #include <string>
 #include <vector>
@@ -13,7 +14,7 @@ namespace checking {
 class RecordPlaces {
 public:
     // `recordBytes` is the length of the records that have no ends.
-    RecordPlaces(const std::string& path, const PcFileForm& form, std::uint32_t recordBytes);
+    RecordPlaces(const std::filesystem::path& path, const PcFileForm& form, std::uint32_t recordBytes);
 
     // Goes to the record of an index, counted from 0; of a DIF file the header is 0 and the row of the names 1. Stops
     // at the end of the file.

@@ -91,7 +91,7 @@ private:
     LookingHost& host_;
     SilentTransfer transfer_;
     ProgressBar bar_;
-    std::string path_;
+    std::filesystem::path path_;
 
     // From the beginning of the data on.
     PcFileForm form_;
@@ -307,7 +307,8 @@ SendCheck::~SendCheck() = default;
 
 Verdict SendCheck::run() {
     std::error_code ignored;
-    const std::string name = emulator::text(session_, setting::PcFileName), path = emulator::nativePath(name);
+    const std::string name = emulator::text(session_, setting::PcFileName);
+    const std::filesystem::path path = emulator::nativePath(name);
     const bool isStream = std::filesystem::exists(path, ignored) && !std::filesystem::is_regular_file(path, ignored) &&
                           !std::filesystem::is_directory(path, ignored);
     if (name == "-" || isStream) {

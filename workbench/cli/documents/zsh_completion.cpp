@@ -6,7 +6,7 @@
 namespace {
 
 // Inside single quotes, where _arguments and _describe read brackets and colons.
-std::string quoted(std::string_view text) {
+std::string escaped(std::string_view text) {
     std::string result;
     for (const char letter : text) {
         if (letter == '\'') {
@@ -41,8 +41,8 @@ std::string action(const OptionWords& option) {
 
 // "'(-q --quiet)'{-q,--quiet}'[no progress]'"
 std::string specification(const OptionWords& option) {
-    const std::string value = option.kind == ValueKind::None ? "" : ":" + quoted(option.value) + ":" + action(option);
-    const std::string help = "[" + quoted(option.help) + "]" + value + "'";
+    const std::string value = option.kind == ValueKind::None ? "" : ":" + escaped(option.value) + ":" + action(option);
+    const std::string help = "[" + escaped(option.help) + "]" + value + "'";
     if (option.names.size() == 1) return (option.repeatable ? "'*" : "'") + option.names.front() + help;
     std::string all, list;
     for (const std::string& name : option.names) {
@@ -60,7 +60,7 @@ void arguments(std::string& text, const std::vector<OptionWords>& options) {
             text += specification(option);
             continue;
         }
-        text += "'" + std::to_string(++place) + (option.required ? ":" : "::") + quoted(option.names.front()) + ":" +
+        text += "'" + std::to_string(++place) + (option.required ? ":" : "::") + escaped(option.names.front()) + ":" +
                 action(option) + "'";
     }
     text += "\n";
@@ -88,7 +88,7 @@ std::string zshCompletion(const ProgramWords& program) {
         "_z7xfer() {\n    local curcontext=$curcontext state line\n    typeset -A opt_args\n"
         "    local -a commands=(\n";
     for (const CommandWords& command : program.commands)
-        text += "        '" + quoted(command.name) + ":" + quoted(command.help) + "'\n";
+        text += "        '" + escaped(command.name) + ":" + escaped(command.help) + "'\n";
     text +=
         "    )\n    _arguments -C '(-h --help)'{-h,--help}'[help]' '--version[version]' \\\n"
         "        '1:command:->command' '*::argument:->argument'\n"

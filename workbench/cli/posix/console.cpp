@@ -110,6 +110,8 @@ std::string converted(const std::string& text, const std::string& from, const st
 
 }  // namespace
 
+void setUp() {}
+
 std::string encoded(const std::string& utf8) { return converted(utf8, "UTF-8", userEncoding()); }
 
 std::string decoded(const std::string& text) { return converted(text, userEncoding(), "UTF-8"); }

@@ -4,16 +4,15 @@
 #include <spawn.h>
 #include <unistd.h>
 
-#include <cstdlib>
 #include <system_error>
+
+#include "environment/environment.h"
+#include "environment/utf8_path.h"
 
 namespace process {
 namespace {
 
-bool isSet(const char* name) {
-    const char* value = std::getenv(name);
-    return value != nullptr && *value != '\0';
-}
+bool isSet(const char* name) { return !environment::variable(name).empty(); }
 
 }  // namespace
 
@@ -23,21 +22,18 @@ std::filesystem::path executableFolder() {
     return error ? std::filesystem::current_path() : self.parent_path();
 }
 
-void setEnvironment(const char* name, const std::string& value) { setenv(name, value.c_str(), 1); }
-
-std::filesystem::path environmentPath(const char* name) { return isSet(name) ? std::getenv(name) : ""; }
-
 const char* const DataFolderVariables = "XDG_DATA_HOME nor HOME";
 
 std::filesystem::path dataFolder() {
-    const std::filesystem::path data = environmentPath("XDG_DATA_HOME"), home = environmentPath("HOME");
+    const std::filesystem::path data = utf8Path(environment::variable("XDG_DATA_HOME")),
+                                home = utf8Path(environment::variable("HOME"));
     if (data.is_absolute()) return data;  // a relative one is to be ignored
     return home.empty() ? home : home / ".local" / "share";
 }
 
 bool hasDesktop() { return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY"); }
 
-std::int32_t openOnDesktop(const std::string& path) {
+std::int32_t openOnDesktop(const std::filesystem::path& path) {
     // What the desktop prints must not end up among the data on standard output.
     posix_spawn_file_actions_t quiet;
     posix_spawn_file_actions_init(&quiet);

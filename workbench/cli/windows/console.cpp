@@ -3,8 +3,13 @@
 #include <windows.h>
 
 #include <conio.h>
+#include <fcntl.h>
+#include <io.h>
 
+#include <cstdio>
 #include <iostream>
+#include <streambuf>
+#include <string>
 
 namespace console {
 namespace {
@@ -54,7 +59,67 @@ std::string narrow(const std::wstring& text, UINT codePage) {
     return result;
 }
 
+// Writes UTF-8 to a console, whatever code page that has. What is no whole character waits for the rest of it.
+class ConsoleBuffer : public std::streambuf {
+public:
+    explicit ConsoleBuffer(HANDLE console) : console_(console) {}
+
+protected:
+    int_type overflow(int_type byte) override {
+        if (!traits_type::eq_int_type(byte, traits_type::eof())) pending_ += traits_type::to_char_type(byte);
+        return traits_type::not_eof(byte);
+    }
+    std::streamsize xsputn(const char* bytes, std::streamsize count) override {
+        pending_.append(bytes, static_cast<std::size_t>(count));
+        constexpr std::size_t Much = 8192;
+        if (pending_.size() > Much) sync();
+        return count;
+    }
+    int sync() override {
+        const std::size_t whole = wholeLength();
+        const std::wstring text = wide(pending_.substr(0, whole), CP_UTF8);
+        pending_.erase(0, whole);
+        DWORD written = 0;
+        const auto length = static_cast<DWORD>(text.size());
+        return length == 0 || WriteConsoleW(console_, text.data(), length, &written, nullptr) ? 0 : -1;
+    }
+
+private:
+    // Without the beginning of a character at the end.
+    std::size_t wholeLength() const {
+        std::size_t start = pending_.size();
+        for (int back = 0; start > 0 && back < 3; ++back) {
+            const auto byte = static_cast<unsigned char>(pending_[--start]);
+            if (byte < 0x80) break;
+            const std::size_t length = byte >= 0xF0 ? 4 : byte >= 0xE0 ? 3 : byte >= 0xC0 ? 2 : 0;
+            if (length > pending_.size() - start) return start;
+            if (length > 0) break;
+        }
+        return pending_.size();
+    }
+
+    HANDLE console_;
+    std::string pending_;
+};
+
+// The buffer stays until the process ends: the standard library flushes its streams last of all.
+void writeUnicode(std::ostream& stream, Stream which) {
+    if (!isTerminal(which)) return;
+    stream.rdbuf(new ConsoleBuffer(handleOf(which)));
+    // A console of Windows 10 and later obeys the sequences of a terminal when it is asked to.
+    constexpr DWORD ObeysSequences = 0x0004;
+    DWORD mode = 0;
+    if (GetConsoleMode(handleOf(which), &mode)) SetConsoleMode(handleOf(which), mode | ObeysSequences);
+}
+
 }  // namespace
+
+// A redirected stream takes the bytes that the same program writes elsewhere, line ends included.
+void setUp() {
+    for (std::FILE* stream : {stdin, stdout, stderr}) _setmode(_fileno(stream), _O_BINARY);
+    writeUnicode(std::cout, Stream::Output);
+    writeUnicode(std::cerr, Stream::Error);
+}
 
 std::string encoded(const std::string& utf8) { return narrow(wide(utf8, CP_UTF8), GetConsoleOutputCP()); }
 

@@ -11,6 +11,7 @@
 #include "emulator/path_services.h"
 #include "emulator/platform_side.h"
 #include "emulator/standard_streams.h"
+#include "environment/utf8_path.h"
 #include "platform/platform.h"
 
 // PC file names on a file system that is particular about case and knows one separator. PC names are in the ANSI code
@@ -79,8 +80,8 @@ bool startsAtRoot(const std::string& name) { return !name.empty() && (name[0] ==
 
 }  // namespace
 
-std::string nativePath(std::string_view pcName) {
-    if (pcName == StandardStream) return standardInputFile();
+files::path nativePath(std::string_view pcName) {
+    if (pcName == StandardStream) return utf8Path(standardInputFile());
     std::string name(hasDrive(std::string(pcName)) ? pcName.substr(2) : pcName);
     if (!startsAtRoot(name) && !currentDirectory().empty()) {
         const std::string& directory = currentDirectory();
@@ -94,12 +95,12 @@ std::string nativePath(std::string_view pcName) {
         else
             path /= actualName(path.empty() ? "." : path, toNative(part));
     });
-    return path.empty() ? "." : path.string();
+    return path.empty() ? "." : path;
 }
 
-std::FILE* openNative(const std::string& nativePath, const char* mode) { return std::fopen(nativePath.c_str(), mode); }
+std::FILE* openNative(const files::path& nativePath, const char* mode) { return std::fopen(nativePath.c_str(), mode); }
 
-std::FILE* openNativeAsItIs(const std::string& nativePath) {
+std::FILE* openNativeAsItIs(const files::path& nativePath) {
     constexpr mode_t EverybodyButTheMask = 0666;
     const int file = open(nativePath.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, EverybodyButTheMask);
     return file < 0 ? nullptr : fdopen(file, "wb");

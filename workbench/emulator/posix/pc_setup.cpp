@@ -58,6 +58,8 @@ void setTickCount(std::uint32_t (*clock)()) {
 
 PcSetup usualPc() { return {}; }
 
+bool pcIsPlayed() { return true; }
+
 // Falls back to ASCII when there is no code page data.
 void resetPc() {
     platform::setPcDesktop({});

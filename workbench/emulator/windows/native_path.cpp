@@ -12,8 +12,9 @@
 #include "emulator/path_services.h"
 #include "emulator/platform_side.h"
 #include "emulator/standard_streams.h"
+#include "environment/utf8_path.h"
 
-// PC file names are the operating system's own; only their code page is not: the standard library takes UTF-8.
+// PC file names are the operating system's own; only their code page is not.
 
 namespace emulator {
 namespace {
@@ -29,18 +30,18 @@ files::path widened(std::string_view pcName) {
 
 }  // namespace
 
-std::string nativePath(std::string_view pcName) {
-    if (pcName == StandardStream) return standardInputFile();
+files::path nativePath(std::string_view pcName) {
+    if (pcName == StandardStream) return utf8Path(standardInputFile());
     const files::path path = widened(currentDirectory()) / widened(pcName);
-    return path.empty() ? "." : path.string();
+    return path.empty() ? "." : path;
 }
 
-std::FILE* openNative(const std::string& nativePath, const char* mode) {
-    return _wfopen(files::path(nativePath).c_str(), files::path(mode).c_str());
+std::FILE* openNative(const files::path& nativePath, const char* mode) {
+    return _wfopen(nativePath.c_str(), files::path(mode).c_str());
 }
 
-std::FILE* openNativeAsItIs(const std::string& nativePath) {
-    const int file = _wopen(files::path(nativePath).c_str(), _O_WRONLY | _O_CREAT | _O_BINARY, _S_IREAD | _S_IWRITE);
+std::FILE* openNativeAsItIs(const files::path& nativePath) {
+    const int file = _wopen(nativePath.c_str(), _O_WRONLY | _O_CREAT | _O_BINARY, _S_IREAD | _S_IWRITE);
     return file < 0 ? nullptr : _fdopen(file, "wb");
 }
 

@@ -84,6 +84,8 @@ PcSetup usualPc() {
     return setup;
 }
 
+bool pcIsPlayed() { return false; }
+
 bool setUpPc(const PcSetup& setup) {
     if (!codePage(static_cast<std::int32_t>(setup.ansiCodePage)) || !hasSamePages(setup, usualPc())) return false;
     rememberPcSetup(setup);
