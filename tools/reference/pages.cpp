@@ -264,14 +264,6 @@ std::string transportsThat(Condition condition) {
     return list;
 }
 
-std::string nameOfCode(std::uint32_t wanted) {
-#define NAME(code, name, use) \
-    if (wanted == (code)) return "TF_" #name;
-    ZHST_TF_RETURN_CODES(NAME)
-#undef NAME
-    return "";
-}
-
 std::string returnCodesPage() {
     std::string text = head("Return codes of a provider",
                             R"(
@@ -307,9 +299,9 @@ Nobody else looks at the detail code: it is only published in the monitor store.
 
 Texts of table 7, of at most 99 characters; the help topic is the index.
 
-)" + table({"Code", "Name", "Index, help", "Text of the stand-in"});
-#define CODE(place, code_, ...)                                                      \
-    text += row({hexadecimal(code_), code(nameOfCode(code_)), std::to_string(place), \
+)" + table({"Code", "Name", "Said by", "Index, help", "Text of the stand-in"});
+#define CODE(place, code_, name, speaker, meaning)                           \
+    text += row({hexadecimal(code_), #name, #speaker, std::to_string(place), \
                  std::string(catalogue::findText(ZhstTransferTable, place).text)});
     ZHST_TRANSFER_CODES(CODE)
 #undef CODE
@@ -317,13 +309,14 @@ Texts of table 7, of at most 99 characters; the help topic is the index.
         R"(
 ## Codes of the emulator's own providers
 
-Texts of table 22, or of table 45 with router kind 2 and another transport than 30, by the code itself. The transports )" +
+Texts of table 22, or of table 45 with router kind 2 and another transport than 30, by the code itself. The
+transports )" +
         transportsThat([](const provider::Transport& each) { return each.family != provider::Family::Ibm; }) +
         R"( have them; for the others, and for a code that no list holds, there is no text and the help topic is )" +
         std::to_string(ZhstHelpReturnCode) + ".\n\n" +
-        table({"Code", "Help", "Text of the stand-in, table 22", "Table 45"});
-#define CODE(code_, help, ...)                                                    \
-    text += row({hexadecimal(code_), std::to_string(help),                        \
+        table({"Code", "Name", "Said by", "Help", "Text of the stand-in, table 22", "Table 45"});
+#define CODE(code_, help, name, speaker, meaning)                                 \
+    text += row({hexadecimal(code_), #name, #speaker, std::to_string(help),       \
                  std::string(catalogue::findText(ZhstProviderTable, code_).text), \
                  std::string(catalogue::findText(ZhstRoutedProviderTable, code_).text)});
     ZHST_PROVIDER_CODES(CODE)
