@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdio>
 #include <vector>
 
@@ -41,10 +42,10 @@ std::string pace(const Progress& progress) {
     const double rate = static_cast<double>(progress.done) / progress.seconds;
     std::string text = "  ";
     text += progress.unit == Progress::Unit::Bytes ? bytesPerSecond(rate)
-                                                   : grouped(static_cast<std::uint64_t>(rate + 0.5)) + "/s";
+                                                   : grouped(static_cast<std::uint64_t>(std::llround(rate))) + "/s";
     if (progress.total > progress.done) {
         const double left = static_cast<double>(progress.total - progress.done) / rate;
-        if (left < SecondsToTell) text += "  " + clock(static_cast<std::uint64_t>(left + 0.5)) + " left";
+        if (left < SecondsToTell) text += "  " + clock(static_cast<std::uint64_t>(std::llround(left))) + " left";
     }
     return text;
 }
