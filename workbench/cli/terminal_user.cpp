@@ -84,11 +84,15 @@ std::string TerminalUser::header() const {
     return names_.header(tabs ? '\t' : line_.pc.listSeparator);
 }
 
+// Descriptions come once a transfer, records millions of times: they are not shown to whoever waits for descriptions.
 void TerminalUser::storeWritten(std::string_view code, std::string_view value) {
+    if (code.ends_with("TI")) {
+        names_.storeWritten(code, value);
+        reasons_.storeWritten(code, value);
+        return;
+    }
     const std::uint64_t before = watch_.recordsSeen();
     watch_.storeWritten(code, value);
-    names_.storeWritten(code, value);
-    reasons_.storeWritten(code, value);
     if (sending_ || watch_.recordsSeen() == before) return;
     // The store hears of a record before the file does.
     emulator::releaseFilesWithNextWrite();
