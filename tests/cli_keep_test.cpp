@@ -114,7 +114,7 @@ TEST_F(CliKeep, SendIsKeptWholeOrNotAtAll) {
 }
 
 TEST_F(CliKeep, SendsGoToAHostOfTheUsersOwn) {
-    const fs::path own = path("data/host.db"), sample = fs::path(binFolder()) / "sample.db";
+    const fs::path own = fs::path(path("data/host.db")).make_preferred(), sample = fs::path(binFolder()) / "sample.db";
     const std::string before = fileBytes(sample);
     const std::string customers = member("QGPL/CUST", "");
     const Outcome notYet = run("host");

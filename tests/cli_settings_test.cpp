@@ -2,6 +2,7 @@
 #include <string>
 #include <utility>
 
+#include "emulator/emulator.h"
 #include "support/cli.h"
 
 // What z7xfer is told of a transfer, and what it finds out where it is told nothing.
@@ -128,14 +129,19 @@ TEST_F(CliSettings, StandardStreamsSpeakAsTheyAreAsked) {
     useOwnHost();
     const std::string query = "WORLD/COUNTRY --where \"CODE = 'CI'\"", pc = "CI,C\xF4te d'Ivoire\r\n",
                       utf8 = "CI,C\xC3\xB4te d'Ivoire\r\n";
-    const std::pair<const char*, const std::string&> cases[] = {
-        {"", pc}, {" --encoding pc", pc}, {" --encoding terminal", utf8}, {" --encoding TERMINAL --type tab", utf8}};
+    // Without a console Windows has the PC's own code page for one, and no variable that would change it.
+    const std::string& terminal = emulator::pcIsPlayed() ? utf8 : pc;
+    const std::pair<const char*, const std::string&> cases[] = {{"", pc},
+                                                                {" --encoding pc", pc},
+                                                                {" --encoding terminal", terminal},
+                                                                {" --encoding TERMINAL --type tab", terminal}};
     environment_["LC_ALL"] = "C.UTF-8";
     for (const auto& [options, expected] : cases) {
         std::string output = received(query + options);
         std::replace(output.begin(), output.end(), '\t', ',');
         EXPECT_EQ(output, expected) << options;
     }
+    if (!emulator::pcIsPlayed()) return;
     environment_["LC_ALL"] = "C";
     EXPECT_EQ(received(query + " --encoding terminal"), utf8) << "a locale that says nothing";
     EXPECT_TRUE(received(query + " --type none --encoding terminal") == received(query + " --type none"));

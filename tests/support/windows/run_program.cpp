@@ -2,9 +2,11 @@
 
 #include <windows.h>
 
+#include "environment/utf8_path.h"
+
 namespace {
 
-std::wstring wide(const std::string& text) { return std::filesystem::path(text).wstring(); }
+std::wstring wide(const std::string& text) { return utf8Path(text).wstring(); }
 
 // As the C library of the program takes a command line apart: backslashes count only in front of a quote.
 std::wstring quoted(const std::wstring& argument) {

@@ -32,8 +32,8 @@ files::path widened(std::string_view pcName) {
 
 files::path nativePath(std::string_view pcName) {
     if (pcName == StandardStream) return utf8Path(standardInputFile());
-    const files::path path = widened(currentDirectory()) / widened(pcName);
-    return path.empty() ? "." : path;
+    files::path path = widened(currentDirectory()) / widened(pcName);
+    return path.empty() ? "." : path.make_preferred();
 }
 
 std::FILE* openNative(const files::path& nativePath, const char* mode) {
