@@ -5,6 +5,7 @@
 
 #include "Z7XFRPCS/dialogs.h"
 #include "Z7XFRPCS/settings.h"
+#include "codepages.h"
 #include "emulator/setting_rows.h"
 #include "silent_transfer.h"
 
@@ -21,6 +22,13 @@ std::uint32_t byteAt(std::string_view bytes, std::size_t place) { return static_
 
 std::uint32_t lowFirst(std::string_view bytes, std::size_t place) {
     return byteAt(bytes, place) | byteAt(bytes, place + 1) << 8;
+}
+
+// Providers that tell no code page may leave anything there, blanks for instance.
+std::uint32_t codePageIn(std::string_view description) {
+    const std::uint32_t number = lowFirst(description, CodePageAt);
+    const codepages::CodePage* page = codepages::find(number);
+    return page != nullptr && page->isHost() ? number : 0;
 }
 
 std::string refusalOf(const std::vector<emulator::MessageBox>& messages, const PcText& pcText) {
@@ -52,7 +60,7 @@ HostColumn hostColumn(std::string_view description, std::uint32_t offset) {
     column.length = column.isNumber() ? byteAt(description, 1) : lowFirst(description, 1);
     column.decimals = column.isNumber() ? byteAt(description, 2) : 0;
     column.digits = column.isNumber() ? byteAt(description, DigitsAt) : 0;
-    column.codePage = column.isText() ? lowFirst(description, CodePageAt) : 0;
+    column.codePage = column.isText() ? codePageIn(description) : 0;
     column.offset = offset;
     return column;
 }

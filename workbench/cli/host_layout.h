@@ -28,7 +28,7 @@ struct HostColumn {
     std::uint32_t length = 0;    // bytes in the host record
     std::uint32_t decimals = 0;  // of numbers
     std::uint32_t digits = 0;    // declared digits of a number; 0 when the host does not say
-    std::uint32_t codePage = 0;  // host code page of a text; 0 when the host does not say
+    std::uint32_t codePage = 0;  // host code page of a text; 0 when the host names none that is known
     std::uint32_t offset = 0;    // bytes in front of it in the host record
 
     bool isNumber() const {
