@@ -40,7 +40,7 @@ std::string action(const OptionWords& option) {
 }
 
 // "'(-q --quiet)'{-q,--quiet}'[no progress]'"
-std::string specification(const OptionWords& option) {
+std::string entryOf(const OptionWords& option) {
     const std::string value = option.kind == ValueKind::None ? "" : ":" + escaped(option.value) + ":" + action(option);
     const std::string help = "[" + escaped(option.help) + "]" + value + "'";
     if (option.names.size() == 1) return (option.repeatable ? "'*" : "'") + option.names.front() + help;
@@ -57,7 +57,7 @@ void arguments(std::string& text, const std::vector<OptionWords>& options) {
     for (const OptionWords& option : options) {
         text += " \\\n                ";
         if (!option.positional) {
-            text += specification(option);
+            text += entryOf(option);
             continue;
         }
         text += "'" + std::to_string(++place) + (option.required ? ":" : "::") + escaped(option.names.front()) + ":" +
