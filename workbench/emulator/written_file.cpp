@@ -96,7 +96,8 @@ std::vector<char> WrittenFile::oldContent(std::size_t length) const {
 // The piece that went out in part.
 void WrittenFile::takeBack(const std::vector<char>& old) {
     if (path_.empty()) return;
-    if (replaces_ && std::fseek(stream_, 0, SEEK_SET) == 0) std::fwrite(old.data(), 1, old.size(), stream_);
+    if (replaces_ && !old.empty() && std::fseek(stream_, 0, SEEK_SET) == 0)
+        std::fwrite(old.data(), 1, old.size(), stream_);
     cutTo(replaces_ ? oldLength_ : start_ + written_);
 }
 
