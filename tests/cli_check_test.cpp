@@ -157,6 +157,37 @@ TEST_F(CliCheck, EveryRefusedRecordIsFoundWhereverItStands) {
     EXPECT_NE(check("r.dat", "QGPL/CUST").output.find("record 8 (byte 588), field CUSTNO"), std::string::npos);
 }
 
+TEST_F(CliCheck, RecordThatEndsAnUncheckedSendIsToldAsACheckWould) {
+    receive("QGPL/CUST", "c.csv");
+    receive("QGPL/CUST", "d.dif");
+    const std::string record = "100002,Smith,S,US,5,1,1.5,2,.5,F0F1\r\n";
+    const struct {
+        std::string record;
+        const char* told;
+    } cases[] = {
+        {"1000x2,S,S,US,5,1,1.5,2,.5,F0F1", "field CUSTNO: \"1000x2\" is refused\n    \"x\" is no digit"},
+        {"7,S,S,US,5,1,1.5,123456789012345.5,.5,F0F1", "15 digits before the decimal separator, the field has 9"},
+        {"7,S,S,US,5,1,1.5,2\x81,.5,F0F1", "field BAL: \"2.\" is refused\n    U+0081 is no digit"},
+        {"7,S,S,US,5,1,1.5,2,.5,F\xC4X0", "only F0 to F9 and 40 can be sent, not FÄ"},
+        {std::string(5000, '7'), "a record has at most 4,094 characters"}};
+    const auto send = [&](const std::string& file, const std::string& input = {}) {
+        return run(host("send " + file + " --answer replace --no-check"), input).errors;
+    };
+    for (const auto& row : cases) {
+        const std::string bytes = record + row.record + "\r\n" + record + "not looked at\r\n";
+        writeFile(path("f.csv"), bytes);
+        const std::string errors = send("f.csv QGPL/CUST --description c.fdf");
+        EXPECT_NE(errors.find("\nrecord 2 (line 2)"), std::string::npos) << errors;
+        EXPECT_NE(errors.find(row.told), std::string::npos) << errors;
+        EXPECT_EQ(errors.find("record 4"), std::string::npos) << errors;
+        EXPECT_NE(send("- QGPL/CUST --description c.fdf", bytes).find(row.told), std::string::npos) << row.told;
+    }
+    std::string dif = read("d.dif");
+    writeFile(path("d.dif"), dif.replace(dif.find("100003"), 6, "x"));
+    EXPECT_NE(send("d.dif QGPL/CUST --description d.fdf").find("row 4 (line 81), field CUSTNO: \"x\""),
+              std::string::npos);
+}
+
 TEST_F(CliCheck, LayoutOfANewFileIsWhatTheHostWillMakeOfIt) {
     receive("WORLD/COUNTRY", "c.csv");
     writeFile(path("c.csv"), "ABC," + std::string(46, 'x') + "\r\n");

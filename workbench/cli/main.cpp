@@ -16,6 +16,7 @@
 #include "implied_settings.h"
 #include "own_host.h"
 #include "process.h"
+#include "refused_record.h"
 #include "report.h"
 #include "settings_page.h"
 #include "standard_streams.h"
@@ -174,6 +175,8 @@ bool writesToOutput(const CommandLine& line, ZhstSession session) {
 void explainEnding(const TransferLibrary& library, const CommandLine& line, const PcText& pcText,
                    const TerminalUser& user, ZhstSession session, const Tally& tally) {
     const TransferWatch& watch = user.watch();
+    if (line.command == Command::Send && watch.isRecordRefused())
+        printRefusedRecord(std::cerr, library, pcText, line, process::executableFolder(), session);
     const bool failed = tally.exitStatus != ExitComplete && tally.exitStatus != ExitCancelled;
     if (failed && tally.exitStatus != ExitUsage && watch.messages() == 0) {
         std::cerr << "z7xfer: the transfer ended without a message\n";

@@ -52,6 +52,7 @@ void TransferWatch::progressCommand(std::uint32_t command) {
     switch (static_cast<ZhstProgressCommand>(command)) {
         case ZhstDataBegins:
             dataBegun_ = true;
+            lastRefusal_ = {};  // as of a member that exists, which the user has had replaced
             break;
         case ZhstAllDataTransferred:
             dataEnded_ = true;
@@ -73,7 +74,9 @@ void TransferWatch::message(const emulator::MessageBox& box) {
         return;
     }
     if (box.id == emulator::catalogue::messageId(zhst::text::NoRecords)) noRecords_ = true;
-    if (errors_++ == 0) failure_ = statusOf(box, lastRefusal_.code);
+    if (errors_++ > 0) return;
+    failure_ = statusOf(box, lastRefusal_.code);
+    recordRefused_ = dataBegun_ && lastRefusal_.code == 0 && failure_ == ExitBadData;
 }
 
 void TransferWatch::cancelled() {

@@ -41,6 +41,8 @@ public:
     bool isCancelled() const { return cancelled_; }
     // The host said at the end that it keeps nothing of what was sent.
     bool isEndRefused() const { return endRefused_; }
+    // The first error was that of a record of the PC file that does not go into a host record.
+    bool isRecordRefused() const { return recordRefused_; }
     // Records that went by so far, for a progress.
     std::uint64_t recordsSeen() const { return recordsSent_ + recordsWritten_; }
 
@@ -71,6 +73,7 @@ private:
     bool noRecords_ = false;
     bool asked_ = false;
     bool endRefused_ = false;
+    bool recordRefused_ = false;
     Answer lastRefusal_;
     ExitStatus failure_ = ExitFailed;
     std::uint32_t errors_ = 0;

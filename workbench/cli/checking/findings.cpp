@@ -43,7 +43,7 @@ void printFinding(std::ostream& out, const Finding& finding) {
         out << " is refused";
     else if (!finding.field.empty())
         out << " would be stored as " << quoted(finding.stored);
-    out << "\n    " << finding.reason << "\n    to do: " << row.advice << '\n';
+    out << "\n    " << withoutControls(finding.reason) << "\n    to do: " << row.advice << '\n';
 }
 
 }  // namespace

@@ -10,6 +10,11 @@
 namespace checking {
 namespace {
 
+// Of the PC's code page, as a person sees it.
+std::string shown(const PcFileForm& form, std::string_view text) {
+    return form.pcPage ? form.pcPage->decode(text) : std::string(text);
+}
+
 bool isDigit(char character) { return character >= '0' && character <= '9'; }
 
 std::string counted(std::size_t count, const std::string& thing) {
@@ -29,10 +34,8 @@ std::string strangerReason(const PcFileForm& form, std::string_view text, std::s
     }
     const bool isExponent = (stranger == 'e' || stranger == 'E') && place > 0 && isDigit(text[place - 1]);
     if (isExponent && place + 1 < text.size()) return "the number has an exponent";
-    const std::string character =
-        form.pcPage ? form.pcPage->decode(
-                          text.substr(place, form.pcPage->isLeadByte(static_cast<std::uint8_t>(stranger)) ? 2 : 1))
-                    : std::string(1, stranger);
+    const bool isLead = form.pcPage && form.pcPage->isLeadByte(static_cast<std::uint8_t>(stranger));
+    const std::string character = shown(form, text.substr(place, isLead ? 2 : 1));
     const bool isPlain = stranger > ' ' && stranger <= '~';
     return isPlain ? "\"" + character + "\" is no digit" : codePoint(character) + " is no digit";
 }
@@ -81,14 +84,14 @@ std::string numberReason(const PcFileForm& form, const HostColumn& column, std::
                        : std::string();
 }
 
-std::string hexReason(const HostColumn& column, std::string_view text) {
+std::string hexReason(const PcFileForm& form, const HostColumn& column, std::string_view text) {
     const std::string_view digits = withoutBlanks(text);
     if (digits.size() != 2 * column.length)
         return counted(digits.size(), "hexadecimal digit") + ", the field has " + std::to_string(2 * column.length);
     for (std::size_t at = 1; at < digits.size(); at += 2) {
         if (!isDigit(digits[at]))
             return "of hexadecimal bytes only F0 to F9 and 40 can be sent, not " +
-                   std::string(digits.substr(at - 1, 2));
+                   shown(form, digits.substr(at - 1, 2));
     }
     return {};
 }
@@ -117,14 +120,14 @@ std::string refusalReason(const PcFileForm& form, const HostColumn& column, cons
         if (field.isWrongKind)
             return column.isNumber() ? "a text stands where the host has a number"
                                      : "a number stands where the host has a text";
-        if (!field.behind.empty() && column.isNumber()) return "the cell has no value: " + std::string(field.behind);
+        if (!field.behind.empty() && column.isNumber()) return "the cell has no value: " + shown(form, field.behind);
     }
     if (form.form == RecordForm::Binary) {
         const bool hasDigits = column.type == column_type::Zoned || column.type == column_type::Packed;
         return hasDigits ? bytesReason(column, field.text) : std::string();
     }
     if (column.type == column_type::Hex)
-        return field.isMissing ? "the record ends before this field" : hexReason(column, field.text);
+        return field.isMissing ? "the record ends before this field" : hexReason(form, column, field.text);
     if (!column.isNumber()) return {};
     if (field.isQuoted) return "a number stands without quotes";
     return numberReason(form, column, field.text);

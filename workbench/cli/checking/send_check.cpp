@@ -76,6 +76,7 @@ private:
     void tellOfFile(Fault fault, const std::string& place, const std::string& text, const std::string& reason) {
         check_.findings_.addOfFile({fault, place, "", text, "", reason});
     }
+    bool looksAtAll() const { return check_.extent_ == Extent::WholeFile; }
     std::uint64_t lastIndex() const { return firstIndex_ + (form_.isText() ? published_ : taken_) - 1; }
     const emulator::MessageBox* messageOf(std::uint32_t id) const;
     std::string said() const;
@@ -164,15 +165,16 @@ Verdict SendCheck::Run::run() {
         published_ = taken_ = 0;
         isPending_ = isComplete_ = hasData_ = false;
         transfer_.run(ToHost);
-    } while (!console::interrupted() && stoppedAtRecord());
+    } while (!console::interrupted() && stoppedAtRecord() && looksAtAll());
     bar_.end();
     emulator::setReadingStart({});
     if (console::interrupted()) return Verdict::Cancelled;
+    if (!looksAtAll() && check_.findings_.refused() > 0) return Verdict::Refused;
     if (!isComplete_) {
         check_.reason_ = said();
         return Verdict::NotChecked;
     }
-    finish();
+    if (looksAtAll()) finish();
     if (check_.findings_.refused() > 0) return Verdict::Refused;
     return check_.findings_.isEmpty() ? Verdict::Sound : Verdict::Changes;
 }
@@ -203,6 +205,7 @@ void SendCheck::Run::take(std::string_view hostRecord) {
     ++check_.records_;
     isPending_ = false;
     const std::string_view record = pcRecord();
+    if (!looksAtAll()) return;
     const std::uint64_t index = lastIndex();
     if (check_.records_ == 1) tellHeader(index);
     if (!form_.isText() && record.size() < check_.target_.layout.recordLength()) {
@@ -305,13 +308,14 @@ SendCheck::SendCheck(const TransferLibrary& library, const PcText& pcText, const
 
 SendCheck::~SendCheck() = default;
 
-Verdict SendCheck::run() {
+Verdict SendCheck::run(Extent extent) {
+    extent_ = extent;
     std::error_code ignored;
     const std::string name = emulator::text(session_, setting::PcFileName);
     const std::filesystem::path path = emulator::nativePath(name);
     const bool isStream = std::filesystem::exists(path, ignored) && !std::filesystem::is_regular_file(path, ignored) &&
                           !std::filesystem::is_directory(path, ignored);
-    if (name == "-" || isStream) {
+    if (isStream) {
         reason_ = pcText_.toTerminal(name) + " can be read only once";
         return Verdict::NotChecked;
     }

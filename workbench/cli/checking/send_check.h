@@ -18,6 +18,11 @@ enum class Verdict {
     Cancelled,   // by the user
 };
 
+enum class Extent {
+    WholeFile,
+    ToRefusedRecord,  // nothing is told but the first record that is refused, where the check ends
+};
+
 // The whole of a PC file, converted by the transfer library for the layout of its target and compared with what it
 // says; nothing is sent. A refused record does not end it: it goes on behind it.
 class SendCheck {
@@ -29,7 +34,7 @@ public:
     SendCheck(const SendCheck&) = delete;
     SendCheck& operator=(const SendCheck&) = delete;
 
-    Verdict run();
+    Verdict run(Extent extent = Extent::WholeFile);
 
     std::uint64_t records() const { return records_; }     // looked at
     const std::string& reason() const { return reason_; }  // why nothing was checked
@@ -50,6 +55,7 @@ private:
     const CommandLine& line_;
     std::filesystem::path programFolder_;
     ZhstSession session_;
+    Extent extent_ = Extent::WholeFile;
     Target target_;
     Findings findings_;
     std::uint64_t records_ = 0;
