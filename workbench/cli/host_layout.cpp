@@ -31,14 +31,6 @@ std::uint32_t codePageIn(std::string_view description) {
     return page != nullptr && page->isHost() ? number : 0;
 }
 
-std::string refusalOf(const std::vector<emulator::MessageBox>& messages, const PcText& pcText) {
-    if (messages.empty()) return "the host described no fields";
-    std::string text = pcText.toTerminal(messages.front().text);
-    std::replace_if(
-        text.begin(), text.end(), [](unsigned char byte) { return byte < ' '; }, ' ');
-    return text;
-}
-
 // The answer goes to no file, and is not counted.
 void makeQuery(ZhstSession session, const std::string& hostFile) {
     emulator::set(session, setting::HostFileName, hostFile);
@@ -105,7 +97,7 @@ HostLayout askHostLayout(const TransferLibrary& library, const PcText& pcText, Z
     transfer.run(FromHost);
     if (layout.columns.empty() || !transfer.messages().empty()) {
         layout.columns.clear();
-        layout.refusal = refusalOf(transfer.messages(), pcText);
+        layout.refusal = transfer.messages().empty() ? "the host described no fields" : transfer.said(pcText);
     }
     return layout;
 }

@@ -1,5 +1,6 @@
 #include "silent_transfer.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
 
@@ -26,6 +27,14 @@ void SilentTransfer::run(std::uint32_t direction) {
 }
 
 void SilentTransfer::cancel() { library_.cancelTransfer(client_); }
+
+std::string SilentTransfer::said(const PcText& pcText) const {
+    if (messages_.empty()) return {};
+    std::string text = pcText.toTerminal(messages_.front().text);
+    std::replace_if(
+        text.begin(), text.end(), [](unsigned char byte) { return byte < ' '; }, ' ');
+    return text.substr(0, text.find_last_not_of(' ') + 1);
+}
 
 std::int32_t SilentTransfer::showMessage(const emulator::MessageBox& box) {
     messages_.push_back(box);

@@ -8,6 +8,7 @@
 
 #include "Z7XFRPCS/session.h"
 #include "emulator/emulator.h"
+#include "pc_text.h"
 #include "transfer_library.h"
 
 // A transfer that the program runs for itself, to find something out: with a client and a user of its own, who is shown
@@ -31,6 +32,8 @@ public:
 
     // Of the run that was last.
     const std::vector<emulator::MessageBox>& messages() const { return messages_; }
+    // The first one, in UTF-8 on one line; empty when there was none.
+    std::string said(const PcText& pcText) const;
 
     std::int32_t showMessage(const emulator::MessageBox& box) override;
     bool connectionDialog() override { return false; }
