@@ -10,6 +10,8 @@
 namespace checking {
 namespace {
 
+constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
+
 bool isContinuation(char byte) { return (static_cast<std::uint8_t>(byte) & 0xC0) == 0x80; }
 
 // Bytes of the UTF-8 character that the text begins with; 0 when it begins with none.
@@ -37,7 +39,7 @@ std::string markedEncoding(const std::filesystem::path& path) {
     char bytes[3] = {};
     file.read(bytes, sizeof bytes);
     const std::string_view start(bytes, static_cast<std::size_t>(file.gcount()));
-    if (start == "\xEF\xBB\xBF") return "UTF-8";
+    if (start == Utf8Mark) return "UTF-8";
     return start.starts_with("\xFF\xFE") || start.starts_with("\xFE\xFF") ? "UTF-16" : "";
 }
 
@@ -50,6 +52,25 @@ bool isHeaderLine(const std::vector<FieldText>& fields, const std::vector<HostCo
     std::size_t names = 0;
     for (std::size_t at = 0; at < columns.size(); ++at) names += isName(fields[at].text, columns[at].name) ? 1 : 0;
     return names > 0 && 2 * names >= columns.size();
+}
+
+std::string firstLine(const std::filesystem::path& path) {
+    constexpr char EndOfFileByte = 26;
+    std::ifstream file(path, std::ios::binary);
+    std::string line;
+    for (char byte; file.get(byte) && byte != '\r' && byte != '\n' && byte != EndOfFileByte;) line += byte;
+    return line.starts_with(Utf8Mark) ? line.substr(Utf8Mark.size()) : line;
+}
+
+bool holdsFieldName(std::string_view line, RecordFields& fields, const HostLayout& layout) {
+    const auto isName = [&](const FieldText& field) { return layout.find(withoutBlanks(field.text)) != nullptr; };
+    while (!line.empty()) {
+        fields.split(line);
+        if (std::any_of(fields.fields().begin(), fields.fields().end(), isName)) return true;
+        line = fields.surplus();
+        line.remove_prefix(std::min<std::size_t>(line.size(), 1));
+    }
+    return false;
 }
 
 Utf8Watch::Utf8Watch(const PcFileForm& form)
@@ -66,9 +87,9 @@ bool Utf8Watch::isAscii(std::string_view text) {
 }
 
 bool Utf8Watch::lookClosely(std::string_view record) {
-    constexpr std::string_view Mark = "\xEF\xBB\xBF";  // which is told by itself
     std::size_t first = std::string_view::npos;
-    for (std::size_t at = record.starts_with(Mark) ? Mark.size() : 0; at < record.size();) {
+    // The mark is told by itself.
+    for (std::size_t at = record.starts_with(Utf8Mark) ? Utf8Mark.size() : 0; at < record.size();) {
         const std::size_t length = utf8Length(record.substr(at));
         isOpen_ = isOpen_ && length > 0;
         if (!isOpen_) return false;

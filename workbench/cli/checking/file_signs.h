@@ -18,6 +18,11 @@ std::string markedEncoding(const std::filesystem::path& path);
 // Whether a record holds the names of the fields instead of data.
 bool isHeaderLine(const std::vector<FieldText>& fields, const std::vector<HostColumn>& columns);
 
+// Without its line end, and without a mark in front.
+std::string firstLine(const std::filesystem::path& path);
+// Whether a line that is taken for one of field names holds the name of any.
+bool holdsFieldName(std::string_view line, RecordFields& fields, const HostLayout& layout);
+
 // Looks for UTF-8 in a file that is to be in the PC's code page: every character beyond ASCII would have to be one.
 class Utf8Watch {
 public:

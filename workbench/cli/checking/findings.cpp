@@ -43,7 +43,9 @@ void printFinding(std::ostream& out, const Finding& finding) {
         out << " is refused";
     else if (!finding.field.empty())
         out << " would be stored as " << quoted(finding.stored);
-    out << "\n    " << withoutControls(finding.reason) << "\n    to do: " << row.advice << '\n';
+    out << "\n    " << withoutControls(finding.reason) << "\n    to do: " << row.advice;
+    if (!finding.option.empty()) out << ", or send with " << finding.option;
+    out << '\n';
 }
 
 }  // namespace

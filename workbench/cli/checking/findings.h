@@ -15,7 +15,7 @@ namespace checking {
 // and what they can do about it.
 #define CHECKING_FAULTS(X)                                                                                        \
     X(Refused, true, "refused", "correct the field")                                                              \
-    X(HeaderRefused, true, "header line", "remove the line, or send with --start-record 2")                       \
+    X(HeaderRefused, true, "header line", "remove the line")                                                      \
     X(RecordTooLong, true, "record too long", "shorten the record")                                               \
     X(UnknownField, true, "unknown field", "use the description that goes with this host file")                   \
     X(TextCut, false, "text cut", "shorten the text, or send to a file with a longer field")                      \
@@ -32,7 +32,8 @@ namespace checking {
     X(TooManyFields, false, "too many fields", "put a text with the separator in quotes, or remove the field")    \
     X(ByteOrderMark, false, "byte order mark", "save the file in the code page of the PC, without a mark")        \
     X(Utf8, false, "text in UTF-8", "save the file in the code page of the PC")                                   \
-    X(HeaderLine, false, "header line", "remove the line, or send with --start-record 2")                         \
+    X(HeaderLine, false, "header line", "remove the line")                                                        \
+    X(NoHeader, false, "no header line", "send without --header if it is a record, with --allow-changes if not")  \
     X(NoRecord, false, "no record", "look whether this is the file that was meant")                               \
     X(ShortRecord, false, "record cut short", "look whether the file is whole")
 
@@ -58,6 +59,7 @@ struct Finding {
     std::string text;    // as it stands in the PC file
     std::string stored;  // what the host would have of it; meaningless when it is refused
     std::string reason;
+    std::string option{};  // of z7xfer, to send with instead of what the fault's advice says
 };
 
 // What a check has found: the first ones in full, of all the number.

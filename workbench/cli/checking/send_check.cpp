@@ -36,9 +36,12 @@ private:
     void refuse(std::uint64_t index, std::string_view record, std::uint32_t field, const std::string& said);
     bool looksAtAll() const { return check_.extent_ == Extent::WholeFile; }
     bool isHeader(std::string_view record);
+    std::string optionToSkip(std::uint64_t index) const;
+    void tellMissingHeader(const std::filesystem::path& path);
     void finish();
-    void tellOfFile(Fault fault, const std::string& place, const std::string& text, const std::string& reason) {
-        check_.findings_.addOfFile({fault, place, "", text, "", reason});
+    void tellOfFile(Fault fault, const std::string& place, const std::string& text, const std::string& reason,
+                    const std::string& option = {}) {
+        check_.findings_.addOfFile({fault, place, "", text, "", reason, option});
     }
     void tellOfRecord(Fault fault, std::uint64_t index, const std::string& reason) {
         check_.findings_.add(fault, Findings::NoColumn,
@@ -97,7 +100,7 @@ void SendCheck::Run::take(std::uint64_t index, std::string_view record, std::str
     if (!looksAtAll()) return;
     if (send_.records() == 1 && isHeader(record)) {
         tellOfFile(Fault::HeaderLine, send_.nameOf(index), check_.pcText_.toTerminal(record),
-                   "it holds the names of the fields, and would be sent as a record");
+                   "it holds the names of the fields, and would be sent as a record", optionToSkip(index));
     }
     const PcFileForm& form = send_.form();
     if (!form.isText() && record.size() < check_.target_.layout.recordLength()) {
@@ -113,7 +116,7 @@ void SendCheck::Run::refuse(std::uint64_t index, std::string_view record, std::u
                             const std::string& said) {
     if (send_.records() == 1 && isHeader(record)) {
         tellOfFile(Fault::HeaderRefused, send_.nameOf(index), check_.pcText_.toTerminal(record),
-                   "it holds the names of the fields");
+                   "it holds the names of the fields", optionToSkip(index));
     } else {
         records_->refuse(index, record, field, said);
     }
@@ -126,12 +129,30 @@ bool SendCheck::Run::isHeader(std::string_view record) {
     return isHeaderLine(fields_->fields(), check_.target_.layout.columns);
 }
 
+// Start records count from behind a line that --header skips.
+std::string SendCheck::Run::optionToSkip(std::uint64_t index) const {
+    const bool hasHeader = check_.line_.header;
+    const std::int32_t type = send_.form().type;
+    if ((type == ZhstCommaSeparated || type == ZhstTabDelimited) && index == 0 && !hasHeader) return "--header";
+    return "--start-record " + std::to_string(index + (hasHeader ? 1 : 2));
+}
+
+void SendCheck::Run::tellMissingHeader(const std::filesystem::path& path) {
+    const std::string line = firstLine(path);
+    if (line.empty() || send_.form().separator == '\0' || holdsFieldName(line, *fields_, check_.target_.layout)) return;
+    tellOfFile(Fault::NoHeader, "record 1 (line 1)", check_.pcText_.toTerminal(line),
+               "it is no line of field names, and would be skipped as one");
+}
+
 // What the file as a whole gives away.
 void SendCheck::Run::finish() {
     const PcFileForm& form = send_.form();
     const std::filesystem::path path = emulator::nativePath(emulator::text(check_.session_, setting::PcFileName));
+    const bool skipsHeader = check_.line_.header;
+    if (skipsHeader) tellMissingHeader(path);
     const std::string encoding = form.isText() ? markedEncoding(path) : std::string();
-    if (!encoding.empty()) {
+    const bool isSkipped = skipsHeader && encoding == "UTF-8";
+    if (!encoding.empty() && !isSkipped) {
         tellOfFile(Fault::ByteOrderMark, "", "",
                    "it begins with the byte order mark of " + encoding + ", which would be sent as text");
     }
