@@ -153,6 +153,10 @@ TEST_F(CliCheck, EveryRefusedRecordIsFoundWhereverItStands) {
         EXPECT_NE(outcome.errors.find(summary), std::string::npos) << file << outcome.errors;
         EXPECT_NE(outcome.output.find("CUSTNO: refused (100)"), std::string::npos) << outcome.output;
     }
+    std::string many;
+    while (many.size() < 10001 * 2) many += "x\n";
+    writeFile(path("c.csv"), many);
+    EXPECT_NE(check("c.csv", "QGPL/CUST").errors.find("of the first 10,000 records 10,000 would"), std::string::npos);
     EXPECT_NE(check("d.dif", "QGPL/CUST").output.find("row 9 (line "), std::string::npos);
     EXPECT_NE(check("r.dat", "QGPL/CUST").output.find("record 8 (byte 588), field CUSTNO"), std::string::npos);
 }

@@ -17,10 +17,11 @@ constexpr questions::Choice SendOrNot[] = {{"send", 10}, {"no", 2}};
 // "of 12 records 2 would be refused, 3 things would not arrive as written"
 std::string summary(const SendCheck& check) {
     if (check.records() == 0) return "no record would be sent";
-    std::string text = "of " + counted(check.records(), "record") + " ";
+    std::string text = (check.isStopped() ? "of the first " : "of ") + counted(check.records(), "record") + " ";
     const std::uint64_t refused = check.findings().refused(), changed = check.findings().changed();
     if (refused > 0) text += grouped(refused) + " would be refused" + (changed > 0 ? ", " : "");
     if (changed > 0) text += counted(changed, "thing") + " would not arrive as written";
+    if (check.isStopped()) text += "; those behind them were not looked at";
     return text;
 }
 

@@ -86,17 +86,20 @@ void LookedSend::begin(std::int32_t type) {
     if (onBegin) onBegin();
 }
 
-LookedSend::Ending LookedSend::run(Extent extent) {
+LookedSend::Ending LookedSend::run(std::uint64_t mostRefused) {
     bar_.begin();
     bar_.phase(phase_);
-    do {
+    bool goesOn = true;
+    while (goesOn && refused_ < mostRefused) {
         published_ = taken_ = 0;
         isPending_ = isComplete_ = hasData_ = false;
         transfer_.run(ToHost);
-    } while (!console::interrupted() && stoppedAtRecord() && extent == Extent::All);
+        goesOn = !console::interrupted() && stoppedAtRecord();
+    }
     bar_.end();
     emulator::setReadingStart({});
     if (console::interrupted()) return Ending::Cancelled;
+    if (goesOn) return Ending::Stopped;
     return isComplete_ ? Ending::Complete : Ending::Failed;
 }
 
@@ -138,6 +141,7 @@ bool LookedSend::stoppedAtRecord() {
     const bool isRefused = form_.isText() ? isPending_ : !transfer_.messages().empty();
     if (!isLong && !isRefused) return false;
     ++records_;
+    ++refused_;
     if (isLong) {
         ++published_;
         onTooLong(lastIndex());

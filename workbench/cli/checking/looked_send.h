@@ -19,13 +19,18 @@
 namespace checking {
 
 // A PC file on its way to a host that only looks: the library reads and converts every record of it, and what it makes
-// of each is told. A refused record does not end it: another transfer begins behind it.
+// of each is told. A refused record does not end it: another transfer begins behind it, which takes as long as forty
+// records do, so that there is a number of them that ends it.
 //
 // Records are counted from 0 in the file; of a DIF file the header is 0 and the row of the names 1.
 class LookedSend {
 public:
-    enum class Extent { All, ToRefused };  // to the first record that is refused
-    enum class Ending { Complete, Failed, Cancelled };
+    enum class Ending {
+        Complete,
+        Stopped,  // by the number of refused records; there may be more records
+        Failed,
+        Cancelled
+    };
 
     // `session` has all settings of the send, and no client. What it reaches is the looking host, which answers with
     // `layout`. `phase` heads the progress bar.
@@ -43,7 +48,8 @@ public:
         onRefused;
     std::function<void(std::uint64_t index)> onTooLong;
 
-    Ending run(Extent extent = Extent::All);
+    static constexpr std::uint64_t ManyRefused = 10000;
+    Ending run(std::uint64_t mostRefused = ManyRefused);
 
     const PcFileForm& form() const { return form_; }
     std::uint64_t records() const { return records_; }  // that were looked at
@@ -74,7 +80,7 @@ private:
     SilentTransfer transfer_;
     ProgressBar bar_;
     std::filesystem::path path_;
-    std::uint64_t records_ = 0;
+    std::uint64_t records_ = 0, refused_ = 0;
 
     // From the beginning of the data on.
     PcFileForm form_;

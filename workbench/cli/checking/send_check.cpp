@@ -83,10 +83,10 @@ void SendCheck::Run::begin() {
 }
 
 Verdict SendCheck::Run::run() {
-    const LookedSend::Ending ending = send_.run(looksAtAll() ? LookedSend::Extent::All : LookedSend::Extent::ToRefused);
+    const LookedSend::Ending ending = send_.run(looksAtAll() ? LookedSend::ManyRefused : 1);
+    check_.isStopped_ = ending == LookedSend::Ending::Stopped;
     check_.records_ = send_.records();
     if (ending == LookedSend::Ending::Cancelled) return Verdict::Cancelled;
-    if (!looksAtAll() && check_.findings_.refused() > 0) return Verdict::Refused;
     if (ending == LookedSend::Ending::Failed) {
         check_.reason_ = send_.said();
         return Verdict::NotChecked;
@@ -156,7 +156,7 @@ void SendCheck::Run::finish() {
         tellOfFile(Fault::ByteOrderMark, "", "",
                    "it begins with the byte order mark of " + encoding + ", which would be sent as text");
     }
-    if (utf8_ && utf8_->isUtf8()) {
+    if (utf8_ && utf8_->isUtf8() && !check_.isStopped_) {
         tellOfFile(Fault::Utf8, utf8Place_, check_.pcText_.toTerminal(utf8_->word()),
                    "all that is not ASCII in this file is UTF-8, as this is for \"" + utf8_->word() +
                        "\"; the code page of the PC is " + std::to_string(form.pc.ansiCodePage));

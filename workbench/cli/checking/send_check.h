@@ -36,7 +36,9 @@ public:
 
     Verdict run(Extent extent = Extent::WholeFile);
 
-    std::uint64_t records() const { return records_; }     // looked at
+    std::uint64_t records() const { return records_; }  // looked at
+    // There may be more of them, but so many were refused already that the others were not looked at.
+    bool isStopped() const { return isStopped_; }
     const std::string& reason() const { return reason_; }  // why nothing was checked
     // The library ends this send before it makes a request, and says why.
     bool isToldBySend() const { return isToldBySend_; }
@@ -60,6 +62,7 @@ private:
     Findings findings_;
     std::uint64_t records_ = 0;
     std::string reason_;
+    bool isStopped_ = false;
     bool isToldBySend_ = false;
 };
 
