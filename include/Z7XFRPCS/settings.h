@@ -146,21 +146,21 @@
     X(NumericWidthMode, WidthOfBytes, 1, "bytes", "all that its bytes can hold, one more")
 
 /* The seven PC file types, values of SendFileType and ReceiveFileType: number, name, short name, command of the
-   progress dialog that shows the type, then what its records are, and that in words.
+   progress dialog that shows the type, its code in a PC file description, then what its records are, and that in words.
 
    - Form: Lines of text, Tuples of DIF, Binary fields at the host's positions, or the host's bytes Unchanged.
    - Separator between fields: None, Comma, Tab, or List, which is the locale's.
    - Double quotes around character fields: Never, WhereNeeded or Always.
    - Hexadecimal digits stand Bare or Quoted. */
-#define ZHST_PC_FILE_TYPES(X)                                                                                       \
-    X(0, AsciiText, "text", 29, Lines, None, Never, Bare, "lines with each field at its place")                     \
-    X(1, BasicSequential, "basic", 34, Lines, Comma, Always, Quoted,                                                \
-      "lines, commas between fields, every text quoted")                                                            \
-    X(2, CommaSeparated, "csv", 32, Lines, List, WhereNeeded, Bare, "lines, the list separator between fields")     \
-    X(3, BasicRandom, "random", 30, Binary, None, Never, Bare, "records of fixed length, binary numbers of the PC") \
-    X(4, NoConversion, "none", 31, Unchanged, None, Never, Bare, "the host's records, byte for byte")               \
-    X(5, TabDelimited, "tab", 33, Lines, Tab, WhereNeeded, Bare, "lines, a tab between fields")                     \
-    X(6, Dif, "dif", 35, Tuples, None, Always, Quoted, "spreadsheet table in DIF form")
+#define ZHST_PC_FILE_TYPES(X)                                                                                          \
+    X(0, AsciiText, "text", 29, 1, Lines, None, Never, Bare, "lines with each field at its place")                     \
+    X(1, BasicSequential, "basic", 34, 3, Lines, Comma, Always, Quoted,                                                \
+      "lines, commas between fields, every text quoted")                                                               \
+    X(2, CommaSeparated, "csv", 32, 99, Lines, List, WhereNeeded, Bare, "lines, the list separator between fields")    \
+    X(3, BasicRandom, "random", 30, 2, Binary, None, Never, Bare, "records of fixed length, binary numbers of the PC") \
+    X(4, NoConversion, "none", 31, 6, Unchanged, None, Never, Bare, "the host's records, byte for byte")               \
+    X(5, TabDelimited, "tab", 33, 98, Lines, Tab, WhereNeeded, Bare, "lines, a tab between fields")                    \
+    X(6, Dif, "dif", 35, 5, Tuples, None, Always, Quoted, "spreadsheet table in DIF form")
 
 enum ZhstSetting {
 #define ZHST_SETTING_NUMBER(number, name, kind, longest, writer, reading, meaning) ZhstSetting##name = number,
@@ -175,7 +175,8 @@ enum ZhstSettingValue {
 };
 
 enum ZhstPcFileType {
-#define ZHST_PC_FILE_TYPE(number, name, shortName, command, form, separator, quotes, hex, meaning) Zhst##name = number,
+#define ZHST_PC_FILE_TYPE(number, name, shortName, command, code, form, separator, quotes, hex, meaning) \
+    Zhst##name = number,
     ZHST_PC_FILE_TYPES(ZHST_PC_FILE_TYPE)
 #undef ZHST_PC_FILE_TYPE
 };

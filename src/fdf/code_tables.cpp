@@ -9,16 +9,14 @@ namespace fdf {
 namespace {
 
 constexpr CodeRow fileTypes[] = {
-    {1, settings::AsciiText},
-    {2, settings::BasicRandom},
-    {3, settings::BasicSequential},
+#define PC_FILE_TYPE(number, name, shortName, command, code, form, separator, quotes, hex, meaning) \
+    {code, settings::name},
+    ZHST_PC_FILE_TYPES(PC_FILE_TYPE)
+#undef PC_FILE_TYPE
+    // Known, and refused.
     {4, NoCode},
-    {5, settings::Dif},
-    {6, settings::NoConversion},
     {7, NoCode},
     {8, NoCode},
-    {98, settings::TabDelimited},
-    {99, settings::CommaSeparated},
 };
 
 // The comments name the keyword that a value has in the options request.

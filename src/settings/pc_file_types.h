@@ -8,7 +8,7 @@
 namespace settings {
 
 enum PcFileType : std::int32_t {
-#define PC_FILE_TYPE(number, name, shortName, command, form, separator, quotes, hex, meaning) name = number,
+#define PC_FILE_TYPE(number, name, shortName, command, code, form, separator, quotes, hex, meaning) name = number,
     ZHST_PC_FILE_TYPES(PC_FILE_TYPE)
 #undef PC_FILE_TYPE
 };
@@ -34,7 +34,7 @@ struct PcFileTypeRow {
 };
 
 inline constexpr PcFileTypeRow pcFileTypes[] = {
-#define PC_FILE_TYPE(number, name, shortName, command, form, separator, quotes, hex, meaning) \
+#define PC_FILE_TYPE(number, name, shortName, command, code, form, separator, quotes, hex, meaning) \
     {name, shortName, command, RecordForm::form, Separator::separator, Quotes::quotes, HexDigits::hex},
     ZHST_PC_FILE_TYPES(PC_FILE_TYPE)
 #undef PC_FILE_TYPE

@@ -400,10 +400,11 @@ one that runs; Live, whenever it is needed; or Never. `settings.h`)") +
                  values.contains(#name) ? values.at(#name) : "", #writer, #reading});
     ZHST_SETTINGS(SETTING)
 #undef SETTING
-    text += "\n## Types of PC files\n\n" + table({"Value", "Name", "Short", "Records", "Separator",
+    text += "\n## Types of PC files\n\n" + table({"Value", "Name", "Short", "In descriptions", "Records", "Separator",
                                                   "Double quotes around texts", "Hexadecimal digits"});
-#define TYPE(number, name, shortName, command, form, separator, quotes, hex, ...) \
-    text += row({std::to_string(number), code(#name), shortName, #form, #separator, #quotes, #hex});
+#define TYPE(number, name, shortName, command, description, form, separator, quotes, hex, ...)                   \
+    text += row({std::to_string(number), code(#name), shortName, std::to_string(description), #form, #separator, \
+                 #quotes, #hex});
     ZHST_PC_FILE_TYPES(TYPE)
 #undef TYPE
     return text;

@@ -43,11 +43,11 @@ inline constexpr SettingValueRow settingValueRows[] = {
 #define ZHST_SETTING_VALUE_ROW(owner, name, value, word, meaning) {zhst::setting::owner, value, word, meaning},
     ZHST_SETTING_VALUES(ZHST_SETTING_VALUE_ROW)
 #undef ZHST_SETTING_VALUE_ROW
-#define ZHST_FILE_TYPE_ROW(number, name, shortName, command, form, separator, quotes, hex, meaning) \
+#define ZHST_FILE_TYPE_ROW(number, name, shortName, command, code, form, separator, quotes, hex, meaning) \
     {zhst::setting::SendFileType, number, shortName, meaning},
         ZHST_PC_FILE_TYPES(ZHST_FILE_TYPE_ROW)
 #undef ZHST_FILE_TYPE_ROW
-#define ZHST_FILE_TYPE_ROW(number, name, shortName, command, form, separator, quotes, hex, meaning) \
+#define ZHST_FILE_TYPE_ROW(number, name, shortName, command, code, form, separator, quotes, hex, meaning) \
     {zhst::setting::ReceiveFileType, number, shortName, meaning},
             ZHST_PC_FILE_TYPES(ZHST_FILE_TYPE_ROW)
 #undef ZHST_FILE_TYPE_ROW

@@ -29,7 +29,7 @@ constexpr std::int32_t NoType = -1;
 // The PC file type that a command of the progress dialog shows.
 std::int32_t shownType(std::uint32_t command) {
     constexpr std::uint32_t commands[] = {
-#define PC_FILE_TYPE(number, name, shortName, command, form, separator, quotes, hex, meaning) command,
+#define PC_FILE_TYPE(number, name, shortName, command, code, form, separator, quotes, hex, meaning) command,
         ZHST_PC_FILE_TYPES(PC_FILE_TYPE)
 #undef PC_FILE_TYPE
     };

@@ -19,7 +19,7 @@ struct TypeRow {
 };
 
 constexpr TypeRow types[] = {
-#define PC_FILE_TYPE(number, name, shortName, command, form, separator, quotes, hex, meaning) \
+#define PC_FILE_TYPE(number, name, shortName, command, code, form, separator, quotes, hex, meaning) \
     {RecordForm::form, Separator::separator},
     ZHST_PC_FILE_TYPES(PC_FILE_TYPE)
 #undef PC_FILE_TYPE
