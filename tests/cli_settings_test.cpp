@@ -73,6 +73,22 @@ TEST_F(CliSettings, HostSaysItsCodePage) {
     EXPECT_EQ(run("receive JAPAN/PREF --settings page.set" + pc).output.find(japanese), std::string::npos);
     useOwnHost();
     expect(0, "receive JAPAN/PREF p.csv --describe '*.fdf'" + pc, "complete");
+    // Another one is noted, once, in front of the check's findings and of the records.
+    const std::pair<const char*, const char*> others[] = {
+        {"send p.csv JAPAN/PREF --description p.fdf --check --host-code-page 930", "939 for NAME, CAPITAL\n"},
+        {"send p.csv JAPAN/PREF --description p.fdf --answer replace --host-code-page 930", "939 for NAME, CAPITAL\n"},
+        {"send p.csv JAPAN/PREF --description p.fdf --answer no --no-check --host-code-page 930", ""},
+        {"send p.csv JAPAN/PREF --description p.fdf --answer replace --no-check --settings page.set", "939 for NAME"},
+        {"receive \"JAPAN/PREF WORLD/ZONE\" --join T1.CODE=T2.ZONENO --columns NAME,ZONE",
+         "37 for ZONE\n    a transfer"},
+        {"send p.csv JAPAN/P2 --description p.fdf --create file --check --host-code-page 930", ""}};
+    for (const auto& [command, told] : others) {
+        const std::string errors = run(command + (" --host-data my.db" + pc)).errors;
+        const std::size_t note = errors.find("z7xfer: note: ");
+        EXPECT_EQ(note == std::string::npos, *told == '\0') << command << errors;
+        EXPECT_NE(errors.find(told), std::string::npos) << command << errors;
+        EXPECT_TRUE(*told == '\0' || errors.find("note: ", note + 14) == std::string::npos) << errors;
+    }
     const std::string own = " --host-data my.db" + pc;
     expect(0, "send p.csv 'JAPAN/PREF(NEW)' --description p.fdf --create member" + own, "complete: 47");
     EXPECT_TRUE(received("'JAPAN/PREF(NEW)'" + own) == japanese);

@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "checking/send_check.h"
+#include "code_page_note.h"
 #include "console.h"
 #include "progress_bar.h"
 #include "questions.h"
@@ -43,11 +44,13 @@ Tally checkedOnly(const SendCheck& check, Verdict verdict) {
 }  // namespace
 
 std::optional<Tally> checkBeforeSend(const TransferLibrary& library, const PcText& pcText, const CommandLine& line,
-                                     const std::filesystem::path& programFolder, ZhstSession session) {
+                                     const std::filesystem::path& programFolder, ZhstSession session, Notes& notes) {
     SendCheck check(library, pcText, line, programFolder, session);
     const Verdict verdict = check.run();
     if (verdict == Verdict::Cancelled)
         return Tally{"cancelled while the file was checked; nothing was sent", ExitCancelled};
+    const auto page = static_cast<std::uint32_t>(emulator::number(session, zhst::setting::HostCodePage));
+    if (const std::optional<Note> note = codePageNote(check.layout(), page)) notes.tell(*note);
     check.findings().print(line.checkOnly ? std::cout : std::cerr);
     std::cout.flush();
     if (line.checkOnly) return checkedOnly(check, verdict);

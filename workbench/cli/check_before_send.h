@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "command_line.h"
+#include "notes.h"
 #include "tally.h"
 #include "transfer_library.h"
 
@@ -11,4 +12,4 @@
 // they are written, asks whether to go on. Nothing when the send may run; otherwise how the command ends, which with
 // --check is always so. `session` has all settings of the send, and no client.
 std::optional<Tally> checkBeforeSend(const TransferLibrary& library, const PcText& pcText, const CommandLine& line,
-                                     const std::filesystem::path& programFolder, ZhstSession session);
+                                     const std::filesystem::path& programFolder, ZhstSession session, Notes& notes);

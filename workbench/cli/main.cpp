@@ -154,14 +154,14 @@ Tally runCommand(const TransferLibrary& library, ZXFRPCSCLIENT* client, const Co
 
 // What keeps a send from running, or a file from being sent. The settings file, which the library runs later, counts.
 std::optional<Tally> check(const TransferLibrary& library, const CommandLine& line, const PcText& pcText,
-                           const fs::path& folder, ZhstSession session) {
+                           const fs::path& folder, ZhstSession session, Notes& notes) {
     if (line.command != Command::Send || line.unchecked) return std::nullopt;
     const ZhstSession checked = copyOfSession(session);
     if (!line.settingsFile.empty() && !runSettingsFile(checked, line.settingsFile, line, pcText))
         return Tally{"failed before any record, the settings file was refused", ExitUsage};
     if (emulator::number(checked, zhst::setting::ConnectionType) == zhst::value::DemonstrationConnection)
         return std::nullopt;
-    return checkBeforeSend(library, pcText, line, folder, checked);
+    return checkBeforeSend(library, pcText, line, folder, checked, notes);
 }
 
 // Whether standard output is for records.
@@ -197,9 +197,9 @@ bool writeJournal(const std::string& file, std::ofstream& stream) {
 }
 
 Tally run(const TransferLibrary& library, const CommandLine& line, const PcText& pcText, ZhstSession session,
-          const FieldLayouts& layouts) {
+          const FieldLayouts& layouts, Notes& notes) {
     emulator::journalOn(!line.journalFile.empty());
-    TerminalUser user(line, pcText, session);
+    TerminalUser user(line, pcText, session, notes);
     emulator::setUserInterface(&user);
     ZXFRPCSCLIENT* client = library.newClient(session);
     if (client == nullptr) throw std::runtime_error("the library made no client");
@@ -227,8 +227,10 @@ int transfer(const CommandLine& line) {
     settleHostCodePage(library, line, pcText, session);
     const StandardStreams streams(line, pcText, session);
     const FieldLayouts layouts(library, line, pcText, session);
-    std::optional<Tally> tally = check(library, line, pcText, folder, session);
-    if (!tally) tally = run(library, line, pcText, session, layouts);
+    Notes notes;
+    std::optional<Tally> tally = check(library, line, pcText, folder, session, notes);
+    if (!tally) tally = run(library, line, pcText, session, layouts, notes);
+    tally->notes = notes.told();
     if (!line.journalFile.empty() && !writeJournal(line.journalFile, journalStream)) tally->exitStatus = ExitLocalFile;
     const bool hasRecordsOnOutput = writesToOutput(line, session);
     emulator::reset();

@@ -3,6 +3,7 @@
 #include "Z7XFRPCS/messages.h"
 #include "Z7XFRPCS/provider.h"
 #include "Z7XFRPCS/settings.h"
+#include "code_page_note.h"
 #include "pc_text.h"
 #include "provider_reasons.h"
 #include "return_codes.h"
@@ -88,11 +89,8 @@ std::vector<std::string> Reasons::ofConversion() const {
     const auto page = static_cast<std::uint32_t>(emulator::number(session_, setting::HostCodePage));
     std::vector<std::string> lines = {"tried: host code page " + std::to_string(page) +
                                       ", which is the setting HostCodePage"};
-    for (const HostColumn& column : layout_.columns) {
-        if (column.codePage != 0 && column.codePage != page)
-            lines.push_back("the host says that field " + column.name + " has code page " +
-                            std::to_string(column.codePage));
-    }
+    if (const std::string others = otherCodePages(layout_, page); !others.empty())
+        lines.push_back("the host names " + others);
     lines.emplace_back("--host-code-page names another");
     return lines;
 }

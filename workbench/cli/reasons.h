@@ -21,6 +21,8 @@ public:
     void storeWritten(std::string_view code, std::string_view value);
 
     std::vector<std::string> of(const emulator::MessageBox& box) const;
+    // As far as the host has described it.
+    const HostLayout& layout() const { return layout_; }
     // For an ending that no message told.
     std::vector<std::string> ofSilence() const;
 
@@ -30,5 +32,5 @@ private:
 
     const TransferWatch& watch_;
     ZhstSession session_;
-    HostLayout layout_;  // as far as the host has described it
+    HostLayout layout_;
 };

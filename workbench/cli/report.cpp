@@ -24,6 +24,10 @@ std::string report(const CommandLine& line, const Tally& tally) {
     for (const ShownMessage& message : tally.messages)
         told.push_back(json::Object().number("id", message.id).text("text", message.text).whole());
     object.value("messages", json::array(told));
+    std::vector<std::string> notes;
+    for (const Note& note : tally.notes)
+        notes.push_back(json::Object().text("text", note.text).text("advice", note.advice).whole());
+    object.value("notes", json::array(notes));
     if (line.command == Command::Browse) object.value("entries", json::array(tally.entries));
     return object.whole();
 }

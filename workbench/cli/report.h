@@ -16,5 +16,6 @@
 //     bytes     written to the PC file, or read from it; absent where nothing is known of them
 //     pcFile, hostFile   their names, as they were given; absent where there is none
 //     messages  the messages that were shown, {"id", "text"} each; 0 is the id of those about PC files
+//     notes     what z7xfer noted before records went over, {"text", "advice"} each
 //     entries   of browse: {"name", "description"} each; of its fields {"name", "description", "type"}
 std::string report(const CommandLine& line, const Tally& tally);

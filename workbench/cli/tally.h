@@ -15,6 +15,7 @@ struct Tally {
     std::optional<std::uint64_t> records{}, bytes{};
     std::string pcFile{}, hostFile{};
     std::vector<ShownMessage> messages{};
+    std::vector<Note> notes{};
     std::vector<std::string> entries{};  // of a listing, as JSON
 };
 

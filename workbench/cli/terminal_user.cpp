@@ -7,6 +7,7 @@
 
 #include "Z7XFRPCS/dialogs.h"
 #include "Z7XFRPCS/text_display.h"
+#include "code_page_note.h"
 #include "console.h"
 #include "emulator/setting_rows.h"
 #include "environment/environment.h"
@@ -67,10 +68,11 @@ std::string withoutControlsInLines(const std::string& text) {
 
 }  // namespace
 
-TerminalUser::TerminalUser(const CommandLine& line, const PcText& pcText, ZhstSession session)
+TerminalUser::TerminalUser(const CommandLine& line, const PcText& pcText, ZhstSession session, Notes& notes)
     : line_(line),
       pcText_(pcText),
       session_(session),
+      notes_(notes),
       reasons_(watch_, session),
       bar_(false),
       table_(std::cout, Pager::isWanted()),
@@ -188,8 +190,19 @@ void TerminalUser::progressCreated(std::uint32_t direction, std::uint32_t) {
 
 void TerminalUser::progressCommand(std::uint32_t command) {
     watch_.progressCommand(command);
+    if (command == ZhstDataBegins) dataBegins();
     if (command == ZhstAllDataTransferred) allDataTransferred();
     if (const char* words = phaseWords(static_cast<ZhstProgressCommand>(command))) bar_.phase(words);
+}
+
+// The host has described its fields, and no record has gone over.
+void TerminalUser::dataBegins() {
+    const auto page = static_cast<std::uint32_t>(emulator::number(session_, setting::HostCodePage));
+    const std::optional<Note> note = codePageNote(reasons_.layout(), page);
+    if (!note) return;
+    bar_.hide();
+    notes_.tell(*note);
+    bar_.show();
 }
 
 // Before the library ends the request, in whatever way the transfer ends.

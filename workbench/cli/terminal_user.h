@@ -8,6 +8,7 @@
 #include "command_line.h"
 #include "emulator/emulator.h"
 #include "field_names.h"
+#include "notes.h"
 #include "pager.h"
 #include "pc_text.h"
 #include "progress_bar.h"
@@ -26,7 +27,8 @@ struct ShownMessage {
 // output, a progress bar where both may be seen, Ctrl-C for the cancel button.
 class TerminalUser final : public emulator::UserInterface {
 public:
-    TerminalUser(const CommandLine& line, const PcText& pcText, ZhstSession session);
+    // All arguments outlive it.
+    TerminalUser(const CommandLine& line, const PcText& pcText, ZhstSession session, Notes& notes);
 
     // What Ctrl-C does, once, from inside a pump.
     void onCancel(std::function<void()> cancel) { cancel_ = std::move(cancel); }
@@ -63,6 +65,7 @@ private:
     void storeWritten(std::string_view code, std::string_view value);
     void printMessage(const emulator::MessageBox& box);
     std::int32_t answer(const emulator::MessageBox& box);
+    void dataBegins();
     void allDataTransferred();
     void obeyInterrupt();
     void turnPage();
@@ -70,6 +73,7 @@ private:
     const CommandLine& line_;
     const PcText& pcText_;
     ZhstSession session_;
+    Notes& notes_;
     std::function<void()> cancel_;
     TransferWatch watch_;
     std::vector<ShownMessage> messages_;
