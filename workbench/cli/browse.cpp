@@ -4,11 +4,13 @@
 #include <array>
 #include <charconv>
 #include <iostream>
+#include <iterator>
 
 #include "console.h"
 #include "emulator/catalogue.h"
 #include "implied_settings.h"
 #include "json.h"
+#include "json_members.h"
 #include "text_table.h"
 
 namespace {
@@ -36,14 +38,30 @@ void printEntry(const HostCatalogEntry& entry, const PcText& pcText) {
 // For a program: an entry that is no field.
 std::string entryObject(const HostCatalogEntry& entry, const PcText& pcText) {
     json::Object object;
-    object.text("name", trimmedEnd(pcText.toTerminal(fieldText(entry.name))));
-    object.text("description", trimmedEnd(pcText.toTerminal(fieldText(entry.description))));
+    object.text(entry_member::Name, trimmedEnd(pcText.toTerminal(fieldText(entry.name))));
+    object.text(entry_member::Description, trimmedEnd(pcText.toTerminal(fieldText(entry.description))));
     return object.whole();
 }
 
-constexpr std::array<std::string_view, 7> FieldTitles{"NAME",      "TYPE",   "LENGTH",     "DECIMALS",
-                                                      "CODE PAGE", "OFFSET", "DESCRIPTION"};
-using FieldRow = std::array<std::string, FieldTitles.size()>;
+enum class ValueKind { Text, Number };
+
+struct FieldMember {
+    std::string_view name, title;
+    ValueKind kind;
+};
+constexpr FieldMember fieldMembers[] = {
+#define FIELD_MEMBER(constant, name, title, kind, meaning) {name, title, ValueKind::kind},
+    Z7X_FIELD_MEMBERS(FIELD_MEMBER)
+#undef FIELD_MEMBER
+};
+namespace field_member {
+enum Index : std::size_t {
+#define FIELD_MEMBER(constant, name, title, kind, meaning) constant,
+    Z7X_FIELD_MEMBERS(FIELD_MEMBER)
+#undef FIELD_MEMBER
+};
+}  // namespace field_member
+using FieldRow = std::array<std::string, std::size(fieldMembers)>;
 
 // What stands behind a label of the emulator's, up to a blank.
 std::string labelled(std::string_view text, zhst::CatalogueText label) {
@@ -61,27 +79,29 @@ FieldRow fieldRow(const HostCatalogEntry& entry, const PcText& pcText, const Fie
     const std::string text = pcText.toTerminal(fieldText(entry.name));
     const std::size_t tab = std::min(text.find('\t'), text.size()), end = std::min(text.find('\n', tab), text.size());
     const std::string_view all = text, details = all.substr(end);
-    FieldRow row{onOneLine(all.substr(0, tab)), labelled(details, zhst::text::TypeLabel),
-                 labelled(details, zhst::text::LengthLabel)};
-    row.back() = onOneLine(all.substr(std::min(tab + 1, end), end - std::min(tab + 1, end)));
-    if (const HostColumn* column = layouts.find(row[0])) {
-        if (column->isNumber()) row[3] = toText(column->decimals);
-        if (column->codePage != 0) row[4] = toText(column->codePage);
-        row[5] = toText(column->offset);
+    FieldRow row;
+    row[field_member::Name] = onOneLine(all.substr(0, tab));
+    row[field_member::Type] = labelled(details, zhst::text::TypeLabel);
+    row[field_member::Length] = labelled(details, zhst::text::LengthLabel);
+    row[field_member::Description] = onOneLine(all.substr(std::min(tab + 1, end), end - std::min(tab + 1, end)));
+    if (const HostColumn* column = layouts.find(row[field_member::Name])) {
+        if (column->isNumber()) row[field_member::Decimals] = toText(column->decimals);
+        if (column->codePage != 0) row[field_member::CodePage] = toText(column->codePage);
+        row[field_member::Offset] = toText(column->offset);
     }
     return row;
 }
 
-bool isRightAligned(std::size_t column) { return column >= 2 && column <= 5; }
+bool isNumber(std::size_t column) { return fieldMembers[column].kind == ValueKind::Number; }
 
 void printFields(const std::vector<FieldRow>& rows) {
     if (rows.empty()) return;
     TextTable table(std::cout, false);
-    for (std::size_t column = 0; column < FieldTitles.size(); ++column) {
-        std::size_t width = FieldTitles[column].size();
+    for (std::size_t column = 0; column < std::size(fieldMembers); ++column) {
+        const std::string title(fieldMembers[column].title);
+        std::size_t width = title.size();
         for (const FieldRow& row : rows) width = std::max(width, cellWidth(row[column]));
-        table.addColumn(static_cast<std::uint32_t>(column), std::string(FieldTitles[column]),
-                        static_cast<std::uint32_t>(width), isRightAligned(column));
+        table.addColumn(static_cast<std::uint32_t>(column), title, static_cast<std::uint32_t>(width), isNumber(column));
     }
     for (const FieldRow& row : rows) {
         table.startRow();
@@ -93,12 +113,11 @@ void printFields(const std::vector<FieldRow>& rows) {
 
 // What is not known of the field is left out.
 std::string fieldObject(const FieldRow& row) {
-    constexpr std::array<std::string_view, FieldTitles.size()> names{"name",     "type",   "length",     "decimals",
-                                                                     "codePage", "offset", "description"};
     json::Object object;
     for (std::size_t column = 0; column < row.size(); ++column) {
         if (row[column].empty()) continue;
-        isRightAligned(column) ? object.value(names[column], row[column]) : object.text(names[column], row[column]);
+        const std::string_view name = fieldMembers[column].name;
+        isNumber(column) ? object.value(name, row[column]) : object.text(name, row[column]);
     }
     return object.whole();
 }

@@ -1,6 +1,6 @@
 #include "report.h"
 
-#include "json.h"
+#include "json_members.h"
 
 namespace {
 
@@ -12,22 +12,27 @@ std::string_view outcomeOf(const Tally& tally) {
 
 }  // namespace
 
-std::string report(const CommandLine& line, const Tally& tally) {
+json::Object reportHead(const CommandLine& line, const Tally& tally) {
     json::Object object;
-    object.text("command", line.commandName).number("status", static_cast<int>(tally.exitStatus));
-    object.text("outcome", outcomeOf(tally)).text("text", tally.text);
-    if (tally.records) object.number("records", *tally.records);
-    if (tally.bytes) object.number("bytes", *tally.bytes);
-    if (!tally.pcFile.empty()) object.text("pcFile", tally.pcFile);
-    if (!tally.hostFile.empty()) object.text("hostFile", tally.hostFile);
+    object.text(run_member::Command, line.commandName).number(run_member::Status, static_cast<int>(tally.exitStatus));
+    object.text(run_member::Outcome, outcomeOf(tally)).text(run_member::Text, tally.text);
+    return object;
+}
+
+std::string report(const CommandLine& line, const Tally& tally) {
+    json::Object object = reportHead(line, tally);
+    if (tally.records) object.number(run_member::Records, *tally.records);
+    if (tally.bytes) object.number(run_member::Bytes, *tally.bytes);
+    if (!tally.pcFile.empty()) object.text(run_member::PcFile, tally.pcFile);
+    if (!tally.hostFile.empty()) object.text(run_member::HostFile, tally.hostFile);
     std::vector<std::string> told;
     for (const ShownMessage& message : tally.messages)
         told.push_back(json::Object().number("id", message.id).text("text", message.text).whole());
-    object.value("messages", json::array(told));
+    object.value(run_member::Messages, json::array(told));
     std::vector<std::string> notes;
     for (const Note& note : tally.notes)
         notes.push_back(json::Object().text("text", note.text).text("advice", note.advice).whole());
-    object.value("notes", json::array(notes));
-    if (line.command == Command::Browse) object.value("entries", json::array(tally.entries));
+    object.value(run_member::Notes, json::array(notes));
+    if (line.command == Command::Browse) object.value(run_member::Entries, json::array(tally.entries));
     return object.whole();
 }

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "json.h"
+#include "json_members.h"
 #include "settings.h"
 
 namespace {
@@ -81,20 +82,21 @@ constexpr std::array<const char*, 3> ReadingWords = {"once", "live", "never"};
 
 std::string settingObject(const SettingRow& setting) {
     json::Object object;
-    object.number("number", setting.number).text("name", setting.name);
-    object.text("kind", KindWords[static_cast<std::size_t>(setting.kind)]).text("meaning", setting.meaning);
-    object.text("default",
+    object.number(setting_member::Number, setting.number).text(setting_member::Name, setting.name);
+    object.text(setting_member::Kind, KindWords[static_cast<std::size_t>(setting.kind)])
+        .text(setting_member::Meaning, setting.meaning);
+    object.text(setting_member::Default,
                 setting.kind == SettingKind::Text && defaultOf(setting) == "empty" ? "" : defaultOf(setting));
-    if (setting.longest != 0) object.number("longest", setting.longest);
-    object.text("writer", WriterWords[static_cast<std::size_t>(setting.writer)]);
-    object.text("reading", ReadingWords[static_cast<std::size_t>(setting.reading)]);
+    if (setting.longest != 0) object.number(setting_member::Longest, setting.longest);
+    object.text(setting_member::Writer, WriterWords[static_cast<std::size_t>(setting.writer)]);
+    object.text(setting_member::Reading, ReadingWords[static_cast<std::size_t>(setting.reading)]);
     std::vector<std::string> values;
     for (const SettingValueRow& row : emulator::valuesOf(setting)) {
         json::Object value;
         value.number("value", row.value).text("word", row.word).text("meaning", row.meaning);
         values.push_back(value.whole());
     }
-    return object.value("values", json::array(values)).whole();
+    return object.value(setting_member::Values, json::array(values)).whole();
 }
 
 }  // namespace

@@ -9,11 +9,5 @@
 // Throws std::invalid_argument when there is none, with all that there are.
 void printSettings(std::ostream& out, std::string_view name);
 
-// The same rows for a program: {"settings": [...]} in one line, of each
-//
-//     number, name, kind   number, choice, switch or text
-//     meaning, default     as a person reads and writes them
-//     longest              bytes of a text; absent when any length goes
-//     writer, reading      user, library or both; once, live or never
-//     values               {"value", "word", "meaning"} each; of a choice there are no others
+// The same rows for a program: {"settings": [...]} in one line, of each Z7X_SETTING_MEMBERS.
 std::string settingsReport(std::string_view name);

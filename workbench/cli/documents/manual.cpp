@@ -2,6 +2,7 @@
 
 #include "documents/command_words.h"
 #include "emulator/setting_rows.h"
+#include "json_members.h"
 
 // The manual page, in the man macros.
 
@@ -85,6 +86,23 @@ void settings(std::string& page) {
     }
 }
 
+void members(std::string& page) {
+    page +=
+        ".SH JSON\nWhat " + bold("--json") + " writes: one object in one line. A run that could not begin has none.\n";
+    page += ".SS Of a run\n";
+#define MEMBER_ENTRY(constant, name, meaning) entry(page, bold(name), meaning);
+#define FIELD_MEMBER_ENTRY(constant, name, title, kind, meaning) entry(page, bold(name), meaning);
+    Z7X_RUN_MEMBERS(MEMBER_ENTRY)
+    page += ".SS Of a library, file or member that browse lists\n";
+    Z7X_ENTRY_MEMBERS(MEMBER_ENTRY)
+    page += ".SS Of a field that browse lists; what is not known is absent\n";
+    Z7X_FIELD_MEMBERS(FIELD_MEMBER_ENTRY)
+    page += ".SS Of a setting, in the array \\(lqsettings\\(rq\n";
+    Z7X_SETTING_MEMBERS(MEMBER_ENTRY)
+#undef FIELD_MEMBER_ENTRY
+#undef MEMBER_ENTRY
+}
+
 }  // namespace
 
 std::string manual(const ProgramWords& program) {
@@ -96,6 +114,7 @@ std::string manual(const ProgramWords& program) {
     page += ".SH OPTIONS\n";
     sharedOptions(page, program);
     settings(page);
+    members(page);
     page += ".SH EXIT STATUS\n" + plain(program.footer) + "\n";
     return page;
 }
