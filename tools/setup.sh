@@ -36,9 +36,24 @@ BUILD_PACKAGES=(g++ cmake ninja-build libcli11-dev libsqlite3-dev libicu-dev tzd
 TEST_PACKAGES=(libgtest-dev python3 clang)
 # Of one version: another formats and judges otherwise.
 LINT_PACKAGES=(clang-format-14 clang-tidy-14)
+# By which Python talks to LibreOffice; and that without a desktop, unless there is one, whose place it would take.
+SPREADSHEET_PACKAGES=(python3-uno)
+command -v soffice >/dev/null || SPREADSHEET_PACKAGES+=(libreoffice-calc-nogui)
 # dpkg-dev and tcl: SQLite is made from its source package. The last two: guide and reference become HTML.
 WINDOWS_PACKAGES=(g++-mingw-w64-i686 googletest wine wine32:i386 locales dpkg-dev tcl python3-markdown-it
     python3-mdit-py-plugins)
+
+# From the release itself, without its updates: packages of two architectures that come from different archives do not fit
+# together.
+install_released_packages() {
+    local APT_OPTIONS=(-t "$(. /etc/os-release && echo "$VERSION_CODENAME")")
+    install_packages "$@"
+}
+
+# Leaves room for Wine, whose libraries it shares, as long as the machine has them from the release, too.
+install_spreadsheet_packages() {
+    install_released_packages "${SPREADSHEET_PACKAGES[@]}" || install_packages "${SPREADSHEET_PACKAGES[@]}"
+}
 
 # The Windows tool chain, and Wine for 32-bit programs. Fails, having said why, on a machine that has no way to get them.
 install_windows_packages() {
@@ -47,7 +62,5 @@ install_windows_packages() {
     if ! dpkg --print-foreign-architectures | grep -qx i386; then
         "${root[@]}" dpkg --add-architecture i386 || return 1
     fi
-    # Both architectures from the release itself: packages that the two take from different archives do not fit together.
-    local APT_OPTIONS=(-t "$(. /etc/os-release && echo "$VERSION_CODENAME")")
-    install_packages "${WINDOWS_PACKAGES[@]}"
+    install_released_packages "${WINDOWS_PACKAGES[@]}"
 }
