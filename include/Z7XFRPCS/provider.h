@@ -110,6 +110,33 @@ typedef uint32_t(ZHST_CALL* TfGetClientEntry)(uint32_t session);
    Result: non-zero when the router runs. */
 typedef uint32_t(ZHST_CALL* TfIsRouterLoadedEntry)(uint32_t session);
 
+/* The provider libraries: family, file. */
+#define ZHST_PROVIDER_LIBRARIES(X) \
+    X(Ibm, "E32TFW.DLL")           \
+    X(Emulator, "ZEHNTFW.DLL")     \
+    X(Appc, "ZTFWAPPC.DLL")        \
+    X(As400, "AS4XFER.DLL")
+
+/* The library that tells whether the router of the family Ibm runs. */
+#define ZHST_ROUTER_LIBRARIES(X) X(Router, "E32APPC.DLL")
+
+/* What is looked up in each: family or router, use, exported name, type, whether it must be there (Needed, Optional).
+ */
+#define ZHST_PROVIDER_ENTRIES(X)                                                  \
+    X(Router, IsLoaded, "EHNAPPC_IsRouterLoaded", TfIsRouterLoadedEntry, Needed)  \
+    X(Ibm, Request, "EHNTF_STF", TfStfEntry, Needed)                              \
+    X(Ibm, Cleanup, "E32TF_Cleanup", TfStfCleanupEntry, Optional)                 \
+    X(Emulator, NewClient, "newZEHNTFWCLIENT", TfNewClientEntry, Needed)          \
+    X(Emulator, Request, "zehnRequestor", TfRequestEntry, Needed)                 \
+    X(Emulator, DeleteClient, "deleteZEHNTFWCLIENT", TfDeleteClientEntry, Needed) \
+    X(Appc, NewClient, "newZTFWAPPCCLIENT", TfNewClientEntry, Needed)             \
+    X(Appc, Request, "zehnRequestor", TfRequestEntry, Needed)                     \
+    X(Appc, DeleteClient, "deleteZTFWAPPCCLIENT", TfDeleteClientEntry, Needed)    \
+    X(As400, NewClient, "newAS4XFERCLIENT", TfNewClientEntry, Needed)             \
+    X(As400, DeleteClient, "deleteZAS4XFERCLIENT", TfDeleteClientEntry, Needed)   \
+    X(As400, GetClient, "getAS4XFERCLIENT", TfGetClientEntry, Needed)             \
+    X(As400, Request, "as400Request", TfRequestEntry, Needed)
+
 ZHST_END_C
 
 #endif

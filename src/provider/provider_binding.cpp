@@ -13,30 +13,45 @@ namespace {
 
 namespace message = zhst::message;
 
-constexpr char IbmLibrary[] = "E32TFW.DLL";
-constexpr char IbmRouterLibrary[] = "E32APPC.DLL";
-constexpr char As400Library[] = "AS4XFER.DLL";
+namespace library {
+#define LIBRARY(family, file) constexpr char family[] = file;
+ZHST_PROVIDER_LIBRARIES(LIBRARY)
+ZHST_ROUTER_LIBRARIES(LIBRARY)
+#undef LIBRARY
+}  // namespace library
+
+// An export, and what it is when it has been found.
+template <class Entry>
+struct Export {
+    const char* name;
+};
+namespace entry {
+#define ENTRY(family, use, name, type, need) constexpr Export<type> family##use = {name};
+ZHST_PROVIDER_ENTRIES(ENTRY)
+#undef ENTRY
+}  // namespace entry
 
 // The libraries of the emulator's own transfer-function providers. The messages of the second have its name as insert,
 // those of the first stand for it alone.
 struct OwnLibrary {
     const char* name;
-    const char* newClient;
-    const char* deleteClient;
+    Export<TfNewClientEntry> newClient;
+    Export<TfRequestEntry> request;
+    Export<TfDeleteClientEntry> deleteClient;
     std::uint32_t notLoaded;
     std::uint32_t entryMissing;
     const char* insert;
 };
 constexpr OwnLibrary OwnLibraries[] = {
-    {"ZEHNTFW.DLL", "newZEHNTFWCLIENT", "deleteZEHNTFWCLIENT", message::OwnProviderNotLoaded,
-     message::EmulatorEntryMissing, nullptr},
-    {"ZTFWAPPC.DLL", "newZTFWAPPCCLIENT", "deleteZTFWAPPCCLIENT", message::AppcProviderNotLoaded,
-     message::AppcEntryMissing, "ZTFWAPPC.DLL"},
+    {library::Emulator, entry::EmulatorNewClient, entry::EmulatorRequest, entry::EmulatorDeleteClient,
+     message::OwnProviderNotLoaded, message::EmulatorEntryMissing, nullptr},
+    {library::Appc, entry::AppcNewClient, entry::AppcRequest, entry::AppcDeleteClient, message::AppcProviderNotLoaded,
+     message::AppcEntryMissing, library::Appc},
 };
 
 template <class Entry>
-Entry lookUp(services::ModuleHandle module, const char* name) {
-    return reinterpret_cast<Entry>(platform::GetProcAddress(module, name));
+Entry lookUp(services::ModuleHandle module, Export<Entry> wanted) {
+    return reinterpret_cast<Entry>(platform::GetProcAddress(module, wanted.name));
 }
 
 }  // namespace
@@ -58,7 +73,7 @@ bool ProviderBinding::bindProvider(const Connection& connection) {
 
 // The router stays loaded as long as the provider, which calls it.
 bool ProviderBinding::hasIbmRouter() {
-    if (!load(IbmRouterLibrary, ZhstSearchIbm, routerModule_, message::RouterNotLoaded)) return false;
+    if (!load(library::Router, ZhstSearchIbm, routerModule_, message::RouterNotLoaded)) return false;
     // The emulator's own replacement of that library, which its entry gives away, cannot serve the IBM provider.
     if (platform::GetProcAddress(routerModule_, "EHNAPPC_KVX")) {
         char text[300] = {};
@@ -66,26 +81,26 @@ bool ProviderBinding::hasIbmRouter() {
         return fail(message::RouterIsReplacement, text);
     }
     // A router that cannot be asked is taken for one that does not run.
-    const auto isLoaded = lookUp<TfIsRouterLoadedEntry>(routerModule_, "EHNAPPC_IsRouterLoaded");
+    const auto isLoaded = lookUp(routerModule_, entry::RouterIsLoaded);
     return (isLoaded && isLoaded(owner_.session) != 0) || fail(message::RouterNotRunning);
 }
 
 bool ProviderBinding::bindIbm() {
-    if (!load(IbmLibrary, ZhstSearchIbm, providerModule_, message::IbmProviderNotLoaded)) return false;
-    stfEntry_ = lookUp<TfStfEntry>(providerModule_, "EHNTF_STF");
-    stfCleanupEntry_ = lookUp<TfStfCleanupEntry>(providerModule_, "E32TF_Cleanup");
+    if (!load(library::Ibm, ZhstSearchIbm, providerModule_, message::IbmProviderNotLoaded)) return false;
+    stfEntry_ = lookUp(providerModule_, entry::IbmRequest);
+    stfCleanupEntry_ = lookUp(providerModule_, entry::IbmCleanup);
     if (!stfEntry_) return fail(message::IbmEntryMissing);
     family_ = Family::Ibm;
     return true;
 }
 
 bool ProviderBinding::bindOwn(Family family) {
-    const OwnLibrary& library = OwnLibraries[family == Family::Appc ? 1 : 0];
-    if (!load(library.name, ZhstSearchOwn, providerModule_, library.notLoaded, library.insert)) return false;
-    const auto newClient = lookUp<TfNewClientEntry>(providerModule_, library.newClient);
-    requestEntry_ = lookUp<TfRequestEntry>(providerModule_, "zehnRequestor");
-    deleteClientEntry_ = lookUp<TfDeleteClientEntry>(providerModule_, library.deleteClient);
-    if (!requestEntry_ || !newClient || !deleteClientEntry_) return fail(library.entryMissing, library.insert);
+    const OwnLibrary& own = OwnLibraries[family == Family::Appc ? 1 : 0];
+    if (!load(own.name, ZhstSearchOwn, providerModule_, own.notLoaded, own.insert)) return false;
+    const auto newClient = lookUp(providerModule_, own.newClient);
+    requestEntry_ = lookUp(providerModule_, own.request);
+    deleteClientEntry_ = lookUp(providerModule_, own.deleteClient);
+    if (!requestEntry_ || !newClient || !deleteClientEntry_) return fail(own.entryMissing, own.insert);
     client_ = newClient(owner_.session, owner_.window);
     if (client_ == 0) return false;
     family_ = family;
@@ -93,14 +108,14 @@ bool ProviderBinding::bindOwn(Family family) {
 }
 
 bool ProviderBinding::bindAs400(std::int32_t routerKind) {
-    if (!load(As400Library, ZhstSearchOwn, providerModule_, message::OwnProviderNotLoaded)) return false;
+    if (!load(library::As400, ZhstSearchOwn, providerModule_, message::OwnProviderNotLoaded)) return false;
     // The client is made before the other entries are looked at; without a destructor it cannot be ended either.
-    const auto newClient = lookUp<TfNewClientEntry>(providerModule_, "newAS4XFERCLIENT");
+    const auto newClient = lookUp(providerModule_, entry::As400NewClient);
     client_ = newClient ? newClient(owner_.session, owner_.window) : 0;
     if (client_ == 0) return false;
-    deleteClientEntry_ = lookUp<TfDeleteClientEntry>(providerModule_, "deleteZAS4XFERCLIENT");
-    const auto getClient = lookUp<TfGetClientEntry>(providerModule_, "getAS4XFERCLIENT");
-    requestEntry_ = lookUp<TfRequestEntry>(providerModule_, "as400Request");
+    deleteClientEntry_ = lookUp(providerModule_, entry::As400DeleteClient);
+    const auto getClient = lookUp(providerModule_, entry::As400GetClient);
+    requestEntry_ = lookUp(providerModule_, entry::As400Request);
     if (deleteClientEntry_ && getClient && requestEntry_) {
         family_ = Family::As400;
         return true;

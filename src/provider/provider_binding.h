@@ -14,11 +14,10 @@ namespace provider {
 // is shown to the user with the session's window as owner, except for unsupported transport types and clients that the
 // provider does not make; what was loaded until then is released at once.
 //
-//   router kind 1, transport 2, 4            E32TFW.DLL    EHNTF_STF, optional E32TF_Cleanup; needs its router
-//   router kind 1, transport 8, 9, 14, 15    ZEHNTFW.DLL   zehnRequestor, newZEHNTFWCLIENT, deleteZEHNTFWCLIENT
-//   router kind 1, transport 5, 7, 13        ZTFWAPPC.DLL  zehnRequestor, newZTFWAPPCCLIENT, deleteZTFWAPPCCLIENT
-//   any other router kind                    AS4XFER.DLL   newAS4XFERCLIENT, deleteZAS4XFERCLIENT, getAS4XFERCLIENT,
-//                                                          as400Request
+//   router kind 1, transport 2, 4            E32TFW.DLL, which needs its router
+//   router kind 1, transport 8, 9, 14, 15    ZEHNTFW.DLL
+//   router kind 1, transport 5, 7, 13        ZTFWAPPC.DLL
+//   any other router kind                    AS4XFER.DLL
 class ProviderBinding {
 public:
     // The owner's window is given to the provider, too.

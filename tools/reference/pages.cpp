@@ -324,16 +324,13 @@ transports )" +
     return text;
 }
 
-const char* libraryOf(provider::Family family) {
+std::string libraryOf(provider::Family family) {
     switch (family) {
-        case provider::Family::Ibm:
-            return "`E32TFW.DLL`";
-        case provider::Family::Emulator:
-            return "`ZEHNTFW.DLL`";
-        case provider::Family::Appc:
-            return "`ZTFWAPPC.DLL`";
-        case provider::Family::As400:
-            return "`AS4XFER.DLL`";
+#define LIBRARY(family, file)      \
+    case provider::Family::family: \
+        return code(file);
+        ZHST_PROVIDER_LIBRARIES(LIBRARY)
+#undef LIBRARY
         default:
             return "";
     }
@@ -346,7 +343,15 @@ The types of its entries. All are `__stdcall` on 32-bit Windows, and exported un
 descriptions give. `provider.h`)");
     for (const Declaration& each : readDeclarations(headerFile(sources, "provider.h")))
         text += described(each, each.name);
-    text += "## Functions\n\n" + table({"Code", "Name", "What is asked for"});
+    text += "## Entries\n\n" + table({"Library", "Entry", "Type", ""});
+#define LIBRARY(family, file) const std::string family = code(file);
+    ZHST_ROUTER_LIBRARIES(LIBRARY)
+    ZHST_PROVIDER_LIBRARIES(LIBRARY)
+#undef LIBRARY
+#define ENTRY(family, use, name, type, need) text += row({family, code(name), code(#type), #need});
+    ZHST_PROVIDER_ENTRIES(ENTRY)
+#undef ENTRY
+    text += "\n## Functions\n\n" + table({"Code", "Name", "What is asked for"});
 #define FUNCTION(number, name, use) text += row({std::to_string(number), code("TF_" #name), use});
     ZHST_TF_FUNCTIONS(FUNCTION)
 #undef FUNCTION

@@ -1,9 +1,9 @@
 #include "provider_reasons.h"
 
-#include <initializer_list>
 #include <optional>
 #include <string_view>
 
+#include "Z7XFRPCS/provider.h"
 #include "Z7XFRPCS/settings.h"
 #include "emulator/emulator.h"
 #include "emulator/modules.h"
@@ -14,19 +14,30 @@ namespace {
 namespace setting = zhst::setting;
 namespace value = zhst::value;
 
-using Entries = std::initializer_list<const char*>;
-
-// What the transfer library looks up in each; a clean-up entry may be missing.
-struct Library {
-    std::string_view name;
-    Entries entries;
+constexpr std::string_view libraries[] = {
+#define LIBRARY(family, file) file,
+    ZHST_ROUTER_LIBRARIES(LIBRARY) ZHST_PROVIDER_LIBRARIES(LIBRARY)
+#undef LIBRARY
 };
-const Library libraries[] = {
-    {"E32APPC.DLL", {"EHNAPPC_IsRouterLoaded"}},
-    {"E32TFW.DLL", {"EHNTF_STF"}},
-    {"ZEHNTFW.DLL", {"newZEHNTFWCLIENT", "zehnRequestor", "deleteZEHNTFWCLIENT"}},
-    {"ZTFWAPPC.DLL", {"newZTFWAPPCCLIENT", "zehnRequestor", "deleteZTFWAPPCCLIENT"}},
-    {"AS4XFER.DLL", {"newAS4XFERCLIENT", "deleteZAS4XFERCLIENT", "getAS4XFERCLIENT", "as400Request"}},
+
+namespace file_of {
+#define LIBRARY(family, file) constexpr std::string_view family = file;
+ZHST_ROUTER_LIBRARIES(LIBRARY)
+ZHST_PROVIDER_LIBRARIES(LIBRARY)
+#undef LIBRARY
+}  // namespace file_of
+
+enum class Need { Needed, Optional };
+
+struct Entry {
+    std::string_view library;
+    const char* name;
+    Need need;
+};
+constexpr Entry entries[] = {
+#define ENTRY(family, use, name, type, need) {file_of::family, name, Need::need},
+    ZHST_PROVIDER_ENTRIES(ENTRY)
+#undef ENTRY
 };
 
 struct SettingValue {
@@ -54,28 +65,30 @@ std::string named(const char* what, std::string_view setting, std::int32_t numbe
 
 // Those that a connection needs, in the order they are loaded. Only the first kind of router leaves a choice by
 // transport, and does not serve the AS/400 client's.
-std::vector<const Library*> neededBy(std::int32_t router, std::int32_t transport) {
-    std::vector<const Library*> needed;
+std::vector<std::string> neededBy(std::int32_t router, std::int32_t transport) {
+    std::vector<std::string> needed;
     const SettingValue* row = find("TransportType", transport);
     const bool isChoice = router == value::RouterIbm && transport != value::TransportAs400;
-    const std::string_view wanted = router != value::RouterIbm ? "AS4XFER.DLL" : isChoice && row ? row->meaning : "";
-    for (const Library& library : libraries) {
-        const bool isRouter = library.name == "E32APPC.DLL" && wanted.starts_with("E32TFW.DLL");
-        if (isRouter || (!wanted.empty() && wanted.starts_with(library.name))) needed.push_back(&library);
+    const std::string_view wanted = router != value::RouterIbm ? file_of::As400 : isChoice && row ? row->meaning : "";
+    for (const std::string_view library : libraries) {
+        const bool isRouter = library == file_of::Router && wanted.starts_with(file_of::Ibm);
+        if (isRouter || (!wanted.empty() && wanted.starts_with(library))) needed.emplace_back(library);
     }
     return needed;
 }
 
-std::string lackOf(const Library& library) {
-    const std::optional<std::string> file = emulator::findLibrary(std::string(library.name).c_str());
-    const std::string name(library.name);
-    if (!file) return name + " is not in the folder " + emulator::providerFolder();
+std::string lackOf(const std::string& library) {
+    const std::optional<std::string> file = emulator::findLibrary(library.c_str());
+    if (!file) return library + " is not in the folder " + emulator::providerFolder();
     std::string reason;
     void* module = loader::open(*file, &reason);
     if (module == nullptr) return *file + " cannot be loaded: " + reason;
     std::string missing;
-    for (const char* entry : library.entries)
-        if (loader::find(module, entry) == nullptr) missing += (missing.empty() ? "" : ", ") + std::string(entry);
+    for (const Entry& entry : entries) {
+        const bool isWanted = entry.library == library && entry.need == Need::Needed;
+        if (isWanted && loader::find(module, entry.name) == nullptr)
+            missing += (missing.empty() ? "" : ", ") + std::string(entry.name);
+    }
     return missing.empty() ? "" : *file + " has no entry " + missing;
 }
 
@@ -86,13 +99,13 @@ std::vector<std::string> whyNothingIsBound(ZhstSession session) {
     const std::int32_t transport = emulator::number(session, setting::TransportType);
     const std::string asked =
         named("router kind", "RouterKind", router) + " and " + named("transport type", "TransportType", transport);
-    const std::vector<const Library*> needed = neededBy(router, transport);
+    const std::vector<std::string> needed = neededBy(router, transport);
     if (needed.empty()) return {asked + " go with no provider; \"z7xfer settings TransportType\" lists those that do"};
     std::string names;
-    for (const Library* library : needed) names += (names.empty() ? "" : " and ") + std::string(library->name);
+    for (const std::string& library : needed) names += (names.empty() ? "" : " and ") + library;
     std::vector<std::string> lines = {asked + " call for " + names};
-    for (const Library* library : needed)
-        if (std::string lack = lackOf(*library); !lack.empty()) lines.push_back(std::move(lack));
+    for (const std::string& library : needed)
+        if (std::string lack = lackOf(library); !lack.empty()) lines.push_back(std::move(lack));
     if (lines.size() == 1) {
         lines.push_back(
             "the library has all its entries, but made no client, or its router does not run: whoever made "
