@@ -66,6 +66,24 @@ TEST_F(CliKeep, ExistingPcFileIsReplacedInItsPlaceAppendedToOrLeft) {
         EXPECT_EQ(outcome.status == 0, row.left != "old") << outcome.errors;
         EXPECT_TRUE(read("c.csv") == row.left) << row.options;
     }
+    // A description beside it goes the same way; one that is left keeps a new PC file from being written beside it.
+    const struct {
+        const char* options;
+        bool isThere;
+        int status;
+        const char *description, *text;
+    } descriptions[] = {{"--no-clobber", true, 130, "old", "c.csv exists and is as it was"},
+                        {"--no-clobber", false, 130, "old", "c.fdf exists and is as it was"},
+                        {"--no-clobber --where \"CODE = 'none'\"", false, 130, "old", "c.fdf exists and is as it was"},
+                        {"--force", true, 0, "PCF", "complete"},
+                        {"--append", true, 0, "PCF", "complete"}};
+    for (const auto& row : descriptions) {
+        row.isThere ? writeFile(path("c.csv"), "old") : void(fs::remove(path("c.csv")));
+        writeFile(path("c.fdf"), "old");
+        expect(row.status, std::string("receive WORLD/COUNTRY c.csv --describe *.fdf ") + row.options, row.text);
+        EXPECT_EQ(fs::exists(path("c.csv")), row.isThere) << row.options;
+        EXPECT_EQ(read("c.fdf").substr(0, 3), row.description) << row.options;
+    }
     for (const char* both : {"--append --force", "--append --no-clobber", "--force --no-clobber"})
         EXPECT_EQ(run(std::string("receive WORLD/COUNTRY c.csv ") + both).status, 2) << both;
     // A longer file is cut, and stays the file that others know by another name.

@@ -23,7 +23,7 @@ void addExistingFile(CLI::App& app, CommandLine& line) {
             line.options.push_back({setting::ExistingFileAction, value::AskUser});
             line.noClobber = true;
         },
-        "leave a PC file that exists as it is");
+        "receive nothing where the PC file, or its description, exists");
     append->excludes(force)->excludes(leave);
     force->excludes(leave);
 }

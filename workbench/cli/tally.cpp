@@ -82,7 +82,9 @@ std::string stopped(const std::string& how, const Amounts& amounts) {
     return how + " after " + amounts.all() + (amounts.areKept() ? "" : "; the host kept none of them");
 }
 
-Tally endingOf(const TerminalUser& user, const Amounts& amounts, ZhstSession session) {
+Tally endingOf(const TerminalUser& user, const PcText& pcText, const Amounts& amounts, ZhstSession session) {
+    if (!user.leftFile().empty())
+        return {"cancelled: " + pcText.toTerminal(user.leftFile()) + " exists and is as it was", ExitCancelled};
     switch (user.watch().ending()) {
         case Ending::Complete:
             if (emulator::number(session, setting::ConnectionType) == value::DemonstrationConnection) {
@@ -94,8 +96,6 @@ Tally endingOf(const TerminalUser& user, const Amounts& amounts, ZhstSession ses
         case Ending::NoRecords:
             return {"failed: 0 records, " + amounts.target() + " was not written", ExitFailed};
         case Ending::Declined:
-            if (user.leavesFiles())
-                return {"cancelled: " + amounts.target() + " exists and is as it was", ExitCancelled};
             return {"cancelled: not confirmed (--answer replace confirms), " + amounts.target(), ExitCancelled};
         case Ending::Closed:
             return {stopped("closed", amounts), ExitComplete};
@@ -117,7 +117,7 @@ Tally endingOf(const TerminalUser& user, const Amounts& amounts, ZhstSession ses
 
 Tally transferTally(const TerminalUser& user, const PcText& pcText, ZhstSession session, bool sending) {
     const Amounts amounts(user, pcText, session, sending);
-    Tally tally = endingOf(user, amounts, session);
+    Tally tally = endingOf(user, pcText, amounts, session);
     amounts.put(tally);
     return tally;
 }

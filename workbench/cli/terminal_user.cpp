@@ -97,7 +97,7 @@ void TerminalUser::storeWritten(std::string_view code, std::string_view value) {
     watch_.storeWritten(code, value);
     if (sending_ || watch_.recordsSeen() == before) return;
     // The store hears of a record before the file does.
-    emulator::releaseFilesWithNextWrite();
+    if (leftFile_.empty()) emulator::releaseFilesWithNextWrite();
     bar_.advance(watch_.recordsSeen(), ProgressBar::Unit::Records);
 }
 
@@ -123,10 +123,17 @@ void TerminalUser::printMessage(const emulator::MessageBox& box) {
 }
 
 std::int32_t TerminalUser::answer(const emulator::MessageBox& box) {
-    if (isQuestion(box) && line_.noClobber) return questions::choicesOf(box).back().button;
+    if (isQuestion(box) && line_.noClobber) return leaveFile(box);
     if (isQuestion(box)) return questions::ask(questions::choicesOf(box), line_.answer);
     constexpr std::int32_t Ok = 1;
     return line_.answer ? line_.answer->button.value_or(Ok) : Ok;
+}
+
+// A PC file beside a description of another one would be sent by that: either both are written or none is.
+std::int32_t TerminalUser::leaveFile(const emulator::MessageBox& box) {
+    leftFile_ = box.file;
+    if (cancel_) cancel_();
+    return questions::choicesOf(box).back().button;
 }
 
 bool TerminalUser::connectionDialog() {
@@ -207,10 +214,8 @@ void TerminalUser::dataBegins() {
 
 // Before the library ends the request, in whatever way the transfer ends.
 void TerminalUser::allDataTransferred() {
-    if (!sending_)
-        emulator::releaseFiles();  // of no records comes an empty file
-    else if (watch_.messages() == 0)
-        tellHostWhetherWhole(true);
+    if (sending_ && watch_.messages() == 0) tellHostWhetherWhole(true);
+    if (!sending_ && leftFile_.empty()) emulator::releaseFiles();  // of no records comes an empty file
 }
 
 void TerminalUser::progressTotal(std::uint32_t total, std::uint32_t unit) {

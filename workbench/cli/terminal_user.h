@@ -34,7 +34,8 @@ public:
     void onCancel(std::function<void()> cancel) { cancel_ = std::move(cancel); }
 
     const TransferWatch& watch() const { return watch_; }
-    bool leavesFiles() const { return line_.noClobber; }
+    // By its PC name; the file that exists and was left, for which the transfer ended. Empty when there was none.
+    const std::string& leftFile() const { return leftFile_; }
     const std::vector<ShownMessage>& messages() const { return messages_; }
     const Reasons& reasons() const { return reasons_; }
 
@@ -65,6 +66,7 @@ private:
     void storeWritten(std::string_view code, std::string_view value);
     void printMessage(const emulator::MessageBox& box);
     std::int32_t answer(const emulator::MessageBox& box);
+    std::int32_t leaveFile(const emulator::MessageBox& box);
     void dataBegins();
     void allDataTransferred();
     void obeyInterrupt();
@@ -76,6 +78,7 @@ private:
     Notes& notes_;
     std::function<void()> cancel_;
     TransferWatch watch_;
+    std::string leftFile_;
     std::vector<ShownMessage> messages_;
     FieldNames names_;
     Reasons reasons_;

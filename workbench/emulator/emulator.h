@@ -29,6 +29,7 @@ struct MessageBox {
     std::uint32_t helpId = 0;
     bool scrolling = false;
     std::vector<std::string> inserts;  // numbers in decimal
+    std::string file;                  // that a file object asks about, by its PC name
     std::string text;                  // the finished sentence
 };
 

@@ -39,6 +39,7 @@ PcFile::Choice PcFile::askUser() const {
     constexpr std::int32_t Ok = 1, Yes = 6, No = 7, Replace = 10;
     MessageBox box = readyTextBox(session_, MessageSource::PcFile);
     box.flags = Question | (appendOffered_ ? YesNoCancel : OkCancel);
+    box.file = name_;
     box.text = "The file " + name_ + " already exists. ";
     box.text += appendOffered_ ? "Replace it, or add the new data to its end?" : "Replace it?";
     const std::int32_t answer = userInterface().showMessage(box);
