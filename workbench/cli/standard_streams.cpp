@@ -2,7 +2,6 @@
 
 #include <cstdio>
 #include <fstream>
-#include <random>
 #include <stdexcept>
 #include <utility>
 
@@ -10,7 +9,6 @@
 
 namespace {
 
-namespace fs = std::filesystem;
 namespace setting = zhst::setting;
 using console::Stream;
 
@@ -20,19 +18,6 @@ bool isTextType(std::int32_t type) { return type != ZhstBasicRandom && type != Z
 
 bool isRecoded(const CommandLine& line, Stream stream) {
     return line.streamEncoding ? *line.streamEncoding == StreamEncoding::Terminal : console::isTerminal(stream);
-}
-
-// In the folder of files that nobody keeps, and for nobody else.
-fs::path newFile() {
-    std::random_device random;
-    fs::path path;
-    do {
-        path = fs::temp_directory_path() / ("z7xfer-" + std::to_string(random()) + std::to_string(random()));
-    } while (fs::exists(path));
-    std::ofstream(path, std::ios::binary).flush();
-    std::error_code ignored;
-    fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write, ignored);
-    return path;
 }
 
 }  // namespace
@@ -55,17 +40,15 @@ StandardStreams::StandardStreams(const CommandLine& line, const PcText& pcText, 
 }
 
 StandardStreams::~StandardStreams() {
-    std::error_code ignored;
-    if (!kept_.empty()) fs::remove(kept_, ignored);
     emulator::setStandardInputFile("");
     emulator::setOutputEncoder(nullptr);
 }
 
 // By lines, so that a character that is not to be had is found.
 void StandardStreams::keepInput(const PcText* encoding) {
-    kept_ = newFile();
-    emulator::setStandardInputFile(kept_.string());
-    std::ofstream file(kept_, std::ios::binary);
+    kept_.emplace();
+    emulator::setStandardInputFile(kept_->path().string());
+    std::ofstream file(kept_->path(), std::ios::binary);
     std::uint64_t number = 1;
     const auto keep = [&](const std::string& text) {
         try {
@@ -82,5 +65,5 @@ void StandardStreams::keepInput(const PcText* encoding) {
     }
     keep(line);
     file.flush();
-    if (!file) throw std::runtime_error("standard input could not be kept in " + kept_.string());
+    if (!file) throw std::runtime_error("standard input could not be kept in " + kept_->path().string());
 }

@@ -1,10 +1,11 @@
 #pragma once
 
-#include <filesystem>
+#include <optional>
 
 #include "command_line.h"
 #include "emulator/emulator.h"
 #include "pc_text.h"
+#include "temporary_file.h"
 
 // Standard input and output as the PC file of one transfer, "-". A person at a terminal reads and writes texts in the
 // terminal's encoding; other programs get the bytes that a PC file would hold, unless the command line says otherwise.
@@ -20,5 +21,5 @@ public:
 private:
     void keepInput(const PcText* encoding);
 
-    std::filesystem::path kept_;  // empty: nothing
+    std::optional<TemporaryFile> kept_;
 };

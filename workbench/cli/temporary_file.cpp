@@ -1,0 +1,22 @@
+#include "temporary_file.h"
+
+#include <fstream>
+#include <random>
+#include <string>
+
+namespace fs = std::filesystem;
+
+TemporaryFile::TemporaryFile() {
+    std::random_device random;
+    do {
+        path_ = fs::temp_directory_path() / ("z7xfer-" + std::to_string(random()) + std::to_string(random()));
+    } while (fs::exists(path_));
+    std::ofstream(path_, std::ios::binary).flush();
+    std::error_code ignored;
+    fs::permissions(path_, fs::perms::owner_read | fs::perms::owner_write, ignored);
+}
+
+TemporaryFile::~TemporaryFile() {
+    std::error_code ignored;
+    fs::remove(path_, ignored);
+}
