@@ -36,7 +36,8 @@ struct CommandLine {
     bool quiet = false;
     // Of send: whether the file is only checked, not at all, and whether what changes on the way may.
     bool checkOnly = false, unchecked = false, allowChanges = false;
-    bool json = false;  // the tally, or what is listed, is for a program
+    bool verify = false;  // a receive reads its PC file back
+    bool json = false;    // the tally, or what is listed, is for a program
 };
 
 namespace CLI {

@@ -16,7 +16,7 @@
     X(PcFile, "pcFile", "its name as it was given; absent where there is none")                              \
     X(HostFile, "hostFile", "its name as it was given; absent where there is none")                          \
     X(Messages, "messages", "that were shown, {\"id\", \"text\"} each; 0 is the id of those about PC files") \
-    X(Notes, "notes", "of z7xfer's own, told before records go over, {\"text\", \"advice\"} each")           \
+    X(Notes, "notes", "of z7xfer's own, {\"text\", \"advice\"} each")                                        \
     X(Entries, "entries", "of browse: what is listed, an object each")                                       \
     X(Host, "host", "of host: path of the database that takes what is sent")                                 \
     X(IsThere, "isThere", "of host: whether it is there; the first send makes it")                           \

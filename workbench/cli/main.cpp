@@ -23,6 +23,7 @@
 #include "tally.h"
 #include "terminal_user.h"
 #include "transfer_library.h"
+#include "verify_received.h"
 
 // z7xfer: plays the emulator around the transfer library, for a person at a terminal.
 
@@ -110,6 +111,9 @@ ZhstSession openSession(const CommandLine& line, const PcText& pcText) {
     const emulator::Clauses clauses = pcClauses(line, pcText);
     checkLength(clauses, emulator::text(session, zhst::setting::HostFileName));
     emulator::setClauses(session, clauses);
+    const bool toFile = emulator::number(session, zhst::setting::ReceiveOutput) != zhst::value::ToDisplay &&
+                        emulator::text(session, zhst::setting::PcFileName) != "-";
+    if (line.verify && !toFile) throw std::invalid_argument("--verify reads a PC file back, and there is to be none");
     return session;
 }
 
@@ -206,6 +210,8 @@ Tally run(const TransferLibrary& library, const CommandLine& line, const PcText&
     Tally tally = runCommand(library, client, line, pcText, user, session, layouts);
     library.deleteClient(client);
     explainEnding(library, line, pcText, user, session, tally);
+    user.tellLoss();
+    if (line.verify) verifyReceived(library, pcText, line, process::executableFolder(), session, user, tally);
     emulator::setUserInterface(nullptr);
     tally.messages = user.messages();
     return tally;

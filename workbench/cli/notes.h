@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-// Something worth knowing before records go over, in UTF-8.
+// Something worth knowing of a transfer, in UTF-8.
 struct Note {
     std::string text;
     std::string advice;  // what the user can do about it

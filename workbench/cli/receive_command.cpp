@@ -52,5 +52,7 @@ void addReceive(CLI::App& program, CommandLine& line) {
     options.everyday();
     addPcFile(*app, line, "begin a csv or tab file with a line of field names");
     addExistingFile(*app, line);
+    app->add_flag("--verify", line.verify,
+                  "read the PC file back, and tell what another program, or a send, would not read as the host has it");
     addCommon(*app, line);
 }

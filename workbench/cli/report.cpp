@@ -7,7 +7,7 @@ namespace {
 // The first word of a good end; of the others only a cancellation is told apart.
 std::string_view outcomeOf(const Tally& tally) {
     const std::string_view text = tally.text, word = text.substr(0, text.find_first_of(": "));
-    return tally.exitStatus == ExitComplete || word == "cancelled" ? word : "failed";
+    return tally.exitStatus == ExitComplete || word == "cancelled" || word == "complete" ? word : "failed";
 }
 
 }  // namespace

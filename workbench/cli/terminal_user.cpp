@@ -7,6 +7,8 @@
 
 #include "Z7XFRPCS/dialogs.h"
 #include "Z7XFRPCS/text_display.h"
+#include "checking/host_text.h"
+#include "checking/receive_check.h"
 #include "code_page_note.h"
 #include "console.h"
 #include "emulator/setting_rows.h"
@@ -78,6 +80,7 @@ TerminalUser::TerminalUser(const CommandLine& line, const PcText& pcText, ZhstSe
       table_(std::cout, Pager::isWanted()),
       pager_(table_) {
     if (line.header && line.command == Command::Receive) emulator::setHeading([this] { return header(); });
+    if (line.verify) received_ = std::make_unique<checking::ReceivedRecords>();
     emulator::onStoreWrite([this](std::string_view code, std::string_view value) { storeWritten(code, value); });
 }
 
@@ -95,7 +98,13 @@ void TerminalUser::storeWritten(std::string_view code, std::string_view value) {
     }
     const std::uint64_t before = watch_.recordsSeen();
     watch_.storeWritten(code, value);
-    if (sending_ || watch_.recordsSeen() == before) return;
+    if (sending_) return;
+    if (watch_.recordsSeen() == before) {
+        if (received_ && code == "XDFI") received_->keepTrailer(value);
+        return;
+    }
+    if (received_) received_->keep(watch_.fetched(), value);
+    if (losses_) losses_->look(value, watch_.fetched());
     // The store hears of a record before the file does.
     if (leftFile_.empty()) emulator::releaseFilesWithNextWrite();
     bar_.advance(watch_.recordsSeen(), ProgressBar::Unit::Records);
@@ -204,8 +213,17 @@ void TerminalUser::progressCommand(std::uint32_t command) {
 
 // The host has described its fields, and no record has gone over.
 void TerminalUser::dataBegins() {
-    const auto page = static_cast<std::uint32_t>(emulator::number(session_, setting::HostCodePage));
-    const std::optional<Note> note = codePageNote(reasons_.layout(), page);
+    const std::int32_t page = emulator::number(session_, setting::HostCodePage);
+    if (!sending_ && !received_ && checking::HostText::canRead(page))
+        losses_ = std::make_unique<checking::LossWatch>(checking::receivedForm(session_, line_.pc, layout()), layout());
+    tell(codePageNote(layout(), static_cast<std::uint32_t>(page)));
+}
+
+void TerminalUser::tellLoss() {
+    if (losses_) tell(losses_->note());
+}
+
+void TerminalUser::tell(const std::optional<Note>& note) {
     if (!note) return;
     bar_.hide();
     notes_.tell(*note);

@@ -2,9 +2,12 @@
 
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "checking/loss_watch.h"
+#include "checking/received_records.h"
 #include "command_line.h"
 #include "emulator/emulator.h"
 #include "field_names.h"
@@ -38,6 +41,12 @@ public:
     const std::string& leftFile() const { return leftFile_; }
     const std::vector<ShownMessage>& messages() const { return messages_; }
     const Reasons& reasons() const { return reasons_; }
+    // When the transfer is over: once, that a record went by which would not be read back as the host has it.
+    void tellLoss();
+    // Those of a receive that is to be verified; else null.
+    checking::ReceivedRecords* receivedRecords() { return received_.get(); }
+    // What the host has described.
+    const HostLayout& layout() const { return reasons_.layout(); }
 
     std::int32_t showMessage(const emulator::MessageBox& box) override;
     bool connectionDialog() override;
@@ -68,6 +77,7 @@ private:
     std::int32_t answer(const emulator::MessageBox& box);
     std::int32_t leaveFile(const emulator::MessageBox& box);
     void dataBegins();
+    void tell(const std::optional<Note>& note);
     void allDataTransferred();
     void obeyInterrupt();
     void turnPage();
@@ -82,6 +92,8 @@ private:
     std::vector<ShownMessage> messages_;
     FieldNames names_;
     Reasons reasons_;
+    std::unique_ptr<checking::ReceivedRecords> received_;
+    std::unique_ptr<checking::LossWatch> losses_;
     ProgressBar bar_;
     TextTable table_;
     Pager pager_;

@@ -15,7 +15,7 @@ std::uint32_t numberAt(std::string_view result, std::size_t place) {
     return number;
 }
 
-constexpr std::size_t CodeAt = 1, DetailAt = 5;
+constexpr std::size_t CodeAt = 1, DetailAt = 5, LengthAt = 9;
 
 // The icon of a message box.
 constexpr std::uint32_t IconMask = 0xF0;
@@ -38,7 +38,10 @@ void TransferWatch::storeWritten(std::string_view code, std::string_view value) 
         const std::uint32_t result = numberAt(value, CodeAt);
         const bool accepted = result == TF_SUCCESS || result == TF_COMPLETED;
         if (!accepted && result != TF_NO_MORE_DATA) lastRefusal_ = {function, result, numberAt(value, DetailAt)};
-        if (function == TF_GET_DATA && accepted && dataBegun_) ++recordsFetched_;
+        if (function == TF_GET_DATA && accepted && dataBegun_) {
+            ++recordsFetched_;
+            fetched_ = value.substr(ResultHeader, numberAt(value, LengthAt));
+        }
         if (function == TF_PUT_DATA && accepted) ++recordsSent_;
         // The library does not judge the end of a request; a host that rolls a send back says so here.
         const bool ends = function == TF_END_REQUEST || function == TF_END_DATA;

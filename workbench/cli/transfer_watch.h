@@ -60,6 +60,8 @@ public:
     bool wasProviderAsked() const { return providerAsked_; }
     // Records that the host has delivered.
     std::uint64_t recordsFetched() const { return recordsFetched_; }
+    // The last one of them, until the next answer comes.
+    std::string_view fetched() const { return fetched_; }
 
 private:
     bool dataEnded_ = false;
@@ -81,6 +83,7 @@ private:
     std::uint64_t recordsWritten_ = 0;
     std::uint64_t recordsSent_ = 0;
     std::uint64_t recordsFetched_ = 0;
+    std::string_view fetched_;
     std::uint64_t displayRows_ = 0;
     std::uint64_t bytesWritten_ = 0;
     std::uint64_t bytesOfRecords_ = 0;  // without the one in hand

@@ -31,7 +31,7 @@ std::string quoted(const std::string& text) {
     return '"' + shown.substr(0, end) + "\"...";
 }
 
-void printFinding(std::ostream& out, const Finding& finding) {
+void printFinding(std::ostream& out, const Finding& finding, std::string_view becomes) {
     const FaultRow& row = rowOf(finding.fault);
     out << (finding.place.empty() ? "the file" : finding.place);
     if (!finding.field.empty())
@@ -42,7 +42,7 @@ void printFinding(std::ostream& out, const Finding& finding) {
     if (row.isRefusal)
         out << " is refused";
     else if (!finding.field.empty())
-        out << " would be stored as " << quoted(finding.stored);
+        out << ' ' << becomes << ' ' << quoted(finding.stored);
     out << "\n    " << withoutControls(finding.reason) << "\n    to do: " << row.advice;
     if (!finding.option.empty()) out << ", or send with " << finding.option;
     out << '\n';
@@ -51,10 +51,11 @@ void printFinding(std::ostream& out, const Finding& finding) {
 }  // namespace
 
 bool isRefusal(Fault fault) { return rowOf(fault).isRefusal; }
+std::string_view adviceOf(Fault fault) { return rowOf(fault).advice; }
 
 void Findings::print(std::ostream& out) const {
-    for (const Finding& finding : ofFile_) printFinding(out, finding);
-    for (const Finding& finding : told_) printFinding(out, finding);
+    for (const Finding& finding : ofFile_) printFinding(out, finding, becomes_);
+    for (const Finding& finding : told_) printFinding(out, finding, becomes_);
     const std::uint64_t untold = refused_ + changed_ - ofFile_.size() - told_.size();
     if (untold == 0) return;
     out << "and " << grouped(untold) << " more; in all:\n";

@@ -35,7 +35,17 @@ namespace checking {
     X(HeaderLine, false, "header line", "remove the line")                                                        \
     X(NoHeader, false, "no header line", "send without --header if it is a record, with --allow-changes if not")  \
     X(NoRecord, false, "no record", "look whether this is the file that was meant")                               \
-    X(ShortRecord, false, "record cut short", "look whether the file is whole")
+    X(ShortRecord, false, "record cut short", "look whether the file is whole")                                   \
+    X(FileDiffers, false, "file changed", "receive once more, and look who else writes to the file")              \
+    X(SeparatorInText, false, "separator in a text", "receive with another list separator, or as tab or dif")     \
+    X(LineEndInText, false, "line end in a text", "receive with the PC file types random or none")                \
+    X(QuoteInText, false, "quote in a text", "receive as csv, tab or dif, which write it twice")                  \
+    X(ZeroByteInText, false, "zero byte in a text", "receive with the PC file type none")                         \
+    X(CharacterReplaced, false, "character replaced", "receive with an --ansi-code-page that has it, or as none") \
+    X(NumberDamaged, false, "damaged number", "correct the number on the host")                                   \
+    X(NumberUnread, false, "number not read", "receive with another decimal separator, or as dif")                \
+    X(NotSentBack, false, "not sent back", "receive with the PC file types random or none to send it back")       \
+    X(SentOtherwise, false, "sent otherwise", "receive with the PC file types random or none to send it back")
 
 enum class Fault {
 #define CHECKING_FAULT(name, isRefusal, title, advice) name,
@@ -50,6 +60,7 @@ inline constexpr std::size_t FaultCount = 0
     ;
 
 bool isRefusal(Fault fault);
+std::string_view adviceOf(Fault fault);
 
 // One of them, in full. Texts are UTF-8.
 struct Finding {
@@ -68,8 +79,9 @@ public:
     static constexpr std::size_t ToldInFull = 20;
     static constexpr std::size_t NoColumn = static_cast<std::size_t>(-1);  // the record, or the file
 
-    // `columns` may still change until the first finding.
-    explicit Findings(const std::vector<HostColumn>& columns) : columns_(columns) {}
+    // `columns` may still change until the first finding. `becomes` stands between a text and what it becomes.
+    explicit Findings(const std::vector<HostColumn>& columns, std::string_view becomes = "would be stored as")
+        : columns_(columns), becomes_(becomes) {}
 
     // `describe` makes the finding; it is called only for those that are told in full.
     template <class Describe>
@@ -90,6 +102,9 @@ public:
     std::uint64_t changed() const { return changed_; }
     bool isEmpty() const { return refused_ + changed_ == 0; }
 
+    // The first ones, those of the file apart.
+    const std::vector<Finding>& told() const { return told_; }
+
     // The findings one by one, then counts by field of all when there are more.
     void print(std::ostream& out) const;
 
@@ -97,6 +112,7 @@ private:
     using Counts = std::array<std::uint64_t, FaultCount>;
 
     const std::vector<HostColumn>& columns_;
+    std::string_view becomes_;
     std::vector<Counts> counts_;  // by column, then those of no column
     std::vector<Finding> ofFile_, told_;
     std::uint64_t refused_ = 0, changed_ = 0;

@@ -43,11 +43,14 @@ HostText::HostText(const PcFileForm& form) : form_(form), hostPage_(pageOf(form.
     std::copy(ansi.begin(), ansi.end(), toPc_.begin());
     // A receive writes a blank for a zero byte.
     toPc_[0] = ' ';
+    toHost_ = codepages::pcToHost(*form.pcPage, *hostPage_);
     const codepages::CodePage* oem = codepages::find(form.pc.oemCodePage);
     if (!form.inOem || !oem) return;
     const codepages::PcTables tables = codepages::pcTables(*form.pcPage, *oem);
     for (char& byte : toPc_) byte = static_cast<char>(tables.ansiToOem[static_cast<std::uint8_t>(byte)]);
     fromOem_ = tables.oemToAnsi;
+    const auto ofAnsi = toHost_;
+    for (std::size_t byte = 0; byte < toHost_.size(); ++byte) toHost_[byte] = ofAnsi[fromOem_[byte]];
 }
 
 bool HostText::isSameSingle(std::string_view text, std::string_view host) const {
@@ -69,6 +72,21 @@ bool HostText::isSame(std::string_view text, std::string_view host) const {
     return form_.pcPage->encode(trimmed(toUtf8(text))) == form_.pcPage->encode(read(host));
 }
 
+// Zero bytes at the end of a host text stand for blanks.
+bool HostText::isWholeSingle(std::string_view text, std::string_view host) const {
+    std::size_t at = 0;
+    const std::size_t common = std::min(text.size(), host.size());
+    while (at < common && toHost_[static_cast<std::uint8_t>(text[at])] == static_cast<std::uint8_t>(host[at])) ++at;
+    const auto isBlank = [this](char byte) { return toPc_[static_cast<std::uint8_t>(byte)] == ' '; };
+    return text.find_first_not_of(' ', at) == std::string_view::npos &&
+           std::all_of(host.begin() + static_cast<std::ptrdiff_t>(at), host.end(), isBlank);
+}
+
+bool HostText::isWhole(std::string_view text, std::string_view host) const {
+    if (isSingle_) return isWholeSingle(text, host);
+    return isSame(text, host) && (form_.isUtf8() || missingCharacter(host).empty());
+}
+
 std::string HostText::read(std::string_view host) const { return trimmed(hostPage_->decode(host)); }
 
 std::string HostText::toUtf8(std::string_view text) const {
@@ -88,6 +106,18 @@ std::string HostText::lostCharacter(std::string_view text, std::string_view host
             return std::string(character);
         left.remove_prefix(character.size());
         right.remove_prefix(characterLength(right));
+    }
+    return {};
+}
+
+std::string HostText::missingCharacter(std::string_view host) const {
+    const std::string text = hostPage_->decode(host);
+    for (std::string_view left = text; !left.empty();) {
+        const std::string_view character = left.substr(0, characterLength(left));
+        bool isLossy = false;
+        const std::string ignored = form_.pcPage->encode(character, &isLossy);
+        if (isLossy) return std::string(character);
+        left.remove_prefix(character.size());
     }
     return {};
 }

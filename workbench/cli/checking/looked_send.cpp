@@ -76,19 +76,24 @@ void LookedSend::begin(std::int32_t type) {
     const bool toSource = emulator::number(session_, setting::HostFileType) == zhst::value::SourceFile &&
                           emulator::number(session_, setting::UseDescriptionFile) != 1;
     form_ = pcFileForm(session_, line_.pc, type, toSource);
-    places_.emplace(path_, form_, layout_.recordLength());
-    if (form_.form == RecordForm::Tuples)
-        firstIndex_ = SkippedTuples;
-    else if (form_.isText())
-        firstIndex_ = static_cast<std::uint64_t>(std::max(emulator::number(session_, setting::StartRecord), 1)) - 1;
-    else
+    places_.emplace(path_, form_, layout_.recordLength(), start_.value_or(0));
+    if (!form_.isText()) {
         file_.open(path_, std::ios::binary);
+        file_.seekg(static_cast<std::streamoff>(start_.value_or(0)));
+    } else if (start_) {
+        firstIndex_ = 0;
+    } else if (form_.form == RecordForm::Tuples) {
+        firstIndex_ = SkippedTuples;
+    } else {
+        firstIndex_ = static_cast<std::uint64_t>(std::max(emulator::number(session_, setting::StartRecord), 1)) - 1;
+    }
     if (onBegin) onBegin();
 }
 
 LookedSend::Ending LookedSend::run(std::uint64_t mostRefused) {
     bar_.begin();
     bar_.phase(phase_);
+    if (start_) startReadingAt(*start_, emulator::number(session_, setting::SendFileType) == ZhstDif);
     bool goesOn = true;
     while (goesOn && refused_ < mostRefused) {
         published_ = taken_ = 0;
@@ -162,12 +167,15 @@ void LookedSend::refuseLast() {
 }
 
 // The library goes on at the first record that it sees; tuples it skips stand in front.
+void LookedSend::startReadingAt(std::uint64_t offset, bool isTuples) {
+    emulator::setReadingStart({isTuples ? TuplesToSkip : "", offset});
+    if (!isTuples) emulator::set(session_, setting::StartRecord, 1);
+}
+
 void LookedSend::startBehind(std::uint64_t index) {
     places_->moveTo(index + 1);
     firstIndex_ = index + 1;
-    const bool isTuples = form_.form == RecordForm::Tuples;
-    emulator::setReadingStart({isTuples ? TuplesToSkip : "", places_->offset()});
-    if (!isTuples) emulator::set(session_, setting::StartRecord, 1);
+    startReadingAt(places_->offset(), form_.form == RecordForm::Tuples);
     if (form_.isText()) return;
     file_.clear();
     file_.seekg(static_cast<std::streamoff>(places_->offset()));

@@ -49,6 +49,10 @@ public:
     std::function<void(std::uint64_t index)> onTooLong;
 
     static constexpr std::uint64_t ManyRefused = 10000;
+    // Has it go through the records from this offset of the file on, which are counted from 0 there; of a DIF file it
+    // stands behind the BOT line of a tuple.
+    void beginAt(std::uint64_t offset) { start_ = offset; }
+
     Ending run(std::uint64_t mostRefused = ManyRefused);
 
     const PcFileForm& form() const { return form_; }
@@ -60,6 +64,11 @@ public:
         places_->moveTo(index);
         return places_->name();
     }
+    // Bytes in front of it in the file.
+    std::uint64_t offsetOf(std::uint64_t index) {
+        places_->moveTo(index);
+        return places_->offset();
+    }
 
 private:
     void begin(std::int32_t type);
@@ -68,6 +77,7 @@ private:
     bool stoppedAtRecord();
     void refuseLast();
     void startBehind(std::uint64_t index);
+    void startReadingAt(std::uint64_t offset, bool isTuples);
     std::uint64_t lastIndex() const { return firstIndex_ + (form_.isText() ? published_ : taken_) - 1; }
     const emulator::MessageBox* messageOf(std::uint32_t id) const;
 
@@ -77,6 +87,7 @@ private:
     LookingHost& host_;
     const HostLayout& layout_;
     const char* phase_;
+    std::optional<std::uint64_t> start_;
     SilentTransfer transfer_;
     ProgressBar bar_;
     std::filesystem::path path_;

@@ -78,6 +78,16 @@ std::string_view withoutBlanks(std::string_view text) {
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
+std::string hexDigits(std::string_view bytes) {
+    constexpr char Digits[] = "0123456789ABCDEF";
+    std::string text;
+    for (const char byte : bytes) {
+        text += Digits[static_cast<std::uint8_t>(byte) >> 4];
+        text += Digits[static_cast<std::uint8_t>(byte) & 0x0F];
+    }
+    return text;
+}
+
 std::optional<std::int64_t> plainUnits(std::string_view text, char decimalSeparator, std::uint32_t decimals) {
     const char* at = text.data();
     const char* const end = at + text.size();

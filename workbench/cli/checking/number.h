@@ -38,4 +38,6 @@ std::uint32_t integerDigits(const HostColumn& column);
 
 std::string_view withoutBlanks(std::string_view text);  // at both ends
 
+std::string hexDigits(std::string_view bytes);  // two for each, in capital letters
+
 }  // namespace checking

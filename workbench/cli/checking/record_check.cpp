@@ -12,16 +12,6 @@ namespace {
 
 const std::uint8_t* bytesOf(std::string_view host) { return reinterpret_cast<const std::uint8_t*>(host.data()); }
 
-std::string hexDigits(std::string_view bytes) {
-    constexpr char Digits[] = "0123456789ABCDEF";
-    std::string text;
-    for (const char byte : bytes) {
-        text += Digits[static_cast<std::uint8_t>(byte) >> 4];
-        text += Digits[static_cast<std::uint8_t>(byte) & 0x0F];
-    }
-    return text;
-}
-
 bool isBlank(std::string_view text) { return text.find_first_not_of(' ') == std::string_view::npos; }
 
 std::string counted(std::uint64_t count, const std::string& thing) {

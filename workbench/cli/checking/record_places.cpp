@@ -11,8 +11,17 @@ constexpr std::size_t LongestWord = 4;  // that a line is told by
 
 }  // namespace
 
-RecordPlaces::RecordPlaces(const std::filesystem::path& path, const PcFileForm& form, std::uint32_t recordBytes)
-    : file_(path, std::ios::binary), form_(form), recordBytes_(recordBytes) {}
+std::string placeName(const PcFileForm& form, std::uint64_t index, std::uint64_t line, std::uint64_t offset) {
+    if (form.form == RecordForm::Tuples) return "row " + std::to_string(index) + " (line " + std::to_string(line) + ")";
+    const std::string record = "record " + std::to_string(index + 1);
+    return record + (form.isText() ? " (line " + std::to_string(line) : " (byte " + std::to_string(offset)) + ")";
+}
+
+RecordPlaces::RecordPlaces(const std::filesystem::path& path, const PcFileForm& form, std::uint32_t recordBytes,
+                           std::uint64_t start)
+    : file_(path, std::ios::binary), form_(form), recordBytes_(recordBytes), start_(start), offset_(start) {
+    file_.seekg(static_cast<std::streamoff>(start));
+}
 
 bool RecordPlaces::readPiece() {
     piece_.resize(PieceSize);
@@ -30,7 +39,7 @@ void RecordPlaces::step() {
 void RecordPlaces::moveTo(std::uint64_t index) {
     if (!form_.isText()) {
         index_ = index;
-        offset_ = index * recordBytes_;
+        offset_ = start_ + index * recordBytes_;
         return;
     }
     while (index_ < index && byte() != End) {
@@ -67,13 +76,6 @@ void RecordPlaces::passTuple() {
             return;
         }
     }
-}
-
-std::string RecordPlaces::name() const {
-    if (form_.form == RecordForm::Tuples)
-        return "row " + std::to_string(index_) + " (line " + std::to_string(line_) + ")";
-    const std::string record = "record " + std::to_string(index_ + 1);
-    return record + (form_.isText() ? " (line " + std::to_string(line_) : " (byte " + std::to_string(offset_)) + ")";
 }
 
 }  // namespace checking
