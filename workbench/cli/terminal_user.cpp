@@ -89,23 +89,22 @@ std::string TerminalUser::header() const {
     return names_.header(tabs ? '\t' : line_.pc.listSeparator);
 }
 
-// Descriptions come once a transfer, records millions of times: they are not shown to whoever waits for descriptions.
+// Three values come for each of millions of records, descriptions once a transfer.
 void TerminalUser::storeWritten(std::string_view code, std::string_view value) {
-    if (code.ends_with("TI")) {
+    if (watch_.storeWritten(code, value)) {
+        if (!sending_) recordWritten(value);
+    } else if (code.ends_with("TI")) {
         names_.storeWritten(code, value);
         reasons_.storeWritten(code, value);
-        return;
+    } else if (received_ && code == "XDFI") {
+        received_->keepTrailer(value);
     }
-    const std::uint64_t before = watch_.recordsSeen();
-    watch_.storeWritten(code, value);
-    if (sending_) return;
-    if (watch_.recordsSeen() == before) {
-        if (received_ && code == "XDFI") received_->keepTrailer(value);
-        return;
-    }
-    if (received_) received_->keep(watch_.fetched(), value);
-    if (losses_) losses_->look(value, watch_.fetched());
-    // The store hears of a record before the file does.
+}
+
+// The store hears of a record before the file does.
+void TerminalUser::recordWritten(std::string_view record) {
+    if (losses_) losses_->look(record, watch_.fetched());
+    if (received_) received_->keep(watch_.fetched(), record);
     if (leftFile_.empty()) emulator::releaseFilesWithNextWrite();
     bar_.advance(watch_.recordsSeen(), ProgressBar::Unit::Records);
 }

@@ -73,6 +73,7 @@ private:
     bool barWanted() const;
     std::string header() const;
     void storeWritten(std::string_view code, std::string_view value);
+    void recordWritten(std::string_view record);
     void printMessage(const emulator::MessageBox& box);
     std::int32_t answer(const emulator::MessageBox& box);
     std::int32_t leaveFile(const emulator::MessageBox& box);

@@ -25,30 +25,39 @@ constexpr std::uint32_t QuestionIcon = 0x20;
 
 bool isQuestion(const emulator::MessageBox& box) { return (box.flags & IconMask) == QuestionIcon; }
 
-void TransferWatch::storeWritten(std::string_view code, std::string_view value) {
-    if (code == "XDFI") {
-        bytesOfRecords_ = bytesWritten_;
-        bytesWritten_ += value.size();
-        if (dataEnded_) return;  // the trailer of a DIF file is no record
-        ++recordsWritten_;
-        errorsBeforeLastWrite_ = errors_;
-    } else if (code == "XDGI" && value.size() >= ResultHeader) {
-        providerAsked_ = true;
-        const auto function = static_cast<std::uint8_t>(value[0]);
-        const std::uint32_t result = numberAt(value, CodeAt);
-        const bool accepted = result == TF_SUCCESS || result == TF_COMPLETED;
-        if (!accepted && result != TF_NO_MORE_DATA) lastRefusal_ = {function, result, numberAt(value, DetailAt)};
-        if (function == TF_GET_DATA && accepted && dataBegun_) {
-            ++recordsFetched_;
-            fetched_ = value.substr(ResultHeader, numberAt(value, LengthAt));
-        }
-        if (function == TF_PUT_DATA && accepted) ++recordsSent_;
-        // The library does not judge the end of a request; a host that rolls a send back says so here.
-        const bool ends = function == TF_END_REQUEST || function == TF_END_DATA;
-        if (ends && recordsSent_ > 0 && !accepted && result != TF_NO_MORE_DATA) endRefused_ = true;
-        // Before the data phase the end of data is that of the record count or of the field list.
-        if (function == TF_GET_DATA && result == TF_NO_MORE_DATA && dataBegun_) dataEnded_ = true;
+bool TransferWatch::storeWritten(std::string_view code, std::string_view value) {
+    if (code == "XDGI") return value.size() >= ResultHeader && resultWritten(value);
+    if (code != "XDFI") return false;
+    bytesOfRecords_ = bytesWritten_;
+    bytesWritten_ += value.size();
+    if (dataEnded_) return false;  // the trailer of a DIF file is no record
+    ++recordsWritten_;
+    errorsBeforeLastWrite_ = errors_;
+    return true;
+}
+
+bool TransferWatch::resultWritten(std::string_view value) {
+    providerAsked_ = true;
+    const auto function = static_cast<std::uint8_t>(value[0]);
+    const std::uint32_t result = numberAt(value, CodeAt);
+    const bool accepted = result == TF_SUCCESS || result == TF_COMPLETED;
+    if (accepted && function == TF_GET_DATA && dataBegun_) {
+        ++recordsFetched_;
+        fetched_ = value.substr(ResultHeader, numberAt(value, LengthAt));
+        return false;
     }
+    if (accepted && function == TF_PUT_DATA) {
+        ++recordsSent_;
+        return true;
+    }
+    if (accepted) return false;
+    if (result != TF_NO_MORE_DATA) lastRefusal_ = {function, result, numberAt(value, DetailAt)};
+    // The library does not judge the end of a request; a host that rolls a send back says so here.
+    const bool ends = function == TF_END_REQUEST || function == TF_END_DATA;
+    if (ends && recordsSent_ > 0 && result != TF_NO_MORE_DATA) endRefused_ = true;
+    // Before the data phase the end of data is that of the record count or of the field list.
+    if (function == TF_GET_DATA && result == TF_NO_MORE_DATA && dataBegun_) dataEnded_ = true;
+    return false;
 }
 
 void TransferWatch::progressCommand(std::uint32_t command) {

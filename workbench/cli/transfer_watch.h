@@ -30,7 +30,8 @@ public:
         std::uint32_t function = 0, code = 0, detail = 0;
     };
 
-    void storeWritten(std::string_view code, std::string_view value);
+    // True when a record went by, to the PC file or to the host.
+    bool storeWritten(std::string_view code, std::string_view value);
     void progressCommand(std::uint32_t command);
     void displayRow() { ++displayRows_; }
     void displayEnded() { dataEnded_ = true; }
@@ -64,6 +65,8 @@ public:
     std::string_view fetched() const { return fetched_; }
 
 private:
+    bool resultWritten(std::string_view value);
+
     bool dataEnded_ = false;
     bool dataBegun_ = false;
     bool dialogEnded_ = false;

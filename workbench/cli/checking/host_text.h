@@ -17,6 +17,13 @@ public:
     explicit HostText(const PcFileForm& form);
     static bool canRead(std::int32_t hostCodePage);
 
+    // Whether each byte of a text is a character, on both systems. Then these hold, too.
+    bool isOfBytes() const { return isSingle_; }
+    // A zero byte is one.
+    char toPc(std::uint8_t host) const { return host == 0 ? '\0' : toPc_[host]; }
+    // Whether a character that is received and sent is the same byte again.
+    bool comesBack(std::uint8_t host) const { return toHost_[static_cast<std::uint8_t>(toPc(host))] == host; }
+
     // Whether host bytes say what the text says, blanks at its end apart. `text` is in the PC's code page, quotes
     // undoubled.
     bool isSame(std::string_view text, std::string_view host) const;

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "checking/findings.h"
@@ -15,7 +15,8 @@
 namespace checking {
 
 // Watches the records of a receive for the first one that another program, or a send, would not read as the host has
-// it. Most are passed by a look at their bytes for what may be a sign of that; the others are read.
+// it. Records are passed by a look at the bytes of their texts on the host; those with a byte that may be lost are
+// read.
 class LossWatch {
 public:
     // The host code page of the form is one that can be read.
@@ -25,7 +26,7 @@ public:
 
     // The next record, as it was written and as the host gave it.
     void look(std::string_view record, std::string_view host) {
-        if (isOpen_ && mayLose(record, host)) isOpen_ = written_.compare(records_, record, host);
+        if (isOpen_ && mayLose(host)) isOpen_ = written_.compare(records_, record, host);
         ++records_;
     }
     std::optional<Note> note() const;
@@ -35,18 +36,15 @@ private:
         std::uint32_t offset = 0, length = 0;
     };
 
-    bool mayLose(std::string_view record, std::string_view host) const;
-    bool hasZeroByte(std::string_view host) const;
+    bool mayLose(std::string_view host) const;
 
     PcFileForm form_;
     Findings findings_;
     WrittenRecord written_;
+    std::vector<Range> texts_;                // of the host record, neighbours as one
+    std::array<std::uint8_t, 256> isSign_{};  // 1 for a byte of a host text that may be lost
     bool isOpen_;
-    bool readsAll_;             // a sign would not show
-    std::vector<Range> texts_;  // of the host record, neighbours as one
-    char counted_ = '\0';       // the byte of a meaning that a text might hold bare; 0 for none
-    std::uint64_t wanted_ = 0;  // how many of it there are in a record that loses nothing
-    char allowed_ = ' ';        // the one byte below the blank that may stand in a line
+    bool readsAll_;  // bytes alone are no characters
     std::uint64_t records_ = 0;
 };
 

@@ -26,12 +26,6 @@ bool hasZeroByte(std::string_view host) {
 
 }  // namespace
 
-std::string_view withoutLineEnd(const PcFileForm& form, std::string_view record) {
-    constexpr std::string_view LineEnd = "\r\n";
-    if (form.form == RecordForm::Lines && record.ends_with(LineEnd)) record.remove_suffix(LineEnd.size());
-    return record;
-}
-
 std::string_view partOf(const HostColumn& column, std::string_view host) {
     return column.offset < host.size() ? host.substr(column.offset, column.length) : std::string_view();
 }

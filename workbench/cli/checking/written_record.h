@@ -45,7 +45,10 @@ private:
 };
 
 // The record without the line end that the library writes behind it.
-std::string_view withoutLineEnd(const PcFileForm& form, std::string_view record);
+inline std::string_view withoutLineEnd(const PcFileForm& form, std::string_view record) {
+    if (form.form == RecordForm::Lines && record.ends_with("\r\n")) record.remove_suffix(2);
+    return record;
+}
 
 // What of a host record belongs to a column; shorter, or empty, where the record ends before.
 std::string_view partOf(const HostColumn& column, std::string_view host);
