@@ -1,6 +1,7 @@
 #include "checking/loss_watch.h"
 
 #include <algorithm>
+#include <cstring>
 #include <string>
 
 #include "checking/host_text.h"
@@ -27,6 +28,25 @@ bool isOfAMeaning(const PcFileForm& form, char character) {
     }
 }
 
+// Eight bytes at a time.
+using Word = std::uint64_t;
+constexpr Word inEach(std::uint8_t byte) { return Word{0x0101010101010101} * byte; }
+constexpr std::uint8_t Blank = 0x40, LastControl = 0xFF;  // of the host: its characters are between them
+
+// Whether a byte is no character. High bits say which; compilers take several words at once.
+bool hasControl(const std::uint8_t* bytes, std::size_t length) {
+    Word characters = inEach(0x80);
+    const auto take = [&](const std::uint8_t* place) {
+        Word word = 0;
+        std::memcpy(&word, place, sizeof word);
+        const Word low = word & inEach(0x7F);
+        characters &= ((low + inEach(0x80 - Blank)) | word) & ~((low + inEach(1)) & word);
+    };
+    for (std::size_t at = 0; at + sizeof(Word) <= length; at += sizeof(Word)) take(bytes + at);
+    take(bytes + length - sizeof(Word));  // some once more
+    return characters != inEach(0x80);
+}
+
 }  // namespace
 
 LossWatch::LossWatch(const PcFileForm& form, const HostLayout& layout)
@@ -51,6 +71,7 @@ LossWatch::LossWatch(const PcFileForm& form, const HostLayout& layout)
         const auto host = static_cast<std::uint8_t>(byte);
         const bool mayBeLost = !texts.comesBack(host) || isOfAMeaning(form_, texts.toPc(host));
         isSign_[byte] = mayBeLost ? 1 : 0;
+        if (mayBeLost && host >= Blank && host != LastControl) areControls_ = false;
     }
 }
 
@@ -61,7 +82,8 @@ bool LossWatch::mayLose(std::string_view host) const {
         if (range.offset >= host.size()) break;
         const auto* const bytes = reinterpret_cast<const std::uint8_t*>(host.data()) + range.offset;
         const std::size_t length = std::min<std::size_t>(range.length, host.size() - range.offset);
-        // Half of the instructions for a byte would be the loop's.
+        if (areControls_ && length >= sizeof(Word) && !hasControl(bytes, length)) continue;
+            // Half of the instructions for a byte would be the loop's.
 #pragma GCC unroll 8
         for (std::size_t at = 0; at < length; ++at)
             if (isSign[bytes[at]] != 0) return true;

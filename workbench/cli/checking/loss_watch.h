@@ -43,6 +43,7 @@ private:
     WrittenRecord written_;
     std::vector<Range> texts_;                // of the host record, neighbours as one
     std::array<std::uint8_t, 256> isSign_{};  // 1 for a byte of a host text that may be lost
+    bool areControls_ = true;                 // every one of these
     bool isOpen_;
     bool readsAll_;  // bytes alone are no characters
     std::uint64_t records_ = 0;
