@@ -23,7 +23,8 @@ constexpr ZhstStore TheStore = 1;
 
 enum class PartKind { Closed, Node, List, Item };
 
-struct Part {
+// Of a size that places are reckoned with by shifts: nine times a record.
+struct alignas(32) Part {
     PartKind kind = PartKind::Closed;
     std::uint32_t code = 0;
     ZhstStorePart parent = 0;
