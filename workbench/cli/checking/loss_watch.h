@@ -15,8 +15,8 @@
 namespace checking {
 
 // Watches the records of a receive for the first one that another program, or a send, would not read as the host has
-// it. Records are passed by a look at the bytes of their texts on the host; those with a byte that may be lost are
-// read.
+// it. The first one is read, since a file of which no record can be read begins with it; others are passed by a look at
+// the bytes of their texts on the host, unless one of these may be lost.
 class LossWatch {
 public:
     // The host code page of the form is one that can be read.
@@ -26,7 +26,7 @@ public:
 
     // The next record, as it was written and as the host gave it.
     void look(std::string_view record, std::string_view host) {
-        if (isOpen_ && mayLose(host)) isOpen_ = written_.compare(records_, record, host);
+        if (isOpen_ && (records_ == 0 || mayLose(host))) isOpen_ = written_.compare(records_, record, host);
         ++records_;
     }
     std::optional<Note> note() const;

@@ -55,7 +55,7 @@ bool WrittenRecord::compare(std::uint64_t index, std::string_view record, std::s
             fault = compareNumber(index, at, bytes);
         isWhole = isWhole && !fault;
         // The fields behind it are not where they belong.
-        if (fault == Fault::SeparatorInText || fault == Fault::QuoteInText) break;
+        if (fault == Fault::SeparatorInText || fault == Fault::QuoteInText || fault == Fault::NumberUnread) break;
     }
     return isWhole;
 }
@@ -152,7 +152,7 @@ std::optional<Fault> WrittenRecord::compareNumber(std::uint64_t index, std::size
     }
     if (readDecimal(text, form_.decimalSeparator, false) == wanted) return std::nullopt;
     return tell(Fault::NumberUnread, index, at, wanted->text(form_.decimalSeparator), texts_.toUtf8(text),
-                "what stands between the separators is another number");
+                "what is read in its place is another number");
 }
 
 }  // namespace checking
