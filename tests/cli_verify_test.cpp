@@ -55,7 +55,7 @@ TEST_F(CliVerify, EveryRecordThatCannotBeReadAgainIsTold) {
           "record 7 (line 8), " + name + "\"a\",b\" would come back as \"a\"\n    a quote inside the text"}},
         {"--type basic --decimal , --list-separator ; --columns CUSTNO,RATE --where 'CUSTNO = 100001'",
          {"record 1 (line 1), field CUSTNO: \"100001\" would come back as \"100001,12,5\""}},
-        {"--type dif", {"row 3 (line 59), " + name + lineFeed, "row 4 (line 82)", "row 6 (line 126)"}},
+        {"--type dif", {"row 4 (line 82), " + name + "\"a.b\" would come back as \"a.b\"\n", "row 6 (line 126)"}},
         {"--type text",
          {"record 2", "record 3", "record 4",
           "record 5 (line 6), " + name + "\"a.b\" would come back as \"a b\"\n    a zero byte stands in the text"}},

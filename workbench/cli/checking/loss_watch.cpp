@@ -14,8 +14,8 @@ bool isOfAMeaning(const PcFileForm& form, char character) {
     switch (character) {
         case '\0':
         case '\r':
-        case '\n':
             return form.isText();
+        case '\n':
         case '\x1A':
             return form.form == RecordForm::Lines;
         case '"':

@@ -16,6 +16,19 @@ std::string_view takeLine(std::string_view& rest) {
     return line;
 }
 
+// Where the text of a tuple ends that begins with a quote: at one that is not doubled and ends its line, so that line
+// ends may stand inside. Nowhere, npos, when a single quote begins a line before, which is that of another value.
+std::size_t closingQuote(std::string_view text) {
+    const auto isLineEnd = [&](std::size_t at) { return at >= text.size() || text[at] == '\r' || text[at] == '\n'; };
+    std::size_t quote = text.find('"', 1);
+    while (quote != std::string_view::npos && !isLineEnd(quote + 1)) {
+        const bool isDoubled = text[quote + 1] == '"';
+        if (!isDoubled && isLineEnd(quote - 1)) return std::string_view::npos;
+        quote = text.find('"', quote + (isDoubled ? 2 : 1));
+    }
+    return quote;
+}
+
 // A sign and the digits that so many bytes may give.
 std::uint32_t binaryWidth(std::uint32_t bytes) { return bytes <= 2 ? 6 : bytes <= 4 ? 11 : 20; }
 
@@ -156,23 +169,36 @@ void RecordFields::splitBytes(std::string_view rest) {
 
 // --- Tuples ----------------------------------------------------------------------------------------------------------
 
+// As far as the quote that ends it, or as far as its line.
+void RecordFields::takeTupleText(std::string_view& rest, FieldText& field) {
+    field.isQuoted = rest.starts_with('"');
+    const std::size_t end = field.isQuoted ? closingQuote(rest) : std::string_view::npos;
+    field.isClosed = !field.isQuoted || end != std::string_view::npos;
+    if (end == std::string_view::npos) {
+        field.text = takeLine(rest);
+        if (field.isQuoted) field.text.remove_prefix(1);
+        return;
+    }
+    field.text = rest.substr(1, end - 1);
+    rest.remove_prefix(end);
+    takeLine(rest);
+}
+
 // A value has two lines: its kind (0 a number, 1 a text) with the number, then "V" or the text. Kind -1 ends the tuple.
 void RecordFields::splitTuple(std::string_view rest) {
     for (std::size_t at = 0; at < fields_.size(); ++at) {
         if (rest.empty() || rest.starts_with("-1")) return missFrom(at);
         FieldText& field = fields_[at] = {};
-        const std::string_view head = takeLine(rest), second = takeLine(rest);
+        const std::string_view head = takeLine(rest);
         const bool isNumber = head.starts_with("0,");
         field.isWrongKind = isNumber != columns_[at].isNumber();
-        if (isNumber) {
-            field.text = head.substr(2);
-            if (second != "V" && second != "v") field.behind = second;
+        if (!isNumber) {
+            takeTupleText(rest, field);
             continue;
         }
-        field.isQuoted = second.starts_with('"');
-        field.text = second.substr(field.isQuoted ? 1 : 0);
-        field.isClosed = !field.isQuoted || field.text.ends_with('"');
-        if (field.isQuoted && field.isClosed) field.text.remove_suffix(1);
+        field.text = head.substr(2);
+        const std::string_view second = takeLine(rest);
+        if (second != "V" && second != "v") field.behind = second;
     }
     if (!rest.starts_with("-1")) surplus_ = rest;
 }

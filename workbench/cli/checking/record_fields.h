@@ -40,6 +40,7 @@ private:
     void splitDelimited(std::string_view rest);
     void splitFixed(std::string_view rest);
     void splitTuple(std::string_view rest);
+    static void takeTupleText(std::string_view& rest, FieldText& field);
     void splitBytes(std::string_view rest);
     void takeQuoted(std::string_view& rest, FieldText& field) const;
     std::size_t endOf(std::string_view rest, bool isNumber) const;

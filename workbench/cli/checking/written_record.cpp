@@ -8,8 +8,9 @@
 namespace checking {
 namespace {
 
-// What ends a record of lines for the transfer library.
-constexpr std::string_view LineEnds = "\r\n\x1A";
+// What of a text does not come back. Records of lines end at it for the transfer library; in the texts of a tuple a
+// carriage return is a line feed to others.
+std::string_view lineEndsOf(RecordForm form) { return form == RecordForm::Tuples ? "\r" : "\r\n\x1A"; }
 
 std::string nameOf(char byte) {
     return byte == '\r' ? "a carriage return (0D)" : byte == '\n' ? "a line feed (0A)" : "the end-of-file byte 1A";
@@ -71,10 +72,9 @@ Fault WrittenRecord::tell(Fault fault, std::uint64_t index, std::size_t at, cons
 
 // A tuple has two lines for its head, and two for each value.
 bool WrittenRecord::mayHoldLineEnd(std::string_view record) const {
-    if (form_.form == RecordForm::Lines) return record.find_first_of(LineEnds) != std::string_view::npos;
+    if (form_.form == RecordForm::Lines) return record.find_first_of(lineEndsOf(form_.form)) != std::string_view::npos;
     const auto lines = static_cast<std::ptrdiff_t>(2 + 2 * columns_.size());
-    return form_.form == RecordForm::Tuples && (std::count(record.begin(), record.end(), '\n') != lines ||
-                                                std::count(record.begin(), record.end(), '\r') != lines);
+    return form_.form == RecordForm::Tuples && std::count(record.begin(), record.end(), '\r') != lines;
 }
 
 // True when one of the texts holds it.
@@ -82,11 +82,12 @@ bool WrittenRecord::findLineEnd(std::uint64_t index, std::string_view host) {
     for (std::size_t at = 0; at < columns_.size(); ++at) {
         if (!columns_[at].isText()) continue;
         const std::string text = texts_.read(partOf(columns_[at], host));
-        const std::size_t place = text.find_first_of(LineEnds);
+        const std::size_t place = text.find_first_of(lineEndsOf(form_.form));
         if (place == std::string::npos) continue;
-        tell(Fault::LineEndInText, index, at, text, text.substr(0, place),
-             nameOf(text[place]) + " stands in the text, where a send, and most programs, end the " +
-                 (form_.form == RecordForm::Tuples ? "value" : "record"));
+        const bool isTuple = form_.form == RecordForm::Tuples;
+        tell(Fault::LineEndInText, index, at, text, isTuple ? text : text.substr(0, place),
+             nameOf(text[place]) + (isTuple ? " stands in the text, which other programs read as a line feed"
+                                            : " stands in the text, where a send, and most programs, end the record"));
         return true;
     }
     return false;
