@@ -42,7 +42,9 @@ std::uint64_t lineEndsIn(std::string_view bytes) {
 }  // namespace
 
 PcFileForm receivedForm(ZhstSession session, const emulator::PcSetup& pc, const HostLayout& layout) {
-    const std::int32_t type = emulator::number(session, setting::ReceiveFileType);
+    // A spreadsheet program is given DIF, whatever the type is.
+    const bool toSpreadsheet = emulator::number(session, setting::ReceiveOutput) == zhst::value::ToSpreadsheet;
+    const std::int32_t type = toSpreadsheet ? ZhstDif : emulator::number(session, setting::ReceiveFileType);
     const bool isBare = (type == ZhstCommaSeparated || type == ZhstTabDelimited) && isSourceText(layout);
     return pcFileForm(session, pc, type, isBare);
 }
