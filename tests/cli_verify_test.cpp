@@ -81,6 +81,7 @@ TEST_F(CliVerify, EveryRecordThatCannotBeReadAgainIsTold) {
         const std::string said = isNoted ? "note: " + place + ", field " : "would not be read back";
         EXPECT_EQ(without.errors.find(said) != std::string::npos, isNoted) << without.errors;
     }
+    EXPECT_EQ(receive("QGPL/CUST(ODD)", "--type random --host-code-page 43 --verify").status, 0);
 }
 
 // Texts with commas, quotes and letters of many pages, numbers of all kinds, in every type, and behind what was there.

@@ -20,6 +20,12 @@ std::string trimmed(std::string utf8) {
     }
 }
 
+// Zero bytes at the end say as little as blanks.
+std::string_view withoutEnd(std::string_view text) {
+    constexpr std::string_view Nothing("\0 ", 2);
+    return text.substr(0, text.find_last_not_of(Nothing) + 1);
+}
+
 std::size_t characterLength(std::string_view utf8) {
     std::size_t length = 1;
     while (length < utf8.size() && (static_cast<std::uint8_t>(utf8[length]) & 0xC0) == 0x80) ++length;
@@ -65,8 +71,12 @@ bool HostText::isSameSingle(std::string_view text, std::string_view host) const 
 }
 
 bool HostText::isSame(std::string_view text, std::string_view host) const {
+    text = withoutEnd(text);
     if (isSingle_) return isSameSingle(text, host);
-    if (text.find('\0') != std::string_view::npos) return false;
+    return text.find('\0') == std::string_view::npos && isSameDouble(text, host);
+}
+
+bool HostText::isSameDouble(std::string_view text, std::string_view host) const {
     // Characters that stand for one another in the two pages come out as one.
     if (form_.isUtf8()) return trimmed(std::string(text)) == read(host);
     return form_.pcPage->encode(trimmed(toUtf8(text))) == form_.pcPage->encode(read(host));
@@ -84,7 +94,7 @@ bool HostText::isWholeSingle(std::string_view text, std::string_view host) const
 
 bool HostText::isWhole(std::string_view text, std::string_view host) const {
     if (isSingle_) return isWholeSingle(text, host);
-    return isSame(text, host) && (form_.isUtf8() || missingCharacter(host).empty());
+    return isSameDouble(text, host) && (form_.isUtf8() || missingCharacter(host).empty());
 }
 
 std::string HostText::read(std::string_view host) const { return trimmed(hostPage_->decode(host)); }

@@ -24,8 +24,8 @@ public:
     // Whether a character that is received and sent is the same byte again.
     bool comesBack(std::uint8_t host) const { return toHost_[static_cast<std::uint8_t>(toPc(host))] == host; }
 
-    // Whether host bytes say what the text says, blanks at its end apart. `text` is in the PC's code page, quotes
-    // undoubled.
+    // Whether host bytes say what the text says, blanks and zero bytes at its end apart. `text` is in the PC's code
+    // page, quotes undoubled.
     bool isSame(std::string_view text, std::string_view host) const;
     // Whether a PC text that was received is all that the host bytes say, so that it would be the same bytes again;
     // blanks at its end apart.
@@ -41,6 +41,7 @@ public:
 
 private:
     bool isSameSingle(std::string_view text, std::string_view host) const;
+    bool isSameDouble(std::string_view text, std::string_view host) const;
     bool isWholeSingle(std::string_view text, std::string_view host) const;
 
     const PcFileForm& form_;
