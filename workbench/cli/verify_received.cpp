@@ -5,6 +5,7 @@
 #include "Z7XFRPCS/settings.h"
 #include "checking/host_text.h"
 #include "checking/receive_check.h"
+#include "console.h"
 #include "emulator/emulator.h"
 #include "progress_bar.h"
 
@@ -24,7 +25,7 @@ std::string obstacle(ZhstSession session) {
 
 void notVerified(Tally& tally, const std::string& reason) {
     tally.text += "; not verified: " + reason;
-    if (tally.exitStatus == ExitComplete) tally.exitStatus = ExitFailed;
+    if (tally.exitStatus == ExitComplete) tally.exitStatus = console::interrupted() ? ExitCancelled : ExitFailed;
 }
 
 }  // namespace
