@@ -84,6 +84,17 @@ TEST_F(CliVerify, EveryRecordThatCannotBeReadAgainIsTold) {
     EXPECT_EQ(receive("QGPL/CUST(ODD)", "--type random --host-code-page 43 --verify").status, 0);
 }
 
+TEST_F(CliVerify, RecordsAddedToHalfARecordAreTold) {
+    for (const char* type : {"csv", "random"}) {
+        const std::string options = std::string("--append --type ") + type;
+        writeFile(path("out.csv"), "abc");
+        EXPECT_TRUE(receive("QGPL/CUST", options + " --verify").errors.starts_with("the file, records joined\n"))
+            << type;
+        writeFile(path("out.csv"), "abc");
+        EXPECT_TRUE(receive("QGPL/CUST", options).errors.starts_with("z7xfer: note: out.csv existed, and ")) << type;
+    }
+}
+
 // Texts with commas, quotes and letters of many pages, numbers of all kinds, in every type, and behind what was there.
 TEST_F(CliVerify, WhatCanBeReadAgainIsSound) {
     for (const char* hostFile : {"QGPL/CUST", "QGPL/QCLSRC", "TESTLIB/TELLTALE", "WORLD/LEAPSEC"}) {

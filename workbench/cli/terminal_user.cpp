@@ -7,6 +7,7 @@
 
 #include "Z7XFRPCS/dialogs.h"
 #include "Z7XFRPCS/text_display.h"
+#include "checking/added_records.h"
 #include "checking/host_text.h"
 #include "checking/receive_check.h"
 #include "code_page_note.h"
@@ -219,7 +220,24 @@ void TerminalUser::dataBegins() {
 }
 
 void TerminalUser::tellLoss() {
-    if (losses_) tell(losses_->note());
+    if (!losses_) return;
+    tell(losses_->note());
+    tell(joinedNote());
+}
+
+std::optional<Note> TerminalUser::joinedNote() const {
+    const std::string name = emulator::text(session_, setting::PcFileName);
+    const std::filesystem::path path = emulator::nativePath(name);
+    std::error_code error;
+    const std::uintmax_t size =
+        std::filesystem::is_regular_file(path, error) ? std::filesystem::file_size(path, error) : 0;
+    const std::uint64_t written = emulator::bytesWritten(name).value_or(0);
+    if (error || written == 0 || size <= written) return std::nullopt;
+    const std::string joined =
+        checking::joinedWithWhatWasThere(path, losses_->form(), layout().recordLength(), size - written);
+    if (joined.empty()) return std::nullopt;
+    return Note{pcText_.toTerminal(name) + " existed, and " + joined,
+                "to do: " + std::string(checking::adviceOf(checking::Fault::RecordsJoined))};
 }
 
 void TerminalUser::tell(const std::optional<Note>& note) {

@@ -41,7 +41,8 @@ public:
     const std::string& leftFile() const { return leftFile_; }
     const std::vector<ShownMessage>& messages() const { return messages_; }
     const Reasons& reasons() const { return reasons_; }
-    // When the transfer is over: once, that a record went by which would not be read back as the host has it.
+    // When the transfer is over: once, that a record went by which would not be read back as the host has it; and that
+    // records were added where none begins.
     void tellLoss();
     // Those of a receive that is to be verified; else null.
     checking::ReceivedRecords* receivedRecords() { return received_.get(); }
@@ -70,6 +71,7 @@ public:
 private:
     enum class Display { None, Filling, PageFull, Ended };
 
+    std::optional<Note> joinedNote() const;
     bool barWanted() const;
     std::string header() const;
     void storeWritten(std::string_view code, std::string_view value);

@@ -37,6 +37,7 @@ namespace checking {
     X(NoRecord, false, "no record", "look whether this is the file that was meant")                               \
     X(ShortRecord, false, "record cut short", "look whether the file is whole")                                   \
     X(FileDiffers, false, "file changed", "receive once more, and look who else writes to the file")              \
+    X(RecordsJoined, false, "records joined", "add records to files that end with a whole record only")           \
     X(SeparatorInText, false, "separator in a text", "receive with another list separator, or as tab or dif")     \
     X(LineEndInText, false, "line end in a text", "receive with the PC file types random or none")                \
     X(QuoteInText, false, "quote in a text", "receive as csv, tab or dif, which write it twice")                  \

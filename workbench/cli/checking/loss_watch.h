@@ -30,6 +30,7 @@ public:
         ++records_;
     }
     std::optional<Note> note() const;
+    const PcFileForm& form() const { return form_; }
 
 private:
     struct Range {

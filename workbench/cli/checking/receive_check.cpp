@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "Z7XFRPCS/settings.h"
+#include "checking/added_records.h"
 #include "checking/looked_send.h"
 #include "checking/looking_host.h"
 #include "checking/number.h"
@@ -63,7 +64,8 @@ ReceiveCheck::ReceiveCheck(const TransferLibrary& library, const PcText& pcText,
       findings_(layout.columns, "would come back as"),
       texts_(form_),
       written_(form_, layout, findings_, [this](std::uint64_t index) { return placeOf(index); }),
-      file_(emulator::nativePath(emulator::text(session, setting::PcFileName)), std::ios::binary) {}
+      path_(emulator::nativePath(emulator::text(session, setting::PcFileName))),
+      file_(path_, std::ios::binary) {}
 
 bool ReceiveCheck::run() {
     try {
@@ -92,6 +94,9 @@ void ReceiveCheck::beginFile() {
                              {}});
     }
     offset_ = size - std::min(size, records_.pcBytes());
+    if (const std::string joined = joinedWithWhatWasThere(path_, form_, layout_.recordLength(), offset_);
+        !joined.empty())
+        findings_.addOfFile({Fault::RecordsJoined, "", "", "", "", joined, {}});
     file_.seekg(0);
     std::array<char, 64 * 1024> piece;
     for (std::uint64_t left = offset_; left > 0 && file_;) {

@@ -70,6 +70,7 @@ private:
     HostText texts_;
     WrittenRecord written_;
     std::string reason_;
+    std::filesystem::path path_;
     std::ifstream file_;
 
     // The record in hand: its place in the file, what stands there, what becomes of it.
