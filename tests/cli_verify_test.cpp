@@ -109,6 +109,8 @@ TEST_F(CliVerify, WhatCanBeReadAgainIsSound) {
     }
     EXPECT_EQ(receive("QGPL/CUST", "--type basic --verify").status, 0);
     EXPECT_EQ(run("receive QGPL/CUST - --verify").status, 2);
+    expect(5, "receive TESTLIB/STOCK out.csv --force --ignore-decimal-errors --verify",
+           "record 2 (line 2), field QTY: \"404040\" would come back as \"40404\"");
 }
 
 TEST_F(CliVerify, DoubleByteTextsAreReadAgain) {

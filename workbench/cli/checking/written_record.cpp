@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "checking/number.h"
+#include "damaged_numbers.h"
 
 namespace checking {
 namespace {
@@ -52,7 +53,7 @@ bool WrittenRecord::compare(std::uint64_t index, std::string_view record, std::s
         std::optional<Fault> fault;
         if (column.isText() && !bytes.empty())
             fault = compareText(index, at, bytes);
-        else if (column.isNumber() && bytes.size() == column.length && form_.isText())
+        else if (column.isNumber() && bytes.size() == column.length)
             fault = compareNumber(index, at, bytes);
         isWhole = isWhole && !fault;
         // The fields behind it are not where they belong.
@@ -144,13 +145,16 @@ std::optional<Fault> WrittenRecord::compareNumber(std::uint64_t index, std::size
     const HostColumn& column = columns_[at];
     const auto* bytes = reinterpret_cast<const std::uint8_t*>(host.data());
     const std::string_view text = fields_.fields()[at].text;
+    // Digits are made of damaged bytes, too, but not these bytes of the digits again.
+    if (isDamaged(column, host)) {
+        const std::string stored = form_.isText() ? texts_.toUtf8(text) : hexDigits(text);
+        return tell(Fault::NumberDamaged, index, at, hexDigits(host), stored,
+                    "the host's bytes are no number of the field's type");
+    }
+    if (!form_.isText()) return std::nullopt;
     const auto units = plainUnits(text, form_.decimalSeparator, column.decimals);
     if (units && units == hostUnits(column, bytes)) return std::nullopt;
     const auto wanted = hostDecimal(column, bytes);
-    if (!wanted) {
-        return tell(Fault::NumberDamaged, index, at, hexDigits(host), texts_.toUtf8(text),
-                    "the host's bytes are no number of the field's type");
-    }
     if (readDecimal(text, form_.decimalSeparator, false) == wanted) return std::nullopt;
     return tell(Fault::NumberUnread, index, at, wanted->text(form_.decimalSeparator), texts_.toUtf8(text),
                 "what is read in its place is another number");
