@@ -108,6 +108,14 @@ TEST_F(CliCheck, NothingOfAFileWithARefusedRecordIsSent) {
     }
 }
 
+TEST_F(CliCheck, WhatKeepsAFileFromBeingCheckedHasItsStatus) {
+    receive("QGPL/CUST", "c.csv");
+    expect(3, host("send c.csv QGPL/NOPE --description c.fdf --check"), "not checked: HSF1011 File NOPE");
+    expect(4, host("send no.csv QGPL/CUST --description c.fdf --check"), "not checked: The file no.csv");
+    expect(4, host("send c.csv QGPL/CUST --description no.fdf --check"), "not checked: The file no.fdf");
+    expect(2, host("send c.csv QGPL/CUST --check"), "not checked: A transfer to a data file");
+}
+
 TEST_F(CliCheck, ChangesAreSentWhenSomebodySaysSo) {
     receive("QGPL/CUST", "c.csv");
     writeFile(path("c.csv"), "7,A name that is much longer than its field,S,US,5,1,1.5,2,.5,F0F1\r\n");

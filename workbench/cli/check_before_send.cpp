@@ -37,7 +37,7 @@ bool isWanted(const CommandLine& line) {
 Tally checkedOnly(const SendCheck& check, Verdict verdict) {
     if (verdict == Verdict::Sound)
         return {"checked: " + counted(check.records(), "record") + ", all would arrive as written", ExitComplete};
-    if (verdict == Verdict::NotChecked) return {"not checked: " + check.reason(), ExitFailed};
+    if (verdict == Verdict::NotChecked) return {"not checked: " + check.reason(), check.status()};
     return {"checked: " + summary(check), ExitBadData};
 }
 

@@ -8,6 +8,7 @@
 #include "codepages.h"
 #include "emulator/setting_rows.h"
 #include "silent_transfer.h"
+#include "transfer_watch.h"
 
 namespace {
 
@@ -86,7 +87,9 @@ HostLayout askHostLayout(const TransferLibrary& library, const PcText& pcText, Z
     makeQuery(asking, hostFile);
     HostLayout layout;
     SilentTransfer transfer(library, asking);
+    TransferWatch watch;
     transfer.onStoreWrite = [&](std::string_view code, std::string_view value) {
+        watch.storeWritten(code, value);
         if (code != DescriptionItem || value.size() < DescriptionBytes) return;
         layout.columns.push_back(hostColumn(value, layout.recordLength()));
     };
@@ -97,7 +100,10 @@ HostLayout askHostLayout(const TransferLibrary& library, const PcText& pcText, Z
     transfer.run(FromHost);
     if (layout.columns.empty() || !transfer.messages().empty()) {
         layout.columns.clear();
-        layout.refusal = transfer.messages().empty() ? "the host described no fields" : transfer.said(pcText);
+        layout.refusal = "the host described no fields";
+        if (transfer.messages().empty()) return layout;
+        layout.refusal = transfer.said(pcText);
+        layout.status = statusOf(transfer.messages().front(), watch.lastRefusal().code);
     }
     return layout;
 }

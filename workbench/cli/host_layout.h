@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "Z7XFRPCS/session.h"
+#include "exit_status.h"
 #include "pc_text.h"
 #include "transfer_library.h"
 
@@ -43,6 +44,7 @@ HostColumn hostColumn(std::string_view description, std::uint32_t offset);
 struct HostLayout {
     std::vector<HostColumn> columns;  // in host order; empty when the host gave none
     std::string refusal;              // what the host or the library said instead, in UTF-8
+    ExitStatus status = ExitFailed;   // that the refusal stands for
 
     std::uint32_t recordLength() const;
     // Null when there is no column of the name, letters compared without case.

@@ -119,6 +119,10 @@ std::string LookedSend::said() const {
     return transfer_.said(pcText_);
 }
 
+ExitStatus LookedSend::status() const {
+    return transfer_.messages().empty() ? ExitFailed : statusOf(transfer_.messages().front(), 0);
+}
+
 // --- What was taken ------------------------------------------------------------------------------------------------
 
 std::string_view LookedSend::pcRecord() {

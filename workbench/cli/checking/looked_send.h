@@ -12,6 +12,7 @@
 #include "checking/pc_file_form.h"
 #include "checking/record_places.h"
 #include "command_line.h"
+#include "exit_status.h"
 #include "host_layout.h"
 #include "progress_bar.h"
 #include "silent_transfer.h"
@@ -59,6 +60,7 @@ public:
     std::uint64_t records() const { return records_; }  // that were looked at
     // What the library said last; of a run that failed the reason.
     std::string said() const;
+    ExitStatus status() const;  // that this stands for
     // "record 3 (line 4)"; forward only.
     std::string nameOf(std::uint64_t index) {
         places_->moveTo(index);

@@ -89,6 +89,7 @@ Verdict SendCheck::Run::run() {
     if (ending == LookedSend::Ending::Cancelled) return Verdict::Cancelled;
     if (ending == LookedSend::Ending::Failed) {
         check_.reason_ = send_.said();
+        check_.status_ = send_.status();
         return Verdict::NotChecked;
     }
     if (looksAtAll()) finish();
@@ -225,12 +226,16 @@ bool SendCheck::learnTarget() {
         request = host.request();
         if (request.empty()) {
             isToldBySend_ = true;
-            reason_ = transfer.messages().empty() ? "no request was made" : transfer.said(pcText_);
+            reason_ = "no request was made";
+            if (transfer.messages().empty()) return false;
+            reason_ = transfer.said(pcText_);
+            status_ = statusOf(transfer.messages().front(), 0);
             return false;
         }
     }
     target_ = targetLayout(library_, pcText_, session_, options, request);
     reason_ = target_.layout.refusal;
+    status_ = target_.layout.status;
     return !target_.layout.columns.empty();
 }
 

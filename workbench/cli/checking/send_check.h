@@ -7,6 +7,7 @@
 #include "checking/findings.h"
 #include "checking/target_layout.h"
 #include "command_line.h"
+#include "exit_status.h"
 
 namespace checking {
 
@@ -40,6 +41,7 @@ public:
     // There may be more of them, but so many were refused already that the others were not looked at.
     bool isStopped() const { return isStopped_; }
     const std::string& reason() const { return reason_; }  // why nothing was checked
+    ExitStatus status() const { return status_; }          // that this stands for
     // The library ends this send before it makes a request, and says why.
     bool isToldBySend() const { return isToldBySend_; }
     const Findings& findings() const { return findings_; }
@@ -62,6 +64,7 @@ private:
     Findings findings_;
     std::uint64_t records_ = 0;
     std::string reason_;
+    ExitStatus status_ = ExitFailed;
     bool isStopped_ = false;
     bool isToldBySend_ = false;
 };
