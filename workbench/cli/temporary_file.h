@@ -5,7 +5,7 @@
 // A file in the folder of those that nobody keeps, for nobody else; it goes with this object.
 class TemporaryFile {
 public:
-    // Empty. Throws std::filesystem::filesystem_error when the system has no folder for such files.
+    // Empty. Throws std::runtime_error when the system has no folder for such files.
     TemporaryFile();
     ~TemporaryFile();
     TemporaryFile(const TemporaryFile&) = delete;

@@ -13,7 +13,7 @@ namespace checking {
 // PC file is read back.
 class ReceivedRecords {
 public:
-    // Throws std::filesystem::filesystem_error when there is no folder for temporary files.
+    // Throws std::runtime_error when there is no folder for temporary files.
     ReceivedRecords();
 
     void keep(std::string_view host, std::string_view pc);
