@@ -4,8 +4,7 @@
 #include "commands.h"
 #include "environment/utf8_path.h"
 #include "setting_options.h"
-
-#include <map>
+#include "suggestions.h"
 
 namespace {
 
@@ -58,13 +57,16 @@ void addJson(CLI::App& app, CommandLine& line) {
 
 void addPcFile(CLI::App& app, CommandLine& line, const std::string& header) {
     app.add_flag("--header", line.header, header);
-    const std::map<std::string, StreamEncoding> encodings{{"pc", StreamEncoding::Pc},
-                                                          {"terminal", StreamEncoding::Terminal}};
-    app.add_option(
-           "--encoding", line.streamEncoding,
+    app.add_option_function<std::string>(
+           "--encoding",
+           [&line](const std::string& word) {
+               const std::string small = CLI::detail::to_lower(word);
+               if (small != "pc" && small != "terminal")
+                   throw CLI::ValidationError("--encoding", notOneOf(word, {"pc", "terminal"}));
+               line.streamEncoding = small == "pc" ? StreamEncoding::Pc : StreamEncoding::Terminal;
+           },
            "of texts in standard input and output: the PC's code page, or that of the terminal; when not given, "
            "terminal on one, else pc")
-        ->transform(CLI::CheckedTransformer(encodings, CLI::ignore_case))
         ->type_name("{pc,terminal}");
 }
 

@@ -1,5 +1,6 @@
 #include "setting_options.h"
 
+#include <charconv>
 #include <stdexcept>
 
 #include "emulator/setting_rows.h"
@@ -12,6 +13,14 @@ std::string words(std::uint32_t setting) {
     for (const emulator::SettingValueRow& row : emulator::valuesOf(settingRow(setting)))
         list += (list.empty() ? "{" : ",") + std::string(row.word);
     return list + "}";
+}
+
+// Empty for a number that an option takes.
+std::string whyNoNumber(const std::string& text) {
+    std::int32_t number = -1;
+    const char* const end = text.data() + text.size();
+    const bool isWhole = std::from_chars(text.data(), end, number).ptr == end;
+    return isWhole && number >= 0 ? "" : text + " is no number from 0 to 2147483647";
 }
 
 }  // namespace
@@ -41,7 +50,7 @@ void SettingOptions::number(const std::string& name, std::uint32_t id, const std
                 list->push_back({id, value});
             },
             help)
-        ->check(CLI::NonNegativeNumber)
+        ->check(whyNoNumber)
         ->type_name("N");
 }
 

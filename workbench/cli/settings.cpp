@@ -61,7 +61,10 @@ const emulator::SettingRow* exactSetting(std::string_view numberOrName) {
 [[noreturn]] void refuseValue(const emulator::SettingRow& setting, std::string_view value) {
     std::vector<std::string> words;
     for (const emulator::SettingValueRow& row : emulator::valuesOf(setting)) words.emplace_back(row.word);
-    if (setting.kind == emulator::SettingKind::Number) words.emplace_back("a number");
+    const bool isNumber = setting.kind == emulator::SettingKind::Number;
+    if (isNumber && words.empty())
+        throw std::invalid_argument(std::string(setting.name) + ": " + std::string(value) + " is no number");
+    if (isNumber) words.emplace_back("a number");
     throw std::invalid_argument(std::string(setting.name) + ": " + notOneOf(value, words));
 }
 
