@@ -35,7 +35,8 @@ const Pages pages[] = {{37, {}},
                        {930, {932, 932, 0x0411, '.', ','}},
                        {933, {949, 949, 0x0412, '.', ','}},
                        {935, {936, 936, 0x0804, '.', ','}},
-                       {937, {950, 950, 0x0404, '.', ','}}};
+                       {937, {950, 950, 0x0404, '.', ','}},
+                       {43, {932, 932, 0x0411, '.', ','}}};
 
 // An answer begins with its kind: 0 to 3 data; 4 the end; 5 a return code with a host message; 6 a length with the
 // shared buffer as it is; 7 a length without data. Then the length or code, then the bytes.

@@ -83,6 +83,12 @@ TEST_F(CodePage, TextServicesOfPage43) {
                        umlaut + "\"\r\n1,0\r\n\"" + umlaut + "\"\r\n"),
               std::string::npos)
         << dif;
+    // An odd number of bytes that is more than the field has, in a field that is padded behind such a text.
+    hostFile.fields = {typed(7, "T", 4), character("U", 4)};
+    sendByDescription(99);
+    writePcFile(umlaut + umlaut + "A,B\r\n");
+    send();
+    EXPECT_EQ(hostFile.received, Strings{bytesOf("63 63 C1 40 C2 40 40 40")});
     // A session without the entries leaves texts as they are.
     emulator::Clauses absent;
     absent.absent = true;

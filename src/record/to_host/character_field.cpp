@@ -150,9 +150,9 @@ void CharacterField::prefill(bool doubleByte) {
 }
 
 // Behind an odd number of bytes the first pair of the prefill is overwritten by half, and what is left of it would
-// stand crooked: such a text is padded with single-byte blanks.
+// stand crooked: such a text is padded with single-byte blanks. Text of page 43 may reach beyond the field.
 void CharacterField::padOddText(std::uint32_t stored) {
-    if (stored % 2 != 0) std::fill(buffer_ + stored, buffer_ + plan_.bytes, ' ');
+    if (stored % 2 != 0 && stored < plan_.bytes) std::fill(buffer_ + stored, buffer_ + plan_.bytes, ' ');
 }
 
 // False for a DIF text that is not written as one.
