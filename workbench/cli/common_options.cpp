@@ -24,8 +24,9 @@ void addPc(CLI::App& app, CommandLine& line) {
     // The code pages and the language of a real one are what they are.
     const std::string group = "The PC (code pages and language are its own on Windows)";
     const auto character = [&](const std::string& name, char* place, const std::string& help) {
-        app.add_option_function<std::string>(
-               name, [place](const std::string& value) { *place = value.front(); }, help)
+        return app
+            .add_option_function<std::string>(
+                name, [place](const std::string& value) { *place = value.front(); }, help)
             ->check([](const std::string& value) {
                 return value.size() == 1 ? std::string() : std::string("must be one character");
             })
@@ -42,7 +43,10 @@ void addPc(CLI::App& app, CommandLine& line) {
         ->type_name("N")
         ->group(group);
     character("--decimal", &line.pc.decimalSeparator,
-              "decimal separator, . when not given; for csv with a decimal comma give --list-separator too");
+              "decimal separator, . when not given; for csv with a decimal comma give --list-separator too")
+        ->check([](const std::string& value) {
+            return value == "." || value == "," ? std::string() : std::string("must be a point or a comma");
+        });
     character("--list-separator", &line.pc.listSeparator, "separator of comma-separated files, a comma when not given");
 }
 
